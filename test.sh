@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# Everything that must hold before a change goes in. The tests themselves come last, so that their
+# summary closes the output.
+set -euo pipefail
+cd "$(dirname "$0")"
+jobs=$(nproc)
+
+step() {
+    printf '\n== %s\n' "$1"
+}
+
+build() {
+    cmake --preset "$1" -Wno-dev >/dev/null
+    cmake --build --preset "$1" -j "$jobs"
+}
+
+tools/install_packages.sh test
+
+step "The tree"
+tools/check_tree.py --self-test
+tools/check_tree.py
+
+step "Format"
+git ls-files -z --cached --others --exclude-standard --deduplicate '*.h' '*.cpp' |
+    while IFS= read -r -d '' file; do
+        if [ -f "$file" ]; then printf '%s\0' "$file"; fi # not those that are deleted just now
+    done |
+    xargs -0 -r clang-format --dry-run -Werror
+
+step "Programs and benchmarks"
+build release
+for program in build/release/bench/*_bench; do
+    echo "$program"
+    "$program" --benchmark_min_time=0.01
+done
+bench/desktop_start.py --rounds 1
+
+step "Example cases"
+if [ -f ../shared/cases/check.py ]; then
+    python3 ../shared/cases/check.py build/release/kestrum-cli
+else
+    echo "Not looked at: they do not lie beside this folder."
+fi
+
+step "Build of the tests"
+build asan
+
+step "clang-tidy"
+cmake --preset tidy -Wno-dev >/dev/null
+tools/run_tidy.py
+
+step "Fuzzing"
+build fuzz
+ctest --preset fuzz -j "$jobs"
+
+step "Tests"
+ctest --preset asan -j "$jobs"

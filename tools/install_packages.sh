@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that the project needs and that are not there yet.
+#   tools/install_packages.sh run    to build the programs and run them
+#   tools/install_packages.sh test   to test them as well
+set -euo pipefail
+
+to_run=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core)
+to_test=(libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format clang-tidy
+         git python3 xvfb)
+
+case "${1:-}" in
+    run) wanted=("${to_run[@]}") ;;
+    test) wanted=("${to_run[@]}" "${to_test[@]}") ;;
+    *) echo "usage: tools/install_packages.sh run|test" >&2; exit 2 ;;
+esac
+
+if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    echo "This is no Debian system, so nothing is installed. The build needs what these Debian" >&2
+    echo "packages hold: ${wanted[*]}" >&2
+    exit 0
+fi
+
+# dpkg-query fails when it does not know a package, which only means that it is missing.
+installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null || true)
+missing=()
+for package in "${wanted[@]}"; do
+    grep -qxF "installed $package" <<<"$installed" || missing+=("$package")
+done
+if [ ${#missing[@]} -eq 0 ]; then
+    exit 0
+fi
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "These packages are missing, and without sudo only root can install them:" >&2
+        echo "    apt-get install ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+
+echo "Installing ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}"
