@@ -1,0 +1,36 @@
+#pragma once
+
+#include "cli/event_printer.h"
+#include "platform/dialogs.h"
+
+#include <deque>
+#include <optional>
+#include <string>
+
+namespace kestrum::cli {
+
+/// Dialogs that take their answers from queues and print what was asked.
+class Headless_Dialogs : public Dialogs {
+public:
+    explicit Headless_Dialogs(Event_Printer& printer) : printer_(printer) {}
+
+    Box_Answer Show_Box(const Box& box) override;
+    std::optional<std::string> Choose_File(const Chooser& chooser) override;
+    void Beep() override;
+
+    void Queue_Answer(Box_Answer answer) { answers_.push_back(answer); }
+
+    /// Nothing queues a cancel.
+    void Queue_File(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+
+    void Drop_Queues();
+
+private:
+    [[nodiscard]] Box_Answer Next_Answer(Box_Buttons buttons);
+
+    Event_Printer& printer_;
+    std::deque<Box_Answer> answers_;
+    std::deque<std::optional<std::string>> files_;
+};
+
+} // namespace kestrum::cli

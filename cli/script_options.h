@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/surroundings.h"
+
+#include <span>
+#include <string>
+
+namespace kestrum::cli {
+
+/// How `kestrum-cli script` was called.
+struct Script_Options {
+    Surroundings surroundings;
+    /// The script; "-" reads standard input.
+    std::string file;
+};
+
+/// Reads the arguments behind "script". Raises `Script_Error` for one that cannot be used.
+[[nodiscard]] Script_Options Options_From(std::span<const char* const> arguments);
+
+} // namespace kestrum::cli

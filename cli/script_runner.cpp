@@ -1,0 +1,311 @@
+#include "cli/script_runner.h"
+
+#include "application/events.h"
+#include "application/start_up.h"
+#include "application/variables.h"
+#include "cli/properties.h"
+#include "cli/script_error.h"
+#include "core/field_editor.h"
+#include "core/text.h"
+#include "platform/file_store.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+
+namespace kestrum::cli {
+
+namespace {
+
+/// `\n`, `\t` and `\\` in an argument. A line break of the system is CR LF.
+std::string Unescaped(std::string_view text) {
+    std::string plain;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char next = text[at] == '\\' && at + 1 < text.size() ? text[at + 1] : '\0';
+        if (next == 'n') {
+            plain += cr_lf;
+        } else if (next == 't') {
+            plain += '\t';
+        } else if (next == '\\') {
+            plain += '\\';
+        } else {
+            plain += text[at];
+            continue;
+        }
+        ++at;
+    }
+    return plain;
+}
+
+bool Has_Caption(Control_Kind kind) {
+    return kind != Control_Kind::Text_Box && kind != Control_Kind::Picture;
+}
+
+Event Value_Of(const Variable_Value& value) {
+    if (const auto* const text = std::get_if<std::string>(&value)) {
+        return *text;
+    }
+    const double number = std::get<double>(value);
+    const auto whole = static_cast<long long>(number);
+    return static_cast<double>(whole) == number ? Event(whole) : Event(number);
+}
+
+std::string Name_In_File(const Control& control) {
+    const std::string address = control.Address();
+    return address.substr(address.find('.') + 1);
+}
+
+} // namespace
+
+/// A line taken apart: the command, the address behind it, and what follows that.
+struct Script_Runner::Words {
+    std::string_view command;
+    std::string_view address;
+    std::string_view argument; // as it stands in the line
+    std::string_view all;      // address and argument
+};
+
+struct Script_Runner::Command {
+    std::string_view name;
+    void (Script_Runner::*run)(const Words& words);
+};
+
+Script_Runner::Script_Runner(Surroundings surroundings, std::ostream& out)
+    : surroundings_(std::move(surroundings)),
+      printer_(out),
+      dialogs_(printer_),
+      windows_(printer_) {}
+
+Script_Runner::~Script_Runner() = default;
+
+void Script_Runner::Start(const std::string& command_line) {
+    Surroundings facts = surroundings_;
+    facts.command_line = command_line;
+    session_.reset();
+    session_ = std::make_unique<Session>(dialogs_, windows_, std::move(facts));
+    Start_Up(*session_);
+}
+
+int Script_Runner::Run(std::istream& script) {
+    std::string line;
+    int number = 0;
+    try {
+        Start(surroundings_.command_line);
+        while (std::getline(script, line)) {
+            ++number;
+            Execute(line);
+        }
+    } catch (const Run_Time_Error& failure) {
+        dialogs_.Drop_Queues();
+        printer_.Print(
+            {{"error", {{"number", failure.Number()}, {"description", failure.Description()}}}});
+        return 1;
+    } catch (const Script_Error& fault) {
+        throw Script_Error("line " + Event(number).dump() + ": " + fault.what());
+    }
+    return 0;
+}
+
+void Script_Runner::Execute(std::string_view line) {
+    static constexpr std::array<Command, 21> commands{{
+        {"get", &Script_Runner::Get},          {"prop", &Script_Runner::Prop},
+        {"var", &Script_Runner::Var},          {"set", &Script_Runner::Set},
+        {"type", &Script_Runner::Type},        {"leave", &Script_Runner::Leave_Field},
+        {"click", &Script_Runner::Click_On},   {"select", &Script_Runner::Select_Item},
+        {"hover", &Script_Runner::Hover_On},   {"mouse", &Script_Runner::Mouse},
+        {"key", &Script_Runner::Key},          {"answer", &Script_Runner::Answer},
+        {"choose", &Script_Runner::Choose},    {"colour", &Script_Runner::Answer_Colour},
+        {"font", &Script_Runner::Answer_Font}, {"close", &Script_Runner::Close},
+        {"dump", &Script_Runner::Dump},        {"canvas", &Script_Runner::Canvas},
+        {"printer", &Script_Runner::Printer},  {"exit", &Script_Runner::Exit},
+        {"restart", &Script_Runner::Restart},
+    }};
+    if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+    }
+    if (line.find_first_not_of(' ') == std::string_view::npos || line.starts_with('#')) {
+        return;
+    }
+    const auto first_word = [](std::string_view& rest) {
+        const std::string_view word = rest.substr(0, rest.find(' '));
+        rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+        return word;
+    };
+    Words words{};
+    words.argument = line;
+    words.command = first_word(words.argument);
+    words.all = words.argument;
+    words.address = first_word(words.argument);
+    const auto* const command = std::ranges::find(commands, words.command, &Command::name);
+    if (command == commands.end()) {
+        throw Script_Error("unknown command '" + std::string(words.command) + "'");
+    }
+    (this->*command->run)(words);
+}
+
+Screen& Script_Runner::Screen_At(std::string_view name) {
+    Screen* const screen = session_->Screen_Named(name);
+    if (screen == nullptr) {
+        throw Script_Error("there is no screen '" + std::string(name) + "'");
+    }
+    return *screen;
+}
+
+/// "Screen.Control" or "Screen.Control(index)".
+Control& Script_Runner::Control_At(std::string_view address) {
+    const std::size_t dot = address.find('.');
+    const auto unknown = [address] {
+        return Script_Error("there is no control '" + std::string(address) + "'");
+    };
+    if (dot == std::string_view::npos) {
+        throw unknown();
+    }
+    Screen& screen = Screen_At(address.substr(0, dot));
+    std::string_view name = address.substr(dot + 1);
+    std::optional<int> index;
+    const std::size_t bracket = name.find('(');
+    if (bracket != std::string_view::npos) {
+        int value = 0;
+        const char* const last = name.data() + name.size();
+        const auto [end, failure] = std::from_chars(name.data() + bracket + 1, last, value);
+        if (failure != std::errc() || end + 1 != last || *end != ')') {
+            throw unknown();
+        }
+        index = value;
+        name = name.substr(0, bracket);
+    }
+    Control* const control = screen.Find(name, index);
+    if (control == nullptr) {
+        throw unknown();
+    }
+    return *control;
+}
+
+void Script_Runner::Get(const Words& words) {
+    printer_.Print({{"get", words.address}, {"text", Control_At(words.address).Text()}});
+}
+
+void Script_Runner::Prop(const Words& words) {
+    const bool of_control = words.address.find('.') != std::string_view::npos;
+    const auto value = of_control ? Property_Of(Control_At(words.address), words.argument)
+                                  : Property_Of(Screen_At(words.address), words.argument);
+    if (!value) {
+        throw Script_Error("there is no property '" + std::string(words.argument) + "'");
+    }
+    printer_.Print({{"prop", words.address}, {"name", words.argument}, {"value", *value}});
+}
+
+void Script_Runner::Var(const Words& words) {
+    const auto value = Variable_Named(*session_, words.address);
+    if (!value) {
+        throw Script_Error("there is no variable '" + std::string(words.address) + "'");
+    }
+    printer_.Print({{"var", words.address}, {"value", Value_Of(*value)}});
+}
+
+void Script_Runner::Set(const Words& words) {
+    Control_At(words.address).Set_Text(Unescaped(words.argument));
+}
+
+void Script_Runner::Type(const Words& words) {
+    Field_Editor editor(*session_, Control_At(words.address));
+    for (const char32_t key : Characters_Of(Unescaped(words.argument))) {
+        editor.Press(key);
+    }
+}
+
+void Script_Runner::Leave_Field(const Words& words) {
+    Leave(*session_, Control_At(words.address));
+}
+
+void Script_Runner::Click_On(const Words& words) {
+    Click(*session_, Control_At(words.address));
+}
+
+void Script_Runner::Select_Item(const Words& words) {
+    Select(*session_, Control_At(words.address), Unescaped(words.argument));
+}
+
+void Script_Runner::Hover_On(const Words& words) {
+    if (words.address.find('.') == std::string_view::npos) {
+        Hover_Over_Form(Screen_At(words.address));
+    } else {
+        Hover_Over(Control_At(words.address));
+    }
+}
+
+void Script_Runner::Mouse(const Words& words) {
+    // No picture has a routine for the mouse yet; the address must still exist.
+    static_cast<void>(Control_At(words.address));
+}
+
+void Script_Runner::Key(const Words& words) {
+    Field_Editor editor(*session_, Control_At(words.address));
+    for (const char32_t key : Characters_Of(Unescaped(words.argument)).substr(0, 1)) {
+        editor.Press(key);
+    }
+}
+
+void Script_Runner::Answer(const Words& words) {
+    static constexpr std::array<std::pair<std::string_view, Box_Answer>, 4> answers{
+        {{"ok", Box_Answer::Ok},
+         {"cancel", Box_Answer::Cancel},
+         {"yes", Box_Answer::Yes},
+         {"no", Box_Answer::No}}};
+    const auto* const answer =
+        std::ranges::find(answers, words.all, &std::pair<std::string_view, Box_Answer>::first);
+    if (answer == answers.end()) {
+        throw Script_Error("unknown answer '" + std::string(words.all) + "'");
+    }
+    dialogs_.Queue_Answer(answer->second);
+}
+
+void Script_Runner::Choose(const Words& words) {
+    const std::string path = Unescaped(words.all);
+    if (path.empty()) {
+        dialogs_.Queue_File(std::nullopt);
+    } else {
+        dialogs_.Queue_File(Holds_Separator(path) ? path : Join_Path(surroundings_.folder, path));
+    }
+}
+
+void Script_Runner::Answer_Colour(const Words& /*words*/) {
+    // Taken for the dialogs to come; no routine asks for a colour yet.
+}
+
+void Script_Runner::Answer_Font(const Words& /*words*/) {
+    // As for colours.
+}
+
+void Script_Runner::Close(const Words& words) {
+    Close_Window(*session_, Screen_At(words.address));
+}
+
+void Script_Runner::Dump(const Words& words) {
+    Event fields = Event::object();
+    for (const Control& control : Screen_At(words.address).Controls()) {
+        if (control.Is_Text_Box() || Has_Caption(control.Entry().kind)) {
+            fields[Name_In_File(control)] = control.Text();
+        }
+    }
+    printer_.Print({{"dump", words.address}, {"fields", std::move(fields)}});
+}
+
+void Script_Runner::Canvas(const Words& /*words*/) {
+    printer_.Print({{"canvas", Event::array()}});
+}
+
+void Script_Runner::Printer(const Words& /*words*/) {
+    printer_.Print({{"printer", Event::array()}});
+}
+
+void Script_Runner::Exit(const Words& /*words*/) {
+    Exit_Program(*session_);
+}
+
+void Script_Runner::Restart(const Words& words) {
+    Start(Unescaped(words.all));
+}
+
+} // namespace kestrum::cli

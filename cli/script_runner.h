@@ -1,0 +1,71 @@
+#pragma once
+
+#include "cli/event_printer.h"
+#include "cli/headless_dialogs.h"
+#include "cli/headless_windows.h"
+#include "core/session.h"
+
+#include <istream>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+namespace kestrum::cli {
+
+/// Runs a script against a session without a display. The commands and what they print are the
+/// public automation interface; `docs/automation.md` describes them.
+class Script_Runner {
+public:
+    /// `out` takes one JSON object a line.
+    Script_Runner(Surroundings surroundings, std::ostream& out);
+    ~Script_Runner();
+
+    /// Runs to the end of the script. Gives the exit status: 0, or 1 when a failure that no
+    /// routine handles ended the session. Raises `Script_Error`, with the line's number, for an
+    /// unknown command or address.
+    [[nodiscard]] int Run(std::istream& script);
+
+    /// One line of a script. Raises `Script_Error`, and `Run_Time_Error` for an unhandled failure.
+    void Execute(std::string_view line);
+
+    [[nodiscard]] Session& Current_Session() { return *session_; }
+
+private:
+    struct Command;
+    struct Words;
+
+    void Start(const std::string& command_line);
+    [[nodiscard]] Screen& Screen_At(std::string_view name);
+    [[nodiscard]] Control& Control_At(std::string_view address);
+
+    void Get(const Words& words);
+    void Prop(const Words& words);
+    void Var(const Words& words);
+    void Set(const Words& words);
+    void Type(const Words& words);
+    void Leave_Field(const Words& words);
+    void Click_On(const Words& words);
+    void Select_Item(const Words& words);
+    void Hover_On(const Words& words);
+    void Mouse(const Words& words);
+    void Key(const Words& words);
+    void Answer(const Words& words);
+    void Choose(const Words& words);
+    void Answer_Colour(const Words& words);
+    void Answer_Font(const Words& words);
+    void Close(const Words& words);
+    void Dump(const Words& words);
+    void Canvas(const Words& words);
+    void Printer(const Words& words);
+    void Exit(const Words& words);
+    void Restart(const Words& words);
+
+    Surroundings surroundings_;
+    Event_Printer printer_;
+    Headless_Dialogs dialogs_;
+    Headless_Windows windows_;
+    std::unique_ptr<Session> session_;
+};
+
+} // namespace kestrum::cli

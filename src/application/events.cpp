@@ -1,0 +1,146 @@
+#include "application/events.h"
+
+#include "application/commands.h"
+#include "application/start_up.h"
+#include "core/field_handlers.h"
+
+namespace kestrum {
+
+namespace {
+
+void Set_Option(Control& option) {
+    for (Control& other : option.Owner().Controls()) {
+        if (other.Entry().array == option.Entry().array) {
+            other.Set_Value(&other == &option ? 1 : 0);
+        }
+    }
+}
+
+void Run_Routine(Session& session, Control& control) {
+    if (const Routine routine = Routine_Of(control)) {
+        routine(session, control);
+    }
+}
+
+bool Reads_Above(const Numeric_Text& number, const Control& field, Real limit) {
+    try {
+        return number(field) > limit;
+    } catch (const Run_Time_Error&) {
+        return false; // a text that is no number passes
+    }
+}
+
+/// These tests show their box first and return the focus then.
+void Refuse_With_Box(Session& session, Control& field, std::string_view message) {
+    session.Message(message);
+    session.windows.Focus(field);
+}
+
+void Check_Limit(Session& session, Control& field, Real limit, std::string_view message) {
+    if (Reads_Above(session.number, field, limit)) {
+        Refuse_With_Box(session, field, message);
+    }
+}
+
+/// Valve counts are compared as texts: "10" passes, "5" does not.
+void Check_Valve_Count(Session& session, Control& field, std::string_view message) {
+    if (field.Text() > "4" || field.Text() < "1") {
+        Refuse_With_Box(session, field, message);
+    }
+}
+
+void Copy_Lift(Session& session, const Control& lift) {
+    const int sheet = lift.Owner().Name().back() - '0';
+    session.Sheet(sheet).Text108(lift.Index()).Set_Text(lift.Text());
+}
+
+bool Passes_Check(Session& session, Control& field) {
+    switch (field.Entry().check) {
+    case Leave_Check::No_Check:
+        return true;
+    case Leave_Check::Not_Blank:
+        return Check_Not_Blank(session, field);
+    case Leave_Check::Not_Zero:
+        return Check_Not_Zero(session, field);
+    }
+    return true;
+}
+
+Control* Help_Line(Screen& screen) {
+    return screen.Find("Label7", std::nullopt);
+}
+
+} // namespace
+
+void Click(Session& session, Control& control) {
+    if (!control.Present_Look().enabled) {
+        return;
+    }
+    if (control.Entry().kind == Control_Kind::Check_Box) {
+        control.Set_Value(control.Value() == 0 ? 1 : 0);
+    } else if (control.Entry().kind == Control_Kind::Option_Button) {
+        Set_Option(control);
+    }
+    Run_Routine(session, control);
+}
+
+void Select(Session& session, Control& combo, std::string_view text) {
+    combo.Set_Text(text);
+    Run_Routine(session, combo);
+}
+
+void Leave(Session& session, Control& field) {
+    if (!Passes_Check(session, field)) {
+        return;
+    }
+    switch (field.Entry().step) {
+    case Leave_Step::No_Step:
+        return;
+    case Leave_Step::Mach_Limit:
+        return Check_Limit(session, field, 1, "Mach # Can Not be Greater Than 1");
+    case Leave_Step::Ratio_Limit:
+        return Check_Limit(session, field, 25, "CR Can Not be Greater Than 25");
+    case Leave_Step::Intake_Count:
+        return Check_Valve_Count(session, field, "Number of Intake Valves Must be 1 to 4");
+    case Leave_Step::Exhaust_Count:
+        return Check_Valve_Count(session, field, "Number of Exhaust Valves Must be 1 to 4");
+    case Leave_Step::Copy_Lift:
+        return Copy_Lift(session, field);
+    }
+}
+
+void Hover_Over(Control& control) {
+    Control* const line = Help_Line(control.Owner());
+    if (line == nullptr || control.Entry().hover == Hover::Leaves) {
+        return;
+    }
+    if (control.Entry().hover == Hover::Shows) {
+        line->Set_Text(control.Entry().tip);
+        line->Set_Visible(true);
+    } else {
+        line->Set_Visible(false);
+    }
+}
+
+void Hover_Over_Form(Screen& screen) {
+    if (Control* const line = Help_Line(screen)) {
+        line->Set_Visible(false);
+    }
+}
+
+void Close_Window(Session& session, Screen& screen) {
+    const std::string& name = screen.Name();
+    if (name == "Main") {
+        Exit_Program(session);
+    } else if (name == "Form50" || name == "Form70") {
+        session.Hide(screen); // does what "Quit" does, and the closing is cancelled
+    } else {
+        session.Unload(screen);
+    }
+}
+
+bool Has_Routine(const Control& control) {
+    return Routine_Of(control) != nullptr;
+}
+
+} // namespace kestrum

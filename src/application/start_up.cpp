@@ -1,0 +1,72 @@
+#include "application/start_up.h"
+
+#include "core/text.h"
+#include "engine/mode_switches.h"
+#include "presentation/mouse_pointer.h"
+#include "sheet/flow_calculation.h"
+
+#include <vector>
+
+namespace kestrum {
+
+namespace {
+
+void Detect_Separator(Session& session) {
+    session.number.locale_point = session.surroundings.decimal_point;
+    session.number.comma_mode = session.number.locale_point == "," ? 1 : 0;
+}
+
+void Take_Graph_Switches(Session& session) {
+    const Compare_Screen& compare = session.Form50();
+    session.show_quarter_diameter_line = compare.Check1.Value();
+    session.auto_x_lines = compare.Check2.Value();
+    session.show_data_points = compare.Check3.Value();
+    session.show_big = compare.Check4.Value();
+}
+
+void Handle_Switches(Session& session) {
+    const std::string line = Lower_Copy(session.surroundings.command_line);
+    const auto given = [&line](std::string_view name) {
+        return line.find(name) != std::string::npos;
+    };
+    Engine_Screen& main = session.Main();
+    if (given("/fs") || given("/fn")) {
+        session.full_screen_mode = 1;
+        session.aspect_free = given("/fs") ? 0 : 1;
+        main.FullScrRes.Set_Enabled(false);
+        main.AspectRatio.Set_Enabled(false);
+    }
+    if (given("/mp")) {
+        main.MouseP.Set_Enabled(false);
+        Set_Plain_Pointer(session);
+    }
+}
+
+} // namespace
+
+void Start_Up(Session& session) {
+    Detect_Separator(session); // before the first screen, whose texts show the separator
+    Apply_Mach_Mode(session);
+    Apply_Rpm_Mode(session);
+    Take_Graph_Switches(session);
+    if (session.number.comma_mode != 0) {
+        session.Message("Program Set for Decimal Point to be >>,<< [Comma] ",
+                        Box_Icon::Information);
+    }
+    for (int number = 1; number <= sheet_count; ++number) {
+        Calc_Flow_Test(session, session.Sheet(number));
+    }
+    session.screen_dpi = session.surroundings.display.dpi;
+    Handle_Switches(session);
+    session.Show(session.Main());
+}
+
+void Exit_Program(Session& session) {
+    std::vector<Screen*> loaded;
+    session.For_Each_Loaded([&loaded](Screen& screen) { loaded.push_back(&screen); });
+    for (Screen* const screen : loaded) {
+        session.Unload(*screen);
+    }
+}
+
+} // namespace kestrum

@@ -1,0 +1,138 @@
+#include "application/variables.h"
+
+#include "core/field_handlers.h"
+#include "core/text.h"
+#include "screens/tips.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kestrum {
+
+namespace {
+
+struct Variable {
+    std::string_view name;
+    Variable_Value (*read)(const Session& session);
+};
+
+/// A number that is a member of the session.
+template <auto Member>
+Variable_Value Number(const Session& session) {
+    return static_cast<double>(session.*Member);
+}
+
+template <auto Member>
+Variable_Value Text(const Session& session) {
+    return session.*Member;
+}
+
+template <const std::string_view& Constant>
+Variable_Value Fixed(const Session& /*session*/) {
+    return std::string(Constant);
+}
+
+/// Scratch of other days: counters are locals now, and work texts are empty between operations.
+Variable_Value Zero(const Session& /*session*/) {
+    return 0.0;
+}
+
+Variable_Value Empty(const Session& /*session*/) {
+    return std::string();
+}
+
+template <Seat_Geometry Session::*Set, Real Seat_Geometry::*Member>
+Variable_Value Seat(const Session& session) {
+    return (session.*Set.*Member).Value();
+}
+
+using S = Session;
+using G = Seat_Geometry;
+
+const auto variables = std::to_array<Variable>({
+    {"File_Path", Text<&S::file_path>},
+    {"File_Number", Zero},
+    {"Records_Read", Number<&S::records_read>},
+    {"Records_Written", Number<&S::records_written>},
+    {"Work_Text", Empty},
+    {"Find_Pos", Zero},
+    {"Box_Answer", Number<&S::box_answer>},
+    {"Row_Counter", Zero},
+    {"Cr_Lf", Fixed<cr_lf>},
+    {"Msg_Blank", Fixed<msg_blank>},
+    {"Msg_Zero", Fixed<msg_zero>},
+    {"Title_Text", Text<&S::title_text>},
+    {"Intake_Valves", Number<&S::intake_valves>},
+    {"Exhaust_Valves", Number<&S::exhaust_valves>},
+    {"Comma_Mode",
+     [](const S& session) -> Variable_Value { return double(session.number.comma_mode); }},
+    {"Locale_Point",
+     [](const S& session) -> Variable_Value { return session.number.locale_point; }},
+    {"Mouse_Down", Number<&S::mouse_down>},
+    {"Align_Mode",
+     [](const S& session) -> Variable_Value { return double(session.number.align_mode); }},
+    {"Full_Screen_Mode", Number<&S::full_screen_mode>},
+    {"Aspect_Free", Number<&S::aspect_free>},
+    {"Screen_Dpi", Number<&S::screen_dpi>},
+    {"Scale_X", Number<&S::scale_x>},
+    {"Scale_Y", Number<&S::scale_y>},
+    {"Scale_Font", Number<&S::scale_font>},
+    {"Show_Quarter_Diameter_Line", Number<&S::show_quarter_diameter_line>},
+    {"Auto_X_Lines", Number<&S::auto_x_lines>},
+    {"Show_Data_Points", Number<&S::show_data_points>},
+    {"Show_Big", Number<&S::show_big>},
+    {"Canvas_X_Size", Number<&S::canvas_x_size>},
+    {"Canvas_Y_Size", Number<&S::canvas_y_size>},
+    {"Grid_On", Number<&S::grid_on>},
+    {"Grid_Colour", Number<&S::grid_colour>},
+    {"Font_Red", Number<&S::font_red>},
+    {"Font_Green", Number<&S::font_green>},
+    {"Font_Blue", Number<&S::font_blue>},
+    {"Y_Line_Count", Number<&S::y_line_count>},
+    {"X_Line_Count", Number<&S::x_line_count>},
+    {"Draw_Line_Color", Number<&S::draw_line_color>},
+    {"Draw_Line_Width", Number<&S::draw_line_width>},
+    {"Flow_Filter_Index", Number<&S::flow_filter_index>},
+    {"Tip_Calculate", Fixed<tips::calculate>},
+    {"Tip_Exit_Sheet", Fixed<tips::exit_sheet>},
+    {"Tip_Load", Fixed<tips::load>},
+    {"Tip_Save", Fixed<tips::save>},
+    {"Tip_Area_Ratio_In", Fixed<tips::area_ratio_in>},
+    {"Tip_Area_Ratio_Ex", Fixed<tips::area_ratio_ex>},
+    {"Tip_Port_In", Fixed<tips::port_in>},
+    {"Tip_Port_Ex", Fixed<tips::port_ex>},
+    {"Tip_Corner_In_Top", Fixed<tips::corner_in_top>},
+    {"Tip_Corner_In_Bottom", Fixed<tips::corner_in_bottom>},
+    {"Tip_Corner_Ex_Top", Fixed<tips::corner_ex_top>},
+    {"Tip_Corner_Ex_Bottom", Fixed<tips::corner_ex_bottom>},
+    {"Tip_Sort", Fixed<tips::sort>},
+    {"Tip_Prt_Sc", Fixed<tips::print_screen>},
+    {"Seat_Valve_Dia_In", Seat<&S::intake_seat, &G::valve_diameter>},
+    {"Seat_Angle_In", Seat<&S::intake_seat, &G::angle>},
+    {"Seat_Width_In", Seat<&S::intake_seat, &G::width>},
+    {"Seat_Sin_In", Seat<&S::intake_seat, &G::sine>},
+    {"Seat_Cos_In", Seat<&S::intake_seat, &G::cosine>},
+    {"Seat_Tan_In", Seat<&S::intake_seat, &G::tangent>},
+    {"Seat_Radial_In", Seat<&S::intake_seat, &G::radial>},
+    {"Throat_Limit_In", Seat<&S::intake_seat, &G::throat_limit>},
+    {"Seat_Valve_Dia_Ex", Seat<&S::exhaust_seat, &G::valve_diameter>},
+    {"Seat_Angle_Ex", Seat<&S::exhaust_seat, &G::angle>},
+    {"Seat_Width_Ex", Seat<&S::exhaust_seat, &G::width>},
+    {"Seat_Sin_Ex", Seat<&S::exhaust_seat, &G::sine>},
+    {"Seat_Cos_Ex", Seat<&S::exhaust_seat, &G::cosine>},
+    {"Seat_Tan_Ex", Seat<&S::exhaust_seat, &G::tangent>},
+    {"Seat_Radial_Ex", Seat<&S::exhaust_seat, &G::radial>},
+    {"Throat_Limit_Ex", Seat<&S::exhaust_seat, &G::throat_limit>},
+});
+
+} // namespace
+
+std::optional<Variable_Value> Variable_Named(const Session& session, std::string_view name) {
+    const auto* const found = std::ranges::find(variables, name, &Variable::name);
+    if (found == variables.end()) {
+        return std::nullopt;
+    }
+    return found->read(session);
+}
+
+} // namespace kestrum

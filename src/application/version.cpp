@@ -1,0 +1,9 @@
+#include "application/version.h"
+
+namespace kestrum {
+
+std::string Program_Version() {
+    return KESTRUM_VERSION;
+}
+
+} // namespace kestrum

@@ -1,0 +1,253 @@
+#include "files/flow_data_file.h"
+
+#include "core/text.h"
+#include "files/named_files.h"
+#include "files/records.h"
+#include "platform/file_store.h"
+#include "sheet/flow_calculation.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <span>
+
+namespace kestrum {
+
+namespace {
+
+constexpr std::string_view filter =
+    "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Flow Data Files (*.dat)|*.dat";
+constexpr std::string_view loading_failed =
+    "Error Loading Flow Data File --- If you have Not edited the file Please Contact us!";
+constexpr std::string_view comment_key = "comments =";
+
+constexpr std::array volume_rows{0, 1, 3, 4, 6, 8, 10};
+constexpr std::array exhaust_rows{0, 1, 3, 4, 6, 8};
+constexpr std::array width_rows{0, 1, 2, 3, 6};
+constexpr std::array height_rows{0, 1, 2, 3, 6, 7, 8};
+constexpr std::array engine_rows{5, 6, 8};
+constexpr std::array bore_rows{6};
+constexpr std::array seat_rows{4, 5};
+
+/// A column of the sheet with the rows that a file holds of it.
+struct Key_Column {
+    std::string_view array;
+    std::span<const int> header_rows{};
+    bool has_lift_rows = false;
+    bool keeps_case = false;
+    /// The reader takes every row below this one; an old slip that files may rely on.
+    int takes_below = std::numeric_limits<int>::min();
+
+    [[nodiscard]] bool Accepts(int row) const {
+        return row < takes_below || (has_lift_rows && row >= zero_lift_row) ||
+               std::ranges::find(header_rows, row) != header_rows.end();
+    }
+};
+
+constexpr Key_Column lifts{.array = "Text101", .has_lift_rows = true};
+constexpr Key_Column intake{.array = "Text102", .header_rows = volume_rows, .keeps_case = true};
+constexpr Key_Column exhaust{.array = "Text104", .header_rows = exhaust_rows};
+constexpr Key_Column widths{
+    .array = "Text106", .header_rows = width_rows, .has_lift_rows = true, .takes_below = 5};
+constexpr Key_Column exhaust_flow{.array = "Text107", .has_lift_rows = true};
+constexpr Key_Column heights{.array = "Text108", .header_rows = height_rows};
+constexpr Key_Column engine{.array = "Text110", .header_rows = engine_rows};
+constexpr Key_Column engine_bore{.array = "Text112", .header_rows = bore_rows};
+constexpr Key_Column intake_seat{.array = "Text202", .header_rows = seat_rows};
+constexpr Key_Column exhaust_seat{.array = "Text204", .header_rows = seat_rows};
+constexpr Key_Column swirl{.array = "Text207", .has_lift_rows = true};
+constexpr Key_Column intake_depression{.array = "Text210", .has_lift_rows = true};
+constexpr Key_Column exhaust_depression{.array = "Text211", .has_lift_rows = true};
+
+constexpr std::array columns{
+    lifts,       intake,      exhaust,      widths, exhaust_flow,      heights,           engine,
+    engine_bore, intake_seat, exhaust_seat, swirl,  intake_depression, exhaust_depression};
+
+/// Composes the records of a file and counts them.
+class Flow_Writer {
+public:
+    Flow_Writer(Session& session, const Flow_Sheet& sheet) : session_(session), sheet_(sheet) {
+        session_.records_written = 0;
+    }
+
+    void Header(const Key_Column& column) {
+        for (const int row : column.header_rows) {
+            Cell(column, row);
+        }
+    }
+
+    void Lift_Rows(std::initializer_list<Key_Column> side_by_side) {
+        for (int row = zero_lift_row; row <= last_lift_row; ++row) {
+            for (const Key_Column& column : side_by_side) {
+                Cell(column, row);
+            }
+        }
+    }
+
+    void Write_Line(std::string_view key, std::string_view value) {
+        text_.append(key).append(" = ").append(value).append(cr_lf);
+        Count_Record(session_.records_written);
+    }
+
+    [[nodiscard]] std::string Text() && { return std::move(text_); }
+
+private:
+    void Cell(const Key_Column& column, int row) {
+        const std::string key = std::string(column.array) + "_" + session_.number.Fmt_Whole(row);
+        Write_Line(key, sheet_.Array(column.array)(row).Text());
+    }
+
+    Session& session_;
+    const Flow_Sheet& sheet_;
+    std::string text_;
+};
+
+/// An earlier version knew twelve lift rows; its files load with zero rows at the end.
+void Clear_Last_Rows(Flow_Sheet& sheet) {
+    constexpr int first_new_row = 28;
+    for (int row = first_new_row; row <= last_lift_row; ++row) {
+        for (const Control_Array* const column :
+             {&sheet.Text101, &sheet.Text106, &sheet.Text107, &sheet.Text108}) {
+            (*column)(row).Set_Text("0");
+        }
+    }
+}
+
+/// Puts a record of a known key and row into its field; false when it is neither.
+bool Put_Record(const Numeric_Text& number, Flow_Sheet& sheet, const Record& record) {
+    constexpr std::size_t key_length = 8;
+    const std::string_view key = record.Key(key_length);
+    const auto* const column = std::ranges::find_if(columns, [&](const Key_Column& candidate) {
+        return key.starts_with("text") && key.ends_with('_') &&
+               key.substr(4, key.size() - 5) == candidate.array.substr(4);
+    });
+    if (column == columns.end()) {
+        return false;
+    }
+    const int row = number.Read_Integer(record.Row_Text());
+    if (!column->Accepts(row)) {
+        return false;
+    }
+    const std::string_view value = column->keeps_case ? record.Value() : record.Lower_Value();
+    sheet.Array(column->array)(row).Set_Text(value);
+    if (column->array == lifts.array) {
+        sheet.Text108(row).Set_Text(value);
+    }
+    return true;
+}
+
+/// Asks whether to go on behind a line that no key fits.
+bool Goes_On_After(Session& session, std::string_view line) {
+    const Box_Answer answer = session.Message({.text = "Record not Handled -->" + std::string(line),
+                                               .title = "TARVEX - Error Message",
+                                               .buttons = Box_Buttons::Ok_Cancel});
+    if (answer != Box_Answer::Cancel) {
+        return true;
+    }
+    session.Message(loading_failed, Box_Icon::Exclamation);
+    return false;
+}
+
+void Report_Bad_Record(Session& session, std::string_view line) {
+    session.Message({.text = "Invalid Input Record # - " +
+                             session.number.Fmt_Thousands(session.records_read) + "   Data --> " +
+                             std::string(line),
+                     .title = {},
+                     .buttons = Box_Buttons::Ok_Cancel});
+    session.Message(loading_failed, Box_Icon::Exclamation);
+}
+
+/// Goes through the lines; false when the user stopped it.
+bool Read_Lines(Session& session, Flow_Sheet& sheet, Line_Reader& lines) {
+    Record record;
+    bool in_comment = false;
+    while (lines.Next()) {
+        Count_Record(session.records_read);
+        if (in_comment) {
+            sheet.Text38.Append_Text(cr_lf);
+            sheet.Text38.Append_Text(lines.Line());
+            continue;
+        }
+        record.Take(lines.Line());
+        if (record.Key(comment_key.size()) == comment_key) {
+            in_comment = true;
+            // The blank behind the "=" comes along, and each round trip adds one; wanted.
+            sheet.Text38.Set_Text(Middle(record.Line(), comment_key.size() + 1));
+        } else if (!Put_Record(session.number, sheet, record) &&
+                   !Goes_On_After(session, record.Line())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+std::string Flow_File_Text(Session& session, const Flow_Sheet& sheet) {
+    Flow_Writer writer(session, sheet);
+    writer.Lift_Rows({lifts});
+    writer.Header(intake);
+    writer.Header(exhaust);
+    writer.Header(widths);
+    writer.Header(engine_bore);
+    writer.Lift_Rows({widths});
+    writer.Lift_Rows({exhaust_flow});
+    writer.Header(heights);
+    writer.Header(engine);
+    writer.Header(intake_seat);
+    writer.Header(exhaust_seat);
+    writer.Lift_Rows({swirl, intake_depression, exhaust_depression});
+    writer.Write_Line("Comments", sheet.Text38.Text());
+    return std::move(writer).Text();
+}
+
+void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
+    try {
+        session.file_path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
+        Write_Whole_File(session.file_path, Flow_File_Text(session, sheet));
+    } catch (const Run_Time_Error&) {
+        session.Message("Flow Data File has NOT been Saved", Box_Icon::Exclamation);
+        return;
+    }
+    session.Message(session.number.Fmt_Thousands(session.records_written) + " Records Written");
+    sheet.Text39.Set_Text(session.file_path);
+}
+
+void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) {
+    std::string path;
+    std::string bytes;
+    try {
+        path = name.empty() ? Chosen_File(session, Chooser_Mode::Open, filter, 3)
+                            : Path_Of_Named_File(session, name);
+        bytes = Read_Whole_File(path);
+    } catch (const Run_Time_Error&) {
+        session.Message("Flow Data File has Not been Loaded", Box_Icon::Exclamation);
+        return;
+    }
+    session.file_path = path;
+    if (Read_Flow_Records(session, sheet, bytes) && name.empty()) {
+        session.Message(session.number.Fmt_Thousands(session.records_read) + " Records Read");
+    }
+    // Behind the decimal switch, which would make ".dat" ",dat".
+    sheet.Text39.Set_Text(path);
+}
+
+bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes) {
+    const std::string content = Decoded(bytes);
+    Line_Reader lines(content);
+    session.records_read = 0;
+    try {
+        Clear_Last_Rows(sheet);
+        if (!Read_Lines(session, sheet, lines)) {
+            return false;
+        }
+        Apply_Decimal_Mode(session.number, sheet);
+        Calc_Flow_Test(session, sheet);
+    } catch (const Run_Time_Error&) {
+        Report_Bad_Record(session, lines.Line());
+        return false;
+    }
+    return true;
+}
+
+} // namespace kestrum

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/session.h"
+
+#include <string>
+#include <string_view>
+
+namespace kestrum {
+
+/// The inputs of a sheet as the text of a `.dat` file, one record a line.
+[[nodiscard]] std::string Flow_File_Text(Session& session, const Flow_Sheet& sheet);
+
+/// Saves a sheet under the name that the user chooses, and tells how it went.
+void Save_Flow_File(Session& session, Flow_Sheet& sheet);
+
+/// Loads a sheet. An empty name asks the user; a name without a folder lies in the program's own.
+void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name);
+
+/// Reads a file's bytes into a sheet and calculates it, with all its boxes but the closing count.
+/// Gives whether the file was read to its end.
+bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes);
+
+} // namespace kestrum

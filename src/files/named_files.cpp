@@ -1,0 +1,35 @@
+#include "files/named_files.h"
+
+#include "core/text.h"
+#include "platform/file_store.h"
+
+namespace kestrum {
+
+std::string Chosen_File(Session& session, Chooser_Mode mode, std::string_view filter,
+                        int filter_index) {
+    const auto path = session.dialogs.Choose_File({.mode = mode,
+                                                   .filter = std::string(filter),
+                                                   .filter_index = filter_index,
+                                                   .folder = session.surroundings.folder});
+    if (!path) {
+        Fail(error::path_or_file_access);
+    }
+    return *path;
+}
+
+std::string Path_Of_Named_File(const Session& session, std::string_view name) {
+    const std::string_view bare = Without_Outer_Blanks(name);
+    const std::string path = Find_Case_Blind(
+        Holds_Separator(bare) ? std::string(bare) : Join_Path(session.surroundings.folder, bare));
+    const std::size_t comma = path.rfind(',');
+    if (session.number.comma_mode == 0 || File_Exists(path) || comma == std::string::npos) {
+        return path;
+    }
+    // The decimal switch may have made "a.dat" "a,dat" in the field that the name comes from.
+    std::string dotted = path;
+    dotted[comma] = '.';
+    dotted = Find_Case_Blind(dotted);
+    return File_Exists(dotted) ? dotted : path;
+}
+
+} // namespace kestrum

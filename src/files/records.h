@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kestrum {
+
+/// Goes through the lines of a file's decoded content. A line ends with CR LF or LF, the last one
+/// may lack its end, and character 26 ends the file.
+class Line_Reader {
+public:
+    explicit Line_Reader(std::string_view content);
+
+    /// Takes the next line; false at the end.
+    [[nodiscard]] bool Next();
+
+    [[nodiscard]] std::string_view Line() const { return line_; }
+
+private:
+    std::string_view rest_;
+    std::string_view line_;
+};
+
+/// One line "key = value" of the system's own files. Keys are read without regard to case.
+class Record {
+public:
+    void Take(std::string_view line);
+
+    [[nodiscard]] std::string_view Line() const { return line_; }
+
+    /// The first characters of the lower-case copy.
+    [[nodiscard]] std::string_view Key(std::size_t length) const;
+    /// What stands between the key of eight characters and the blank before the "=". Raises 5 for
+    /// a line that is too short for that, one without "=" among them.
+    [[nodiscard]] std::string_view Row_Text() const;
+    /// What stands behind the "=" and its blank, in lower case.
+    [[nodiscard]] std::string_view Lower_Value() const;
+    /// The same as it was written.
+    [[nodiscard]] std::string_view Value() const;
+
+private:
+    std::string_view line_;
+    std::string lower_;
+    std::size_t equals_ = 0; // position of the first "=", 0 without one
+};
+
+/// Counts a record in a 16-bit count. Raises 6 beyond it.
+void Count_Record(int& records);
+
+} // namespace kestrum

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace kestrum {
+
+enum class Box_Icon { None, Information, Exclamation, Stop, Question };
+enum class Box_Buttons { Ok, Ok_Cancel, Yes_No };
+enum class Box_Answer { Ok, Cancel, Yes, No };
+
+/// A message box. An empty title stands for the program's own.
+struct Box {
+    std::string text;
+    std::string title;
+    Box_Icon icon = Box_Icon::None;
+    Box_Buttons buttons = Box_Buttons::Ok;
+};
+
+enum class Chooser_Mode { Open, Save };
+
+/// A file chooser. The filter holds pairs of words and pattern between "|"; entries count from 1.
+/// A chooser for saving asks before it takes the name of a file that is there.
+struct Chooser {
+    Chooser_Mode mode = Chooser_Mode::Open;
+    std::string filter;
+    int filter_index = 1;
+    std::string folder;
+
+    [[nodiscard]] bool Overwrite_Prompt() const { return mode == Chooser_Mode::Save; }
+};
+
+/// The windows that ask the user something and hold the program until the answer.
+struct Dialogs {
+    Dialogs() = default;
+    Dialogs(const Dialogs&) = delete;
+    Dialogs& operator=(const Dialogs&) = delete;
+    virtual ~Dialogs() = default;
+
+    virtual Box_Answer Show_Box(const Box& box) = 0;
+    /// The chosen path, or nothing when the user cancels.
+    virtual std::optional<std::string> Choose_File(const Chooser& chooser) = 0;
+    virtual void Beep() = 0;
+};
+
+} // namespace kestrum

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kestrum {
+
+/// Joins a folder and a name with the platform's separator.
+[[nodiscard]] std::string Join_Path(std::string_view folder, std::string_view name);
+
+/// Whether a name names its folder too, so that it is opened as it stands.
+[[nodiscard]] bool Holds_Separator(std::string_view name);
+
+/// Finds a file: as it stands first, then without regard to case in its folder (an exact match is
+/// preferred, then the first in byte order). Gives the path as it stands when nothing fits.
+[[nodiscard]] std::string Find_Case_Blind(const std::string& path);
+
+[[nodiscard]] bool File_Exists(const std::string& path);
+
+/// The whole content of a file. Raises 53, 70, 75 or 76.
+[[nodiscard]] std::string Read_Whole_File(const std::string& path);
+
+/// Puts a content under a name in one step: a new file beside the target is written, flushed to
+/// the disk and renamed over it. When anything fails, the old file stays whole and the new one is
+/// removed. Raises 70, 75 or 76.
+void Write_Whole_File(const std::string& path, std::string_view content);
+
+} // namespace kestrum

@@ -1,0 +1,159 @@
+#include "screens/compare_screen.h"
+
+#include "screens/tips.h"
+
+#include <array>
+
+namespace kestrum {
+
+namespace {
+
+using enum Control_Kind;
+using enum Key_Filter;
+
+constexpr Control_Entry Table_Head(std::string_view array) {
+    return Captions(array, 10, 15, "");
+}
+
+constexpr Control_Entry Table_Rows(std::string_view array) {
+    return Results(array, 16, 30, "");
+}
+
+constexpr Control_Entry Type(int index, std::string_view caption) {
+    return Members(Option_Button, "Option3", index, index, caption).In("Frame3");
+}
+
+constexpr Control_Entry Axis_Limit(std::string_view name, std::string_view tip) {
+    return Lone_Field(name, Cell_Use::Input, "-").Filter(Signed_Decimal).Selects().Tip(tip);
+}
+
+constexpr std::string_view marker_tip =
+    "If This Field has anything other than a \"-\" that Value will be Used to Draw a Horizontal "
+    "line on the Graph @ that Valve Lift Point.";
+
+// The long help texts of the % types differ in what changes alone.
+#define KESTRUM_PERCENT_TIP(what)                                                                  \
+    "This will show the \"% Change in " what                                                       \
+    "\" from a lift point in the FROM Test to a lift point in the TO Test.\r\n\r\nNOTE: This "     \
+    "will not work if both the FROM and TO tests are the same."
+
+constexpr auto compare_table = std::to_array<Control_Entry>({
+    Table_Head("Text101"),
+    Table_Rows("Text101"),
+    Table_Head("Text102"),
+    Table_Rows("Text102"),
+    Table_Head("Text103"),
+    Table_Rows("Text103"),
+    Table_Head("Text104"),
+    Table_Rows("Text104"),
+    Table_Head("Text105"),
+    Table_Rows("Text105"),
+    Table_Head("Text106"),
+    Table_Rows("Text106"),
+    Table_Head("Text107"),
+    Table_Rows("Text107"),
+    Table_Head("Text108"),
+    Table_Rows("Text108"),
+    Table_Head("Text109"),
+    Table_Rows("Text109"),
+    Table_Head("Text110"),
+    Table_Rows("Text110"),
+
+    Lone(Frame, "Frame1", "Compare Flow"),
+    Members(Option_Button, "Option1", 0, 0, "Test 1").Set().In("Frame1"),
+    Members(Option_Button, "Option1", 1, 4, "Test 2|Test 3|Test 4|Test 5").In("Frame1"),
+    Lone(Frame, "Frame2", "To Flow"),
+    Members(Option_Button, "Option2", 0, 0, "Test 1").In("Frame2"),
+    Members(Option_Button, "Option2", 1, 1, "Test 2").Set().In("Frame2"),
+    Members(Option_Button, "Option2", 2, 4, "Test 3|Test 4|Test 5").In("Frame2"),
+
+    Lone(Frame, "Frame3", "Type of Comparison / Graph"),
+    Type(0, "CFM @ 28\"").Set().Tip("CFM Air Flow @ 28 Inches of Water."),
+    Type(1, "CFM Per Sq/Inch").Tip("Flow per Square Inch / mm of Valve Area."),
+    Type(2, "Mean Port Velocity"),
+    Type(3, "Port Energy"),
+    Type(4, "Port Energy Density"),
+    Type(5, "Effective Velocity")
+        .Tip("This will show the \"Effective Velocity\" which will use the User supplied valve "
+             "seat angle and width as part of this calculation."),
+    Type(6, "Swirl"),
+    Type(7, "SAE CD")
+        .Tip("This will produce the same curve as the CFM per SQ Inch / mm. Only it is unitless "
+             "and will look the same in Standard mode as it will in Metric."),
+    Type(8, "Effective SAE CD")
+        .Tip("This will show the \"Effective SAE CD\" using the User supplied valve seat angle and "
+             "width as part of this calculation."),
+    Type(9, "% Flow").Tip(KESTRUM_PERCENT_TIP("Flow")),
+    Type(10, "% CFM Per Sq/Inch").Tip(KESTRUM_PERCENT_TIP("CFM Per Sq/Inch")),
+    Type(11, "% SAE CD").Tip(KESTRUM_PERCENT_TIP("SAE CD")),
+    Type(12, "% Mean Port Velocity").Tip(KESTRUM_PERCENT_TIP("Mean Port Velocity")),
+    Type(13, "% Effective SAE CD").Tip(KESTRUM_PERCENT_TIP("Effective SAE CD")),
+    Type(14, "% Effective Velocity").Tip(KESTRUM_PERCENT_TIP("Effective Velocity")),
+    Type(15, "% Swirl").Tip(KESTRUM_PERCENT_TIP("Swirl")),
+    Type(16, "% Port Engery").Tip(KESTRUM_PERCENT_TIP("Port Energy")),
+    Type(17, "% Port Engery Density").Tip(KESTRUM_PERCENT_TIP("Port Energy Density")),
+
+    Lone(Frame, "Frame4", "Valve Lift or L/D Ratio"),
+    Members(Option_Button, "Option4", 0, 0, "Valve Lift")
+        .Set()
+        .In("Frame4")
+        .Tip("Graph Intake and Exhaust Using Valve Lift as the X_Axis."),
+    Members(Option_Button, "Option4", 1, 1, "Intake L/D Ratio")
+        .In("Frame4")
+        .Tip("Graph Intake Using Intake L/D Ratio as the X_Axis."),
+    Members(Option_Button, "Option4", 2, 2, "Exhaust L/D Ratio")
+        .In("Frame4")
+        .Tip("Graph Exhaust Using Exhaust L/D Ratio as the X_Axis."),
+
+    Lone(Label, "Label1", "Y Axis Low"),
+    Axis_Limit("Text1", "If This Field has anything other than a \"-\" that Value will be Used for "
+                        "the Y_Axis Low Value for all % Change Graphs."),
+    Lone(Label, "Label2", "Y Axis High"),
+    Axis_Limit("Text2", "If This Field has anything other than a \"-\" that Value will be Used for "
+                        "the Y_Axis High Value for all Graphs."),
+    Lone(Label, "Label3", "Valve Lift 1"),
+    Axis_Limit("Text3", marker_tip),
+    Lone(Label, "Label4", "Valve Lift 2"),
+    Axis_Limit("Text4", marker_tip),
+    Lone_Field("Text71", Cell_Use::Input,
+               "User Supplied Text for Graph Caption Line 1 -- ADD HERE"),
+    Lone_Field("Text72", Cell_Use::Input,
+               "User Supplied Text for Graph Caption Line 2 -- ADD HERE"),
+
+    Lone(Check_Box, "Check1", "Show a Line on the Graph @ .25 Valve Diameter")
+        .Tip("When Checked a Line will be drawn @ .25 Valve Diameter for both the Intake and "
+             "Exhasut for both Flow Tests."),
+    Lone(Check_Box, "Check2", "Calculate the Number of Lines on the X-Axis")
+        .Tip("The Program Default is to have 10 Horizontal Lines on the X-Axis. When Checked this "
+             "will cause the Program Calculate how many Horizontal Lines to use on the X-Axis. "
+             "Depending on Max lift this could be every 0.025\", every 0.050\" or every 0.100\"."
+             "\r\nNotes: This also working in Metric mode.\r\nThis only work for Valve Lift and "
+             "not for L/D Ratio Graphs."),
+    Lone(Check_Box, "Check3", "Show Data Points on Graph.")
+        .Tip("When Checked this will cause the Program to Mark Each Data Point on the Graph."),
+    Lone(Check_Box, "Check4", "Show Big")
+        .Tip("When Checked this will cause the Program to Calculate the Low Y_Axis on the Graph "
+             "instead of Using Zero for Effective Velocity, and Swirl."),
+
+    Push_Button("Command1", "&Calculate")
+        .Tip("Populate Cells from the Indicated \"From\" and \"To\" Flow Tests and User indicated "
+             "\"Type\" of Comparison."),
+    Push_Button("Command2", "&Graph")
+        .Tip("Populate Cells from the Indicated \"From\" and \"To\" Flow Tests and User indicated "
+             "\"Type\" and then Graph them."),
+    Push_Button("Graph_Plus", "Graph &Plus")
+        .Tip("Populate Cells from the Indicated \"From\" and \"To\" Flow Tests and User indicated "
+             "\"Type\" and then Graph them on the PRESENT GRAPH.\r\n\r\nNOTE: This can be used a "
+             "MAX of 3 times on any Graph."),
+    Push_Button("Command3", "Print Calcs").Tip("Print Report Showing Calculations"),
+    Push_Button("Command5", "PrtSc as &JPG").Tip(tips::print_screen),
+    Push_Button("subend", "&Quit").Tip("Quit / Close the Flow Test compare Screen"),
+});
+
+#undef KESTRUM_PERCENT_TIP
+
+} // namespace
+
+Compare_Screen::Compare_Screen() : Screen("Form50", compare_table) {}
+
+} // namespace kestrum

@@ -1,0 +1,119 @@
+#include "screens/control.h"
+
+#include "screens/screen.h"
+
+#include <charconv>
+
+namespace kestrum {
+
+namespace {
+
+/// The text of one member of a table line: its own between the bars, or the one for all.
+std::string_view Stored_Text(const Control_Entry& entry, int index) {
+    if (entry.first == entry.last || entry.text.find('|') == std::string_view::npos) {
+        return entry.text;
+    }
+    std::string_view rest = entry.text;
+    for (int skipped = entry.first; skipped < index; ++skipped) {
+        rest.remove_prefix(rest.find('|') + 1);
+    }
+    return rest.substr(0, rest.find('|'));
+}
+
+constexpr Colour face_colour = 0xF0F0F0;
+
+Look Starting_Look(const Control_Entry& entry) {
+    Look look;
+    look.visible = !entry.starts_hidden;
+    if (entry.kind != Control_Kind::Text_Box) {
+        look.back_colour = entry.back_colour < 0 ? face_colour : entry.back_colour;
+        look.tab_stop = entry.kind != Control_Kind::Label && entry.kind != Control_Kind::Frame &&
+                        entry.kind != Control_Kind::Picture &&
+                        entry.kind != Control_Kind::Menu_Entry;
+        return look;
+    }
+    look.locked = entry.use != Cell_Use::Input;
+    look.tab_stop = entry.use == Cell_Use::Input;
+    if (entry.use == Cell_Use::Result) {
+        look.back_colour = result_back;
+        look.text_colour = result_text;
+    }
+    return look;
+}
+
+} // namespace
+
+Control::Control(Screen& screen, const Control_Entry& entry, int index)
+    : screen_(&screen),
+      entry_(&entry),
+      index_(index),
+      text_(Stored_Text(entry, index)),
+      value_(entry.start_value),
+      look_(Starting_Look(entry)) {}
+
+std::string Control::Address() const {
+    std::string address = screen_->Name();
+    address += '.';
+    address += entry_->array;
+    if (index_ != no_index) {
+        constexpr std::size_t longest = 12;
+        char digits[longest]; // NOLINT(*-avoid-c-arrays)
+        const auto end = std::to_chars(digits, digits + longest, index_).ptr;
+        address += '(';
+        address.append(digits, end);
+        address += ')';
+    }
+    return address;
+}
+
+void Control::Set_Text(std::string_view new_text) {
+    if (text_ != new_text) {
+        text_ = new_text;
+        Mark_Changed();
+    }
+}
+
+void Control::Append_Text(std::string_view more) {
+    text_ += more;
+    Mark_Changed();
+}
+
+void Control::Set_Value(int new_value) {
+    if (value_ != new_value) {
+        value_ = new_value;
+        Mark_Changed();
+    }
+}
+
+void Control::Set_Look(const Look& new_look) {
+    if (look_ != new_look) {
+        look_ = new_look;
+        Mark_Changed();
+    }
+}
+
+void Control::Set_Visible(bool visible) {
+    Look changed_look = look_;
+    changed_look.visible = visible;
+    Set_Look(changed_look);
+}
+
+void Control::Set_Enabled(bool enabled) {
+    Look changed_look = look_;
+    changed_look.enabled = enabled;
+    Set_Look(changed_look);
+}
+
+void Control::Set_Items(std::vector<std::string> new_items) {
+    items_ = std::move(new_items);
+    Mark_Changed();
+}
+
+void Control::Mark_Changed() {
+    if (!changed_) {
+        changed_ = true;
+        screen_->changes_.push_back(this);
+    }
+}
+
+} // namespace kestrum

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "screens/control_entry.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrum {
+
+class Screen;
+
+enum class Alignment { Left = 0, Right = 1, Center = 2 };
+
+struct Font {
+    std::string name = "Arial";
+    double size = 8.25; // points
+    bool bold = false;
+    bool italic = false;
+
+    bool operator==(const Font&) const = default;
+};
+
+/// Colours are the system's blue-green-red numbers: 0x0000FF is red.
+using Colour = int;
+
+// The two looks of a cell.
+inline constexpr Colour input_back = 0xFFFFFF;
+inline constexpr Colour input_text = 0;
+inline constexpr Colour result_back = 0x01FFFF; // yellow
+inline constexpr Colour result_text = 0x0000FF; // red
+
+/// What of a control may change besides its text.
+struct Look {
+    bool visible = true;
+    bool enabled = true;
+    bool locked = false;
+    bool tab_stop = true;
+    Colour back_colour = input_back;
+    Colour text_colour = input_text;
+    Alignment alignment = Alignment::Left;
+    Font font{};
+
+    bool operator==(const Look&) const = default;
+};
+
+/// One control of a screen with its present state. A field of the system is a control of the kind
+/// `Text_Box`; its text is all there is of its value.
+class Control {
+public:
+    Control(Screen& screen, const Control_Entry& entry, int index);
+
+    [[nodiscard]] Screen& Owner() const { return *screen_; }
+
+    [[nodiscard]] const Control_Entry& Entry() const { return *entry_; }
+
+    [[nodiscard]] int Index() const { return index_; }
+
+    [[nodiscard]] bool Is_Text_Box() const { return entry_->kind == Control_Kind::Text_Box; }
+
+    /// "Form1.Text104(6)"; a control that is no member of an array has no index.
+    [[nodiscard]] std::string Address() const;
+
+    /// The text of a field or a combo box, the caption of anything else.
+    [[nodiscard]] const std::string& Text() const { return text_; }
+
+    void Set_Text(std::string_view new_text);
+    void Append_Text(std::string_view more);
+
+    /// State of a check box (0 or 1) or an option button.
+    [[nodiscard]] int Value() const { return value_; }
+
+    void Set_Value(int new_value);
+
+    [[nodiscard]] const Look& Present_Look() const { return look_; }
+
+    void Set_Look(const Look& new_look);
+    void Set_Visible(bool visible);
+    void Set_Enabled(bool enabled);
+
+    /// Entries of a combo box.
+    [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
+
+    void Set_Items(std::vector<std::string> new_items);
+
+private:
+    friend class Screen;
+    void Mark_Changed();
+
+    Screen* screen_;
+    const Control_Entry* entry_;
+    int index_;
+    std::string text_;
+    int value_ = 0;
+    Look look_;
+    std::vector<std::string> items_;
+    bool changed_ = false;
+};
+
+} // namespace kestrum

@@ -1,0 +1,80 @@
+#include "screens/screen.h"
+
+#include "platform/run_time_error.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace kestrum {
+
+namespace {
+
+std::size_t Member_Count(const Control_Entry& entry) {
+    return static_cast<std::size_t>(entry.last) - static_cast<std::size_t>(entry.first) + 1;
+}
+
+} // namespace
+
+void Control_Array::Refuse(int index) {
+    Fail_No_Element(index);
+}
+
+Screen::Screen(std::string_view name, std::span<const Control_Entry> table) : name_(name) {
+    std::size_t count = 0;
+    for (const Control_Entry& entry : table) {
+        count += Member_Count(entry);
+    }
+    controls_.reserve(count); // the arrays point into it
+    for (const Control_Entry& entry : table) {
+        for (int index = entry.first; index <= entry.last; ++index) {
+            Control& control = controls_.emplace_back(*this, entry, index);
+            if (index == no_index) {
+                lone_controls_.emplace(entry.array, &control);
+                continue;
+            }
+            auto& members = arrays_[entry.array].members_;
+            members.resize(std::max(members.size(), static_cast<std::size_t>(index) + 1));
+            members[static_cast<std::size_t>(index)] = &control;
+        }
+    }
+}
+
+Control* Screen::Find(std::string_view array, std::optional<int> index) {
+    const auto lone = lone_controls_.find(array);
+    if (lone != lone_controls_.end()) {
+        return index.value_or(0) == 0 ? lone->second : nullptr;
+    }
+    const auto found = arrays_.find(array);
+    const bool there = found != arrays_.end() && index && found->second.Has(*index);
+    return there ? &found->second(*index) : nullptr;
+}
+
+bool Screen::Has_Array(std::string_view array) const {
+    return arrays_.contains(array);
+}
+
+std::vector<Control*> Screen::Take_Changes() {
+    for (Control* const control : changes_) {
+        control->changed_ = false;
+    }
+    return std::exchange(changes_, {});
+}
+
+const Control_Array& Screen::Array(std::string_view array_name) const {
+    const auto found = arrays_.find(array_name);
+    if (found == arrays_.end()) {
+        throw std::logic_error(name_ + " has no array " + std::string(array_name));
+    }
+    return found->second;
+}
+
+Control& Screen::The(std::string_view control_name) const {
+    const auto found = lone_controls_.find(control_name);
+    if (found == lone_controls_.end()) {
+        throw std::logic_error(name_ + " has no control " + std::string(control_name));
+    }
+    return *found->second;
+}
+
+} // namespace kestrum

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "screens/control.h"
+#include "screens/control_entry.h"
+
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrum {
+
+/// The members of one name on one screen, with gaps: `sheet.Text104(6)`.
+class Control_Array {
+public:
+    /// The member with this index. Raises 340 where there is none.
+    [[nodiscard]] Control& operator()(int index) const {
+        if (index < 0 || static_cast<std::size_t>(index) >= members_.size() ||
+            members_[static_cast<std::size_t>(index)] == nullptr) {
+            Refuse(index);
+        }
+        return *members_[static_cast<std::size_t>(index)];
+    }
+
+    [[nodiscard]] bool Has(int index) const {
+        return index >= 0 && static_cast<std::size_t>(index) < members_.size() &&
+               members_[static_cast<std::size_t>(index)] != nullptr;
+    }
+
+    /// One more than the highest index.
+    [[nodiscard]] int Size() const { return static_cast<int>(members_.size()); }
+
+private:
+    friend class Screen;
+    [[noreturn]] static void Refuse(int index);
+
+    std::vector<Control*> members_;
+};
+
+/// A window of the system: named controls in the order of its table, and nothing that they do.
+class Screen {
+public:
+    Screen(std::string_view name, std::span<const Control_Entry> table);
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+    virtual ~Screen() = default;
+
+    [[nodiscard]] const std::string& Name() const { return name_; }
+
+    std::string caption;
+    bool visible = false;
+    /// Whether the mouse shows as the plain arrow everywhere on the screen.
+    bool plain_pointer = false;
+
+    /// Controls in table order.
+    [[nodiscard]] std::span<Control> Controls() { return controls_; }
+
+    [[nodiscard]] std::span<const Control> Controls() const { return controls_; }
+
+    /// A control by name and index, or null. One without an index also answers to index 0.
+    [[nodiscard]] Control* Find(std::string_view array, std::optional<int> index);
+    [[nodiscard]] bool Has_Array(std::string_view array) const;
+
+    /// Hands out and forgets the controls that have changed since the last call, for a face that
+    /// paints them.
+    [[nodiscard]] std::vector<Control*> Take_Changes();
+
+    /// A control array by its name. A name that the table lacks is a fault of the program.
+    [[nodiscard]] const Control_Array& Array(std::string_view array_name) const;
+
+protected:
+    [[nodiscard]] Control& The(std::string_view control_name) const;
+
+private:
+    friend class Control;
+
+    std::string name_;
+    std::vector<Control> controls_;
+    std::map<std::string_view, Control_Array, std::less<>> arrays_;
+    std::map<std::string_view, Control*, std::less<>> lone_controls_;
+    std::vector<Control*> changes_;
+};
+
+} // namespace kestrum

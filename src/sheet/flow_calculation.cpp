@@ -1,0 +1,53 @@
+#include "sheet/flow_calculation.h"
+
+#include "core/text.h"
+#include "sheet/flow_header.h"
+#include "sheet/flow_rows.h"
+#include "sheet/flow_units.h"
+#include "sheet/seat_geometry.h"
+
+namespace kestrum {
+
+namespace {
+
+void Report_Failure(Session& session, const Run_Time_Error& failure) {
+    std::string text = "Error Number " + session.number.Fmt_Whole(failure.Number()) + " -- " +
+                       failure.Description() +
+                       "\r\n\r\nPlease Save your Data.\r\n\r\nIf you can NOT Find the Reason for "
+                       "this Error. Please the Sent the Saved Data file and a Print Screen of this "
+                       "Error to Software Support.";
+    if (failure.Number() == error::division_by_zero) {
+        text += "\r\n\r\nCheck for a Field that has a Value of Zero that should not be Zero";
+    }
+    session.Message(text, Box_Icon::Stop);
+}
+
+/// `Calc_Flow_US` and `Calc_Flow_Metric`: one body, two descriptions of units.
+void Calc_Flow(Session& session, Flow_Sheet& sheet, const Flow_Units& units) {
+    try {
+        const Flow_Context context{session, sheet, units, Intake_Side(session, sheet),
+                                   Exhaust_Side(session, sheet)};
+        Calc_Header(context);
+        if (units.sets_up_seats) {
+            Seat_Geometry_Setup(session.number, context.intake, units.factors);
+            Seat_Geometry_Setup(session.number, context.exhaust, units.factors);
+        }
+        Flow_Totals totals;
+        for (int row = zero_lift_row; row <= last_lift_row; ++row) {
+            Calc_Lift_Row(context, row, totals);
+        }
+        Calc_Averages(context, totals);
+    } catch (const Run_Time_Error& failure) {
+        Report_Failure(session, failure);
+    }
+}
+
+} // namespace
+
+void Calc_Flow_Test(Session& session, Flow_Sheet& sheet) {
+    session.intake_valves = session.number.Read_Integer(sheet.Text106(6).Text());
+    session.exhaust_valves = session.number.Read_Integer(sheet.Text108(6).Text());
+    Calc_Flow(session, sheet, session.Main().Is_Metric() ? Metric_Flow_Units() : Us_Flow_Units());
+}
+
+} // namespace kestrum

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/session.h"
+
+namespace kestrum {
+
+/// Works out every derived field of a sheet from its inputs, in the units of `Main.Check2`. Each
+/// figure is written as a text, and later steps read that text back. Warnings show as boxes and
+/// the calculation goes on; a failed step shows its error and ends it, and the fields keep what
+/// they have by then. Raises the errors of valve counts that are no integers, for these are read
+/// before its handler begins.
+void Calc_Flow_Test(Session& session, Flow_Sheet& sheet);
+
+} // namespace kestrum

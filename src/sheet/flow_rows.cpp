@@ -1,0 +1,247 @@
+#include "sheet/flow_rows.h"
+
+#include "sheet/seat_geometry.h"
+
+namespace kestrum {
+
+namespace {
+
+/// Flow in a cubic foot per minute and square inch at a discharge coefficient of 1.
+constexpr double full_flow_per_area = 146;
+constexpr double circle = 3.14159265358979;
+
+/// One lift row of one side.
+struct Row_Side {
+    const Flow_Context& context;
+    const Valve_Side& side;
+    int row;
+
+    [[nodiscard]] Real Number(const Control& field) const { return context.Number(field); }
+
+    [[nodiscard]] const Units& Factors() const { return context.units.factors; }
+
+    [[nodiscard]] const Control& Lift() const { return context.sheet.Text101(row); }
+
+    [[nodiscard]] Control& Corrected() const { return side.corrected(row); }
+
+    /// Corrected flow in cubic feet per minute.
+    [[nodiscard]] Real Cubic_Feet() const { return Number(Corrected()) / Factors().cubic_foot; }
+
+    [[nodiscard]] bool Is_Intake() const { return &side == &context.intake; }
+
+    void Put(Control& target, Real value, Format format) const {
+        context.Put(target, value, format);
+    }
+};
+
+void Correct_Flow(const Row_Side& at) {
+    const Control& observed = at.side.observed(at.row);
+    Control& depression = at.side.depression(at.row);
+    const Control& correction = at.context.sheet.Text110(8);
+    Control& swirl = at.context.sheet.Text207(at.row);
+    if (Holds_Text(observed) && Holds_Text(depression) && at.Number(depression) > 0) {
+        at.Put(at.Corrected(),
+               at.Number(observed) *
+                   Power(at.Number(at.context.sheet.Text108(8)) / at.Number(depression), 0.5),
+               at.context.units.corrected_flow);
+        if (at.Number(at.Corrected()) == 0) {
+            if (at.Is_Intake()) { // swirl is measured on the intake
+                swirl.Set_Text("0");
+            }
+            depression.Set_Text("0");
+        }
+    } else if (Holds_Text(observed) && Holds_Text(correction)) {
+        at.Put(at.Corrected(), at.Number(observed) * at.Number(correction),
+               at.context.units.corrected_flow);
+    } else {
+        at.Corrected().Set_Text("0");
+        if (at.Is_Intake()) {
+            swirl.Set_Text("0");
+        }
+    }
+}
+
+void Add_Flow(const Row_Side& at, Flow_Totals::Sum& sum) {
+    const Real flow = at.Number(at.Corrected());
+    sum.total += flow;
+    if (flow != 0) {
+        ++sum.count;
+    }
+}
+
+/// The lift, held at a quarter of the valve diameter. Texts are copied as they stand.
+void Effective_Lift(const Row_Side& at) {
+    Control& target = at.side.effective_lift(at.row);
+    const Control& limit = at.side.quarter_diameter;
+    if (!Holds_Text(at.Lift()) || !Holds_Text(limit)) {
+        target.Set_Text("0");
+        return;
+    }
+    target.Set_Text(at.Number(limit) < at.Number(at.Lift()) ? limit.Text() : at.Lift().Text());
+}
+
+void Flow_Per_Area(const Row_Side& at) {
+    const Control& lift = at.side.effective_lift(at.row);
+    Control& target = at.side.flow_per_area(at.row);
+    if (!Holds_Text(at.Corrected()) || !Holds_Text(lift) || !(at.Number(lift) > 0)) {
+        target.Set_Text("0");
+        return;
+    }
+    const Units& units = at.Factors();
+    const Real curtain = at.Number(at.side.valve_diameter) / units.inch * circle *
+                         (at.Number(lift) / units.inch) / units.lift_unit;
+    at.Put(target,
+           at.Cubic_Feet() / curtain * units.cubic_foot * units.square_inch / at.side.valves,
+           &Numeric_Text::Fmt_Two_Place);
+}
+
+void Discharge(const Row_Side& at) {
+    const Control& flow = at.side.flow_per_area(at.row);
+    Control& target = at.side.discharge(at.row);
+    if (!Holds_Text(flow)) {
+        target.Set_Text("0");
+        return;
+    }
+    at.Put(target,
+           at.Number(flow) / at.Factors().cubic_foot / at.Factors().square_inch /
+               full_flow_per_area,
+           &Numeric_Text::Fmt_Three_Place);
+}
+
+void Flow_Ratio(const Flow_Context& context, int row, Flow_Totals& totals) {
+    const Control& intake = context.intake.corrected(row);
+    const Control& exhaust = context.exhaust.corrected(row);
+    Control& target = context.sheet.Text113(row);
+    if (!Holds_Text(exhaust) || !Holds_Text(intake) || !(context.Number(intake) > 0)) {
+        target.Set_Text("0");
+        return;
+    }
+    const Real ratio = context.Number(exhaust) / context.Number(intake);
+    context.Put(target, ratio, &Numeric_Text::Fmt_Three_Place);
+    // The sums take the quotient itself, not the rounded text. The lift has no guard here.
+    const Real lift = context.Number(context.sheet.Text101(row));
+    if (!(lift > context.Number(context.sheet.Text110(6))) && lift != 0) {
+        totals.ratio_to_max.Add(ratio);
+    }
+    if (lift != 0) {
+        totals.ratio_all.Add(ratio);
+    }
+}
+
+void Port_Velocity(const Row_Side& at) {
+    const Control& area = at.side.mean_area;
+    Control& target = at.side.port_velocity(at.row);
+    if (!Holds_Text(at.Corrected()) || !Holds_Text(area) || !(at.Number(area) > 0)) {
+        target.Set_Text("0");
+        return;
+    }
+    constexpr double square_inches_in_foot = 144;
+    const Units& units = at.Factors();
+    at.Put(target,
+           at.Cubic_Feet() / 60 / (at.Number(area) / units.square_inch / square_inches_in_foot) *
+               units.foot,
+           &Numeric_Text::Fmt_One_Place);
+}
+
+void Effective_Flow_Area(const Row_Side& at) {
+    Control& area_field = at.side.effective_area(at.row);
+    Control& velocity = at.side.effective_velocity(at.row);
+    if (!Holds_Text(at.Lift()) || !Holds_Text(at.side.quarter_diameter) ||
+        !(at.Number(at.Lift()) > 0)) {
+        area_field.Set_Text("0");
+        velocity.Set_Text("0");
+        return;
+    }
+    const Units& units = at.Factors();
+    Numeric_Text& number = at.context.session.number;
+    // The row's own lift, not the effective one; the velocity takes the area unrounded.
+    const Real area = Effective_Area(at.side, at.Number(at.Lift()) / 1000, units);
+    at.Put(area_field, area * units.square_inch, at.context.units.effective_area);
+    const Real flow = number.Read(number.Text_To_Number_String(at.Corrected().Text()));
+    at.Put(velocity, flow / units.cubic_foot / area * 2.4 * units.foot,
+           &Numeric_Text::Fmt_One_Place);
+}
+
+void Effective_Discharge(const Row_Side& at) {
+    const Control& area = at.side.effective_area(at.row);
+    Control& target = at.side.effective_discharge(at.row);
+    if (!Holds_Text(area) || !(at.Number(area) > 0)) {
+        target.Set_Text("0");
+        return;
+    }
+    at.Put(target,
+           at.Cubic_Feet() / (at.Number(area) / at.Factors().square_inch) / full_flow_per_area,
+           &Numeric_Text::Fmt_Three_Place);
+}
+
+void Lift_Ratio(const Row_Side& at) {
+    Control& target = at.side.lift_ratio(at.row);
+    if (!Holds_Text(at.Lift()) || !(at.Number(at.Lift()) > 0)) {
+        target.Set_Text("0");
+        return;
+    }
+    at.Put(target,
+           at.Number(at.Lift()) / at.Number(at.side.valve_diameter) / at.Factors().lift_unit,
+           &Numeric_Text::Fmt_Three_Place);
+}
+
+void Required_Ratio(const Flow_Context& context) {
+    const Real compression = context.Number(context.sheet.Text110(5));
+    context.Put(context.sheet.Text113(10),
+                0.0011 * Squared(compression) - 0.0404 * compression + 1.029,
+                &Numeric_Text::Fmt_Three_Place);
+}
+
+void Existing_Ratio(const Flow_Context& context, const Flow_Totals& totals) {
+    Control& target = context.sheet.Text113(11);
+    const Flow_Totals::Sum& sum = totals.ratio_to_max;
+    if (sum.total > 0 && sum.count > 0) {
+        context.Put(target, sum.total / sum.count, &Numeric_Text::Fmt_Three_Place);
+        return;
+    }
+    target.Set_Text("-");
+    context.session.Message(context.units.ratio_advice, Box_Icon::Exclamation);
+}
+
+void Flow_Average(const Flow_Context& context, const Valve_Side& side,
+                  const Flow_Totals::Sum& sum) {
+    context.Put(side.total_flow, sum.total, &Numeric_Text::Fmt_One_Place);
+    context.Put(side.mean_flow, sum.total / sum.count, &Numeric_Text::Fmt_One_Place);
+}
+
+} // namespace
+
+void Calc_Lift_Row(const Flow_Context& context, int row, Flow_Totals& totals) {
+    const Row_Side intake{context, context.intake, row};
+    const Row_Side exhaust{context, context.exhaust, row};
+    Correct_Flow(intake);
+    Add_Flow(intake, totals.intake_flow);
+    Correct_Flow(exhaust);
+    Add_Flow(exhaust, totals.exhaust_flow);
+    const auto both = [&](void (*step)(const Row_Side&)) {
+        step(intake);
+        step(exhaust);
+    };
+    both(Effective_Lift);
+    both(Flow_Per_Area);
+    both(Discharge);
+    Flow_Ratio(context, row, totals);
+    both(Port_Velocity);
+    both(Effective_Flow_Area);
+    both(Effective_Discharge);
+    both(Lift_Ratio);
+}
+
+void Calc_Averages(const Flow_Context& context, const Flow_Totals& totals) {
+    Required_Ratio(context);
+    Existing_Ratio(context, totals);
+    const Flow_Totals::Sum& all = totals.ratio_all;
+    if (all.total > 0 && all.count > 0) {
+        context.Put(context.sheet.Text113(12), all.total / all.count,
+                    &Numeric_Text::Fmt_Three_Place);
+    }
+    Flow_Average(context, context.intake, totals.intake_flow);
+    Flow_Average(context, context.exhaust, totals.exhaust_flow);
+}
+
+} // namespace kestrum
