@@ -4,6 +4,7 @@
 #include "engine/engine_calculation.h"
 #include "engine/mode_switches.h"
 #include "engine/port_calculators.h"
+#include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
 #include "presentation/alignment.h"
 #include "presentation/mouse_pointer.h"
@@ -60,6 +61,10 @@ void Area(Session& session, Control& /*control*/) {
 
 void Mach_Mode(Session& session, Control& /*control*/) {
     Apply_Mach_Mode(session);
+}
+
+void Metric_Mode(Session& session, Control& /*control*/) {
+    Convert_Units(session);
 }
 
 void Rpm_Mode(Session& session, Control& /*control*/) {
@@ -127,6 +132,7 @@ constexpr auto main_commands = std::to_array<Command>({
     {"Command8", Length_Of_Port},
     {"Command9", Area},
     {"Check1", Mach_Mode},
+    {"Check2", Metric_Mode},
     {"Check3", Rpm_Mode},
     {"AligLeft", Align<0>},
     {"AligCenter", Align<2>},
