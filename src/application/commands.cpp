@@ -6,6 +6,8 @@
 #include "engine/port_calculators.h"
 #include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
+#include "files/main_data_file.h"
+#include "files/preloads.h"
 #include "presentation/alignment.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
@@ -93,8 +95,28 @@ void Free_Aspect(Session& session, Control& control) {
     control.Set_Enabled(false);
 }
 
+void Load_Engine(Session& session, Control& /*control*/) {
+    session.file_path.clear();
+    Load_Main_File(session, "");
+    session.windows.Focus(session.Main().Text111(3));
+}
+
+void Save_Engine(Session& session, Control& /*control*/) {
+    session.file_path.clear();
+    Save_Main_File(session);
+}
+
 void Show_Preloads(Session& session, Control& /*control*/) {
     session.Main().Frame4.Set_Visible(true);
+}
+
+void Choose_Preload_File(Session& session, Control& control) {
+    Choose_Preload(session, control.Index());
+}
+
+void Load_And_Hide_Preloads(Session& session, Control& /*control*/) {
+    Load_Preloads(session);
+    session.Main().Frame4.Set_Visible(false);
 }
 
 void Hide_Preloads(Session& session, Control& /*control*/) {
@@ -121,6 +143,8 @@ void Leave_Program(Session& session, Control& /*control*/) {
 
 constexpr auto main_commands = std::to_array<Command>({
     {"Command51", Calculate_Engine},
+    {"Load_Data", Load_Engine},
+    {"Save_Data", Save_Engine},
     {"Command1", Open_Sheet},
     {"Command2", Open_Sheet},
     {"Command3", Open_Sheet},
@@ -140,6 +164,8 @@ constexpr auto main_commands = std::to_array<Command>({
     {"MouseP", Plain_Pointer},
     {"AspectRatio", Free_Aspect},
     {"Preload", Show_Preloads},
+    {"Command45", Choose_Preload_File},
+    {"Command46", Load_And_Hide_Preloads},
     {"Command44", Hide_Preloads},
     {"Co_Name", Show_Company},
     {"Command95", Hide_Company},

@@ -131,7 +131,7 @@ void Hover_Over_Form(Screen& screen) {
 void Close_Window(Session& session, Screen& screen) {
     const std::string& name = screen.Name();
     if (name == "Main") {
-        Exit_Program(session);
+        Close_Main(session);
     } else if (name == "Form50" || name == "Form70") {
         session.Hide(screen); // does what "Quit" does, and the closing is cancelled
     } else {

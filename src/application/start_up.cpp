@@ -2,6 +2,8 @@
 
 #include "core/text.h"
 #include "engine/mode_switches.h"
+#include "files/main_data_file.h"
+#include "platform/file_store.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
 
@@ -42,6 +44,34 @@ void Handle_Switches(Session& session) {
     }
 }
 
+std::string Session_File(const Session& session) {
+    return Join_Path(session.surroundings.folder, "zxqw1234.sav");
+}
+
+/// A file that could not be read to its end is kept, for the exit writes over it.
+void Keep_Bad_File(const std::string& path) {
+    try {
+        Write_Whole_File(path + ".bak", Read_Whole_File(path));
+    } catch (const Run_Time_Error&) {
+        return; // nothing may stop the start
+    }
+}
+
+void Restore_Last_Session(Session& session) {
+    const std::string path = Session_File(session);
+    if (!Can_Be_Read(path)) {
+        return;
+    }
+    if (!Load_Main_File(session, path)) {
+        Keep_Bad_File(path);
+    }
+}
+
+void Write_Session_File(Session& session) {
+    session.file_path = Session_File(session);
+    Save_Main_File(session);
+}
+
 } // namespace
 
 void Start_Up(Session& session) {
@@ -58,15 +88,23 @@ void Start_Up(Session& session) {
     }
     session.screen_dpi = session.surroundings.display.dpi;
     Handle_Switches(session);
+    Restore_Last_Session(session);
     session.Show(session.Main());
 }
 
-void Exit_Program(Session& session) {
+void Close_Main(Session& session) {
+    Write_Session_File(session);
     std::vector<Screen*> loaded;
     session.For_Each_Loaded([&loaded](Screen& screen) { loaded.push_back(&screen); });
     for (Screen* const screen : loaded) {
         session.Unload(*screen);
     }
+}
+
+void Exit_Program(Session& session) {
+    // Unloading `Main` runs the exit once more; both writings see the same screens.
+    Write_Session_File(session);
+    Close_Main(session);
 }
 
 } // namespace kestrum

@@ -7,7 +7,11 @@ namespace kestrum {
 /// Brings a new session up to the moment when `Main` shows.
 void Start_Up(Session& session);
 
-/// The exit of the program: every screen is unloaded.
+/// The exit by the menu: the session file is written and every screen is unloaded, `Main` first.
+/// A session file that cannot be written is told in a box and stops nothing.
 void Exit_Program(Session& session);
+
+/// The exit by the frame of `Main`.
+void Close_Main(Session& session);
 
 } // namespace kestrum

@@ -92,6 +92,8 @@ const auto variables = std::to_array<Variable>({
     {"X_Line_Count", Number<&S::x_line_count>},
     {"Draw_Line_Color", Number<&S::draw_line_color>},
     {"Draw_Line_Width", Number<&S::draw_line_width>},
+    {"Logo_On", Number<&S::logo_on>},
+    {"Logo_File", Text<&S::logo_file>},
     {"Flow_Filter_Index", Number<&S::flow_filter_index>},
     {"Tip_Calculate", Fixed<tips::calculate>},
     {"Tip_Exit_Sheet", Fixed<tips::exit_sheet>},

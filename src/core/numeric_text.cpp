@@ -214,6 +214,17 @@ std::string Picture(Real value, int least, int most, char point) {
     return Written(digits, least, point);
 }
 
+/// Half to even, within the range of an integer type.
+template <typename Integer>
+int Rounded_To(Real number) {
+    const double value = std::nearbyint(number.Value()); // the default mode is half to even
+    if (value < std::numeric_limits<Integer>::min() ||
+        value > std::numeric_limits<Integer>::max()) {
+        Fail(error::overflow);
+    }
+    return static_cast<int>(value);
+}
+
 } // namespace
 
 Real Numeric_Text::Read(std::string_view text) const {
@@ -236,11 +247,11 @@ Real Numeric_Text::Read(std::string_view text) const {
 }
 
 int Numeric_Text::Read_Integer(std::string_view text) const {
-    const double value = std::nearbyint(Read(text).Value()); // the default mode is half to even
-    if (value < std::numeric_limits<short>::min() || value > std::numeric_limits<short>::max()) {
-        Fail(error::overflow);
-    }
-    return static_cast<int>(value);
+    return Rounded_To<short>(Read(text));
+}
+
+int Numeric_Text::Read_Long(std::string_view text) const {
+    return Rounded_To<int>(Read(text));
 }
 
 std::string Numeric_Text::Plain(Real value) const {

@@ -30,6 +30,9 @@ struct Numeric_Text {
     /// Reads a text as a 16-bit integer, half to even. Raises 13, and 6 outside -32768..32767.
     [[nodiscard]] int Read_Integer(std::string_view text) const;
 
+    /// The same as a 32-bit integer, for colours.
+    [[nodiscard]] int Read_Long(std::string_view text) const;
+
     /// Up to 15 significant digits, no trailing zeros; exponent form where it is needed.
     [[nodiscard]] std::string Plain(Real value) const;
 

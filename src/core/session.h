@@ -103,6 +103,9 @@ public:
     int draw_line_color = 99999;
     int draw_line_width = 3;
     int flow_filter_index = 1;
+    int logo_on = 0;
+    /// Path of the logo picture, empty when there is none.
+    std::string logo_file;
 
     Seat_Geometry intake_seat;
     Seat_Geometry exhaust_seat;

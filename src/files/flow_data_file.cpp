@@ -2,7 +2,7 @@
 
 #include "core/text.h"
 #include "files/named_files.h"
-#include "files/records.h"
+#include "files/record_reading.h"
 #include "platform/file_store.h"
 #include "sheet/flow_calculation.h"
 
@@ -19,7 +19,9 @@ constexpr std::string_view filter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Flow Data Files (*.dat)|*.dat";
 constexpr std::string_view loading_failed =
     "Error Loading Flow Data File --- If you have Not edited the file Please Contact us!";
-constexpr std::string_view comment_key = "comments =";
+constexpr Reading_Words reading_words{.not_handled_title = "TARVEX - Error Message",
+                                      .stopped = loading_failed,
+                                      .stopped_icon = Box_Icon::Exclamation};
 
 constexpr std::array volume_rows{0, 1, 3, 4, 6, 8, 10};
 constexpr std::array exhaust_rows{0, 1, 3, 4, 6, 8};
@@ -63,12 +65,11 @@ constexpr std::array columns{
     lifts,       intake,      exhaust,      widths, exhaust_flow,      heights,           engine,
     engine_bore, intake_seat, exhaust_seat, swirl,  intake_depression, exhaust_depression};
 
-/// Composes the records of a file and counts them.
+/// Writes the cells of a sheet by their columns.
 class Flow_Writer {
 public:
-    Flow_Writer(Session& session, const Flow_Sheet& sheet) : session_(session), sheet_(sheet) {
-        session_.records_written = 0;
-    }
+    Flow_Writer(Session& session, const Flow_Sheet& sheet)
+        : number_(session.number), sheet_(sheet), records_(session.records_written) {}
 
     void Header(const Key_Column& column) {
         for (const int row : column.header_rows) {
@@ -84,22 +85,17 @@ public:
         }
     }
 
-    void Write_Line(std::string_view key, std::string_view value) {
-        text_.append(key).append(" = ").append(value).append(cr_lf);
-        Count_Record(session_.records_written);
-    }
-
-    [[nodiscard]] std::string Text() && { return std::move(text_); }
+    [[nodiscard]] Record_Writer& Records() { return records_; }
 
 private:
     void Cell(const Key_Column& column, int row) {
-        const std::string key = std::string(column.array) + "_" + session_.number.Fmt_Whole(row);
-        Write_Line(key, sheet_.Array(column.array)(row).Text());
+        records_.Write_Line(std::string(column.array) + "_" + number_.Fmt_Whole(row),
+                            sheet_.Array(column.array)(row).Text());
     }
 
-    Session& session_;
+    const Numeric_Text& number_;
     const Flow_Sheet& sheet_;
-    std::string text_;
+    Record_Writer records_;
 };
 
 /// An earlier version knew twelve lift rows; its files load with zero rows at the end.
@@ -136,18 +132,6 @@ bool Put_Record(const Numeric_Text& number, Flow_Sheet& sheet, const Record& rec
     return true;
 }
 
-/// Asks whether to go on behind a line that no key fits.
-bool Goes_On_After(Session& session, std::string_view line) {
-    const Box_Answer answer = session.Message({.text = "Record not Handled -->" + std::string(line),
-                                               .title = "TARVEX - Error Message",
-                                               .buttons = Box_Buttons::Ok_Cancel});
-    if (answer != Box_Answer::Cancel) {
-        return true;
-    }
-    session.Message(loading_failed, Box_Icon::Exclamation);
-    return false;
-}
-
 void Report_Bad_Record(Session& session, std::string_view line) {
     session.Message({.text = "Invalid Input Record # - " +
                              session.number.Fmt_Thousands(session.records_read) + "   Data --> " +
@@ -155,30 +139,6 @@ void Report_Bad_Record(Session& session, std::string_view line) {
                      .title = {},
                      .buttons = Box_Buttons::Ok_Cancel});
     session.Message(loading_failed, Box_Icon::Exclamation);
-}
-
-/// Goes through the lines; false when the user stopped it.
-bool Read_Lines(Session& session, Flow_Sheet& sheet, Line_Reader& lines) {
-    Record record;
-    bool in_comment = false;
-    while (lines.Next()) {
-        Count_Record(session.records_read);
-        if (in_comment) {
-            sheet.Text38.Append_Text(cr_lf);
-            sheet.Text38.Append_Text(lines.Line());
-            continue;
-        }
-        record.Take(lines.Line());
-        if (record.Key(comment_key.size()) == comment_key) {
-            in_comment = true;
-            // The blank behind the "=" comes along, and each round trip adds one; wanted.
-            sheet.Text38.Set_Text(Middle(record.Line(), comment_key.size() + 1));
-        } else if (!Put_Record(session.number, sheet, record) &&
-                   !Goes_On_After(session, record.Line())) {
-            return false;
-        }
-    }
-    return true;
 }
 
 } // namespace
@@ -197,8 +157,8 @@ std::string Flow_File_Text(Session& session, const Flow_Sheet& sheet) {
     writer.Header(intake_seat);
     writer.Header(exhaust_seat);
     writer.Lift_Rows({swirl, intake_depression, exhaust_depression});
-    writer.Write_Line("Comments", sheet.Text38.Text());
-    return std::move(writer).Text();
+    writer.Records().Write_Line("Comments", sheet.Text38.Text());
+    return writer.Records().Text();
 }
 
 void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
@@ -235,10 +195,12 @@ void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) 
 bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes) {
     const std::string content = Decoded(bytes);
     Line_Reader lines(content);
-    session.records_read = 0;
+    const auto put = [&](const Record& record) {
+        return Put_Record(session.number, sheet, record);
+    };
     try {
         Clear_Last_Rows(sheet);
-        if (!Read_Lines(session, sheet, lines)) {
+        if (!Read_Records(session, lines, sheet.Text38, reading_words, put)) {
             return false;
         }
         Apply_Decimal_Mode(session.number, sheet);

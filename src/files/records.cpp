@@ -48,6 +48,11 @@ std::string_view Record::Value() const {
     return Middle(line_, equals_ + 2);
 }
 
+void Record_Writer::Write_Line(std::string_view key, std::string_view value) {
+    text_.append(key).append(" = ").append(value).append(cr_lf);
+    Count_Record(written_);
+}
+
 void Count_Record(int& records) {
     if (records == std::numeric_limits<short>::max()) {
         Fail(error::overflow);

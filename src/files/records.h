@@ -44,6 +44,21 @@ private:
     std::size_t equals_ = 0; // position of the first "=", 0 without one
 };
 
+/// Composes the records of a file and counts them in the session's count.
+class Record_Writer {
+public:
+    explicit Record_Writer(int& records_written) : written_(records_written) { written_ = 0; }
+
+    /// Raises 6 beyond a 16-bit count.
+    void Write_Line(std::string_view key, std::string_view value);
+
+    [[nodiscard]] const std::string& Text() const { return text_; }
+
+private:
+    int& written_;
+    std::string text_;
+};
+
 /// Counts a record in a 16-bit count. Raises 6 beyond it.
 void Count_Record(int& records);
 

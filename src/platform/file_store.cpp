@@ -140,6 +140,12 @@ std::string Join_Path(std::string_view folder, std::string_view name) {
     return (fs::path(folder) / fs::path(name)).string();
 }
 
+std::string Name_In_Folder(std::string_view folder, const std::string& path) {
+    const std::string inside = Join_Path(folder, "");
+    return path.starts_with(inside) ? path.substr(inside.size())
+                                    : fs::path(path).filename().string();
+}
+
 bool Holds_Separator(std::string_view name) {
     return name.find('/') != std::string_view::npos ||
            name.find(static_cast<char>(fs::path::preferred_separator)) != std::string_view::npos;
@@ -169,6 +175,11 @@ std::string Find_Case_Blind(const std::string& path) {
 bool File_Exists(const std::string& path) {
     std::error_code failed;
     return fs::exists(path, failed);
+}
+
+bool Can_Be_Read(const std::string& path) {
+    std::error_code failed;
+    return fs::is_regular_file(path, failed) && ::access(path.c_str(), R_OK) == 0;
 }
 
 std::string Read_Whole_File(const std::string& path) {

@@ -8,6 +8,9 @@ namespace kestrum {
 /// Joins a folder and a name with the platform's separator.
 [[nodiscard]] std::string Join_Path(std::string_view folder, std::string_view name);
 
+/// A path without the folder and the separator when it lies below the folder, else its bare name.
+[[nodiscard]] std::string Name_In_Folder(std::string_view folder, const std::string& path);
+
 /// Whether a name names its folder too, so that it is opened as it stands.
 [[nodiscard]] bool Holds_Separator(std::string_view name);
 
@@ -16,6 +19,8 @@ namespace kestrum {
 [[nodiscard]] std::string Find_Case_Blind(const std::string& path);
 
 [[nodiscard]] bool File_Exists(const std::string& path);
+/// Whether there is a file, and no folder, that may be read.
+[[nodiscard]] bool Can_Be_Read(const std::string& path);
 
 /// The whole content of a file. Raises 53, 70, 75 or 76.
 [[nodiscard]] std::string Read_Whole_File(const std::string& path);

@@ -104,6 +104,13 @@ void Control::Set_Enabled(bool enabled) {
     Set_Look(changed_look);
 }
 
+void Control::Move_To(const Position& position) {
+    if (position_ != position) {
+        position_ = position;
+        Mark_Changed();
+    }
+}
+
 void Control::Set_Items(std::vector<std::string> new_items) {
     items_ = std::move(new_items);
     Mark_Changed();

@@ -44,6 +44,13 @@ struct Look {
     bool operator==(const Look&) const = default;
 };
 
+struct Position {
+    double left = 0;
+    double top = 0;
+
+    bool operator==(const Position&) const = default;
+};
+
 /// One control of a screen with its present state. A field of the system is a control of the kind
 /// `Text_Box`; its text is all there is of its value.
 class Control {
@@ -78,6 +85,11 @@ public:
     void Set_Visible(bool visible);
     void Set_Enabled(bool enabled);
 
+    /// Where the user or a file has put a picture, in the units of its surface.
+    [[nodiscard]] const Position& Moved_To() const { return position_; }
+
+    void Move_To(const Position& position);
+
     /// Entries of a combo box.
     [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
 
@@ -93,6 +105,7 @@ private:
     std::string text_;
     int value_ = 0;
     Look look_;
+    Position position_;
     std::vector<std::string> items_;
     bool changed_ = false;
 };

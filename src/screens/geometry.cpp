@@ -34,7 +34,10 @@ Place Place_Of(const Control& control) {
 
 Twips Place_In_Twips(const Control& control) {
     if (control.Entry().kind == Control_Kind::Picture) {
-        return {.left = 0, .top = 0, .width = canvas_size, .height = canvas_size};
+        return {.left = control.Moved_To().left,
+                .top = control.Moved_To().top,
+                .width = canvas_size,
+                .height = canvas_size};
     }
     const Place place = Place_Of(control);
     if (place.column < 0) {

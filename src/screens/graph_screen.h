@@ -13,6 +13,9 @@ public:
     Control& Picture1 = The("Picture1"); // the canvas
     Control& Picture2 = The("Picture2"); // the logo
     Control& Logo = The("Logo");
+
+    /// Style of the canvas's grid lines: 0 long, 1 dash, 2 dot.
+    int draw_style = 0;
 };
 
 } // namespace kestrum

@@ -1,0 +1,20 @@
+#include "files/logo.h"
+
+#include "platform/picture_file.h"
+
+namespace kestrum {
+
+void Show_Logo(Session& session) {
+    if (session.logo_on == 0 || session.logo_file.empty()) {
+        return;
+    }
+    if (!Is_Picture_File(session.logo_file)) {
+        session.logo_on = 0;
+        session.Message("No Logo File has been Seleted");
+        return;
+    }
+    session.Form60().Picture2.Set_Visible(true);
+    session.Form60().Logo.Set_Text("Logo -- Is ON");
+}
+
+} // namespace kestrum

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "core/session.h"
+
+namespace kestrum {
+
+/// Shows the logo of the session's `logo_file` on `Form60` when the logo is on. One that cannot be
+/// loaded is told in a box and switches the logo off; an empty name shows nothing.
+void Show_Logo(Session& session);
+
+} // namespace kestrum

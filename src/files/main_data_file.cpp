@@ -1,0 +1,87 @@
+#include "files/main_data_file.h"
+
+#include "core/text.h"
+#include "engine/engine_calculation.h"
+#include "files/main_records.h"
+#include "files/named_files.h"
+#include "files/record_reading.h"
+#include "platform/file_store.h"
+
+namespace kestrum {
+
+namespace {
+
+constexpr std::string_view filter =
+    "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Main Data Files (*.dta)|*.dta";
+constexpr Reading_Words reading_words{
+    .not_handled_title = "MAIN - Error Message",
+    .stopped = "Error Loading Main Data File --- If you have Not edited the file Please Contact "
+               "us!"};
+
+void Report_Bad_Record(Session& session, const Run_Time_Error& failure, std::string_view line) {
+    const Numeric_Text& number = session.number;
+    session.Message(Box{.text = "Error Number " + number.Fmt_Whole(failure.Number()) + " -- " +
+                                failure.Description() + "Invalid Input Record # - " +
+                                number.Fmt_Thousands(session.records_read) + "   Data --> " +
+                                std::string(line),
+                        .title = {},
+                        .buttons = Box_Buttons::Ok_Cancel});
+    session.Message(Box{.text = "Error Loading MAIN Data File --- If you have Not edited the file "
+                                "Please Contact Customer Support!",
+                        .title = "TARVEX - Error Message"});
+}
+
+} // namespace
+
+std::string Main_File_Text(Session& session) {
+    Record_Writer writer(session.records_written);
+    Write_Main_Records(session, writer);
+    return writer.Text();
+}
+
+void Save_Main_File(Session& session) {
+    try {
+        if (session.file_path.empty()) {
+            session.file_path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
+        }
+        Calc_Engine(session);
+        Write_Whole_File(session.file_path, Main_File_Text(session));
+    } catch (const Run_Time_Error&) {
+        session.Message("MAIN Data File has NOT been Saved");
+    }
+}
+
+bool Load_Main_File(Session& session, std::string_view name) {
+    std::string path;
+    std::string bytes;
+    try {
+        path = name.empty() ? Chosen_File(session, Chooser_Mode::Open, filter, 3)
+                            : Path_Of_Named_File(session, name);
+        bytes = Read_Whole_File(path);
+    } catch (const Run_Time_Error&) {
+        session.Message("MAIN Data File has Not been Loaded");
+        return false;
+    }
+    session.file_path = path;
+    return Read_Main_Records(session, bytes);
+}
+
+bool Read_Main_Records(Session& session, std::string_view bytes) {
+    const std::string content = Decoded(bytes);
+    Line_Reader lines(content);
+    Engine_Screen& main = session.Main();
+    const auto put = [&session](const Record& record) { return Put_Main_Record(session, record); };
+    try {
+        if (!Read_Records(session, lines, main.Text38, reading_words, put)) {
+            return false;
+        }
+        Apply_Decimal_Mode(session.number, main);
+        Calc_Engine(session);
+    } catch (const Run_Time_Error& failure) {
+        Report_Bad_Record(session, failure, lines.Line());
+        return false;
+    }
+    return true;
+}
+
+} // namespace kestrum

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/session.h"
+
+#include <string>
+#include <string_view>
+
+namespace kestrum {
+
+/// The engine screen as the text of a `.dta` file, one record a line.
+[[nodiscard]] std::string Main_File_Text(Session& session);
+
+/// Calculates the engine and saves `Main` under the session's `file_path`; an empty one asks the
+/// user. A failure is told in a box, and the old file stays whole.
+void Save_Main_File(Session& session);
+
+/// Loads `Main`, and the flow tests that the file names. An empty name asks the user. Gives whether
+/// the file was read to its end and the engine calculated.
+bool Load_Main_File(Session& session, std::string_view name);
+
+/// The same from a file's bytes.
+bool Read_Main_Records(Session& session, std::string_view bytes);
+
+} // namespace kestrum

@@ -1,0 +1,267 @@
+#include "files/main_records.h"
+
+#include "core/text.h"
+#include "engine/mode_switches.h"
+#include "engine/unit_conversion.h"
+#include "files/flow_data_file.h"
+#include "files/logo.h"
+#include "files/record_reading.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace kestrum {
+
+namespace {
+
+/// Fields of `Main` that a file holds, with their rows in the order of the file.
+struct Field_Key {
+    std::string_view array;
+    std::array<int, 2> rows; // the second may be the first again
+};
+
+constexpr std::array field_keys{Field_Key{"Text101", {3, 8}}, Field_Key{"Text102", {9, 9}},
+                                Field_Key{"Text103", {3, 8}}, Field_Key{"Text104", {3, 9}},
+                                Field_Key{"Text105", {3, 3}}, Field_Key{"Text106", {9, 9}},
+                                Field_Key{"Text109", {3, 3}}, Field_Key{"Text111", {3, 3}}};
+
+std::string_view Yes_Or_No(int value) {
+    return value == 1 ? "Yes" : "No";
+}
+
+bool Is_Yes(const Record& record) {
+    return record.Lower_Value() == "yes";
+}
+
+/// The five company lines with their keys.
+struct Company_Key {
+    std::string_view key;
+    Control& (*field)(const Engine_Screen& main);
+};
+
+constexpr std::array company_keys{
+    Company_Key{"Comp_Name", [](const Engine_Screen& main) -> Control& { return main.Text94; }},
+    Company_Key{"Comp_Street", [](const Engine_Screen& main) -> Control& { return main.Text95; }},
+    Company_Key{"Comp_City", [](const Engine_Screen& main) -> Control& { return main.Text96; }},
+    Company_Key{"Comp_Phone", [](const Engine_Screen& main) -> Control& { return main.Text97; }},
+    Company_Key{"Comp_Web", [](const Engine_Screen& main) -> Control& { return main.Text98; }}};
+
+/// The four check boxes of `Form50` with the shared variables that follow them.
+struct Compare_Switch {
+    Control& (*box)(const Compare_Screen& compare);
+    int Session::*variable;
+};
+
+constexpr std::array compare_switches{
+    Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check1; },
+                   &Session::show_quarter_diameter_line},
+    Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check2; },
+                   &Session::auto_x_lines},
+    Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check3; },
+                   &Session::show_data_points},
+    Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check4; },
+                   &Session::show_big}};
+
+/// A key with a number of 1 to `count` at its end: the number less one, or -1.
+int Numbered(const Record& record, std::string_view stem, int count) {
+    const std::string_view key = record.Key(stem.size() + 1);
+    if (key.size() != stem.size() + 1 || !key.starts_with(stem)) {
+        return -1;
+    }
+    const int index = key.back() - '1';
+    return index >= 0 && index < count ? index : -1;
+}
+
+bool Begins(const Record& record, std::string_view key) {
+    return record.Key(key.size()) == Lower_Copy(key);
+}
+
+bool Put_Field(Session& session, const Record& record) {
+    constexpr std::size_t key_length = 8;
+    const std::string_view key = record.Key(key_length);
+    const auto* const found = std::ranges::find_if(field_keys, [&](const Field_Key& candidate) {
+        return key.starts_with("text") && key.ends_with('_') &&
+               key.substr(4, key.size() - 5) == candidate.array.substr(4);
+    });
+    if (found == field_keys.end()) {
+        return false;
+    }
+    const int row = session.number.Read_Integer(record.Row_Text());
+    if (std::ranges::find(found->rows, row) == found->rows.end()) {
+        return false;
+    }
+    session.Main().Array(found->array)(row).Set_Text(record.Lower_Value());
+    return true;
+}
+
+bool Put_Mode(Session& session, const Record& record) {
+    Engine_Screen& main = session.Main();
+    switch (Numbered(record, "check", 3)) {
+    case 0:
+        main.Check1.Set_Value(Is_Yes(record) ? 1 : 0);
+        Apply_Mach_Mode(session);
+        return true;
+    case 1:
+        Set_Metric(session, Is_Yes(record));
+        return true;
+    case 2:
+        main.Check3.Set_Value(Is_Yes(record) ? 1 : 0);
+        Apply_Rpm_Mode(session);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The default "No" and every other name of up to four characters load nothing.
+bool Put_Preload(Session& session, const Record& record) {
+    const int index = Numbered(record, "flow", sheet_count);
+    if (index < 0) {
+        return false;
+    }
+    constexpr std::size_t longest_ignored = 4;
+    const std::string name(record.Lower_Value());
+    if (Length(name) > longest_ignored) {
+        const Own_File_State own(session);
+        session.Main().Text1(index).Set_Text(name);
+        Load_Flow_File(session, session.Sheet(index + 1), name);
+    }
+    return true;
+}
+
+bool Put_Option(Session& session, const Record& record) {
+    constexpr std::string_view key = "option4 = ";
+    if (!Begins(record, key)) {
+        return false;
+    }
+    const int chosen = session.number.Read_Integer(Middle(record.Line(), key.size() + 1));
+    const Control_Array& options = session.Main().Option4;
+    static_cast<void>(options(chosen)); // raises before any option changes
+    for (int index = 0; index < options.Size(); ++index) {
+        options(index).Set_Value(index == chosen ? 1 : 0);
+    }
+    return true;
+}
+
+bool Put_Company(Session& session, const Record& record) {
+    for (const Company_Key& entry : company_keys) {
+        if (Begins(record, entry.key)) {
+            entry.field(session.Main()).Set_Text(record.Value());
+            return true;
+        }
+    }
+    return false;
+}
+
+/// A place written in either decimal mode.
+Real Place_Value(Session& session, const Record& record) {
+    return session.number.Read(session.number.Text_To_Number_String(record.Value()));
+}
+
+bool Put_Logo(Session& session, const Record& record) {
+    Control& picture = session.Form60().Picture2;
+    Position position = picture.Moved_To();
+    if (Begins(record, "logo_sw")) {
+        session.logo_on = session.number.Read_Integer(record.Value());
+    } else if (Begins(record, "logo_name")) {
+        session.logo_file = record.Value();
+        Show_Logo(session);
+    } else if (Begins(record, "logo_top")) {
+        position.top = Place_Value(session, record).Value();
+        picture.Move_To(position);
+    } else if (Begins(record, "logo_left")) {
+        position.left = Place_Value(session, record).Value();
+        picture.Move_To(position);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool Put_Compare_Switch(Session& session, const Record& record) {
+    const int index = Numbered(record, "form50check", static_cast<int>(compare_switches.size()));
+    if (index < 0) {
+        return false;
+    }
+    const Compare_Switch& entry = compare_switches[static_cast<std::size_t>(index)];
+    const int value = Is_Yes(record) ? 1 : 0;
+    entry.box(session.Form50()).Set_Value(value);
+    session.*entry.variable = value;
+    return true;
+}
+
+bool Put_Grid(Session& session, const Record& record) {
+    if (Begins(record, "grid_sw")) {
+        session.grid_on = session.number.Read_Integer(record.Value());
+    } else if (Begins(record, "grid_color")) {
+        session.grid_colour = session.number.Read_Long(record.Value());
+    } else if (Begins(record, "grid_drawstyle")) {
+        session.Form60().draw_style = session.number.Read_Integer(record.Value());
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void Write_Look(Session& session, Record_Writer& writer) {
+    const Numeric_Text& number = session.number;
+    const Position logo = session.Form60().Picture2.Moved_To();
+    writer.Write_Line("Logo_SW", number.Plain(session.logo_on));
+    writer.Write_Line("Logo_Name", session.logo_file);
+    writer.Write_Line("Logo_Top", number.Plain(logo.top));
+    writer.Write_Line("Logo_Left", number.Plain(logo.left));
+    for (std::size_t at = 0; at < compare_switches.size(); ++at) {
+        writer.Write_Line("Form50Check" + number.Fmt_Whole(static_cast<int>(at) + 1),
+                          Yes_Or_No(session.*compare_switches[at].variable));
+    }
+    writer.Write_Line("Grid_SW", number.Plain(session.grid_on));
+    writer.Write_Line("Grid_Color", number.Plain(session.grid_colour));
+    writer.Write_Line("Grid_DrawStyle", number.Plain(session.Form60().draw_style));
+}
+
+void Write_Fields(Session& session, Record_Writer& writer) {
+    for (const Field_Key& entry : field_keys) {
+        for (std::size_t at = 0; at < entry.rows.size(); ++at) {
+            const int row = entry.rows.at(at);
+            if (at == 0 || row != entry.rows.front()) {
+                writer.Write_Line(std::string(entry.array) + "_" + session.number.Fmt_Whole(row),
+                                  session.Main().Array(entry.array)(row).Text());
+            }
+        }
+    }
+}
+
+} // namespace
+
+void Write_Main_Records(Session& session, Record_Writer& writer) {
+    const Engine_Screen& main = session.Main();
+    const Numeric_Text& number = session.number;
+    // The boxes before the fields: a reader converts what its fields hold and then fills them.
+    writer.Write_Line("Check1", Yes_Or_No(main.Check1.Value()));
+    writer.Write_Line("Check2", Yes_Or_No(main.Check2.Value()));
+    writer.Write_Line("Check3", Yes_Or_No(main.Check3.Value()));
+    for (int index = 0; index < main.Text1.Size(); ++index) {
+        writer.Write_Line("Flow" + number.Fmt_Whole(index + 1), main.Text1(index).Text());
+    }
+    for (int index = 0; index < main.Option4.Size(); ++index) {
+        if (main.Option4(index).Value() != 0) {
+            writer.Write_Line("Option4", number.Fmt_Whole(index));
+        }
+    }
+    for (const Company_Key& entry : company_keys) {
+        writer.Write_Line(entry.key, entry.field(main).Text());
+    }
+    Write_Look(session, writer);
+    Write_Fields(session, writer);
+    writer.Write_Line("Comments", main.Text38.Text());
+}
+
+bool Put_Main_Record(Session& session, const Record& record) {
+    return Put_Field(session, record) || Put_Mode(session, record) ||
+           Put_Preload(session, record) || Put_Option(session, record) ||
+           Put_Company(session, record) || Put_Logo(session, record) ||
+           Put_Compare_Switch(session, record) || Put_Grid(session, record);
+}
+
+} // namespace kestrum

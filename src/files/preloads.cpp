@@ -1,0 +1,37 @@
+#include "files/preloads.h"
+
+#include "core/text.h"
+#include "files/flow_data_file.h"
+#include "files/named_files.h"
+#include "platform/file_store.h"
+
+namespace kestrum {
+
+namespace {
+
+constexpr std::string_view filter = "Flow Data Files (*.dat)|*.dat";
+constexpr std::size_t shortest_name = 5;
+
+} // namespace
+
+void Choose_Preload(Session& session, int index) {
+    try {
+        session.file_path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
+    } catch (const Run_Time_Error&) {
+        return;
+    }
+    // The bare name of a file that lies elsewhere is not found later; that is known and stays.
+    session.Main().Text1(index).Set_Text(
+        Name_In_Folder(session.surroundings.folder, session.file_path));
+}
+
+void Load_Preloads(Session& session) {
+    for (int index = 0; index < sheet_count; ++index) {
+        const std::string name = session.Main().Text1(index).Text();
+        if (Length(name) >= shortest_name) {
+            Load_Flow_File(session, session.Sheet(index + 1), name);
+        }
+    }
+}
+
+} // namespace kestrum
