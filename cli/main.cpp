@@ -15,7 +15,7 @@ using namespace kestrum::cli;
 
 int Run_Script(std::span<const char* const> arguments) {
     const Script_Options options = Options_From(arguments);
-    Script_Runner runner(options.surroundings, std::cout);
+    Script_Runner runner(options.surroundings, std::cout, options.rescue);
     if (options.file == "-") {
         return runner.Run(std::cin);
     }

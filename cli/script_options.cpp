@@ -106,6 +106,10 @@ Script_Options Options_From(std::span<const char* const> arguments) {
             options.file = argument;
             continue;
         }
+        if (argument == "--rescue") {
+            options.rescue = true;
+            continue;
+        }
         if (at + 1 == arguments.size()) {
             throw Script_Error(Quoted(argument) + " wants a value");
         }

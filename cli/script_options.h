@@ -10,6 +10,8 @@ namespace kestrum::cli {
 /// How `kestrum-cli script` was called.
 struct Script_Options {
     Surroundings surroundings;
+    /// Whether rescue copies are kept and offered, as on the desktop.
+    bool rescue = false;
     /// The script; "-" reads standard input.
     std::string file;
 };

@@ -71,20 +71,25 @@ struct Script_Runner::Command {
     void (Script_Runner::*run)(const Words& words);
 };
 
-Script_Runner::Script_Runner(Surroundings surroundings, std::ostream& out)
+Script_Runner::Script_Runner(Surroundings surroundings, std::ostream& out, bool keeps_rescue)
     : surroundings_(std::move(surroundings)),
       printer_(out),
       dialogs_(printer_),
-      windows_(printer_) {}
+      windows_(printer_),
+      keeps_rescue_(keeps_rescue) {}
 
 Script_Runner::~Script_Runner() = default;
 
 void Script_Runner::Start(const std::string& command_line) {
     Surroundings facts = surroundings_;
     facts.command_line = command_line;
-    session_.reset();
+    rescue_.reset();
     session_ = std::make_unique<Session>(dialogs_, windows_, std::move(facts));
     Start_Up(*session_);
+    if (keeps_rescue_) {
+        rescue_ = std::make_unique<Rescue>(*session_);
+        rescue_->Offer();
+    }
 }
 
 int Script_Runner::Run(std::istream& script) {
@@ -95,8 +100,10 @@ int Script_Runner::Run(std::istream& script) {
         while (std::getline(script, line)) {
             ++number;
             Execute(line);
+            Keep_Rescue();
         }
     } catch (const Run_Time_Error& failure) {
+        Keep_Rescue();
         dialogs_.Drop_Queues();
         printer_.Print(
             {{"error", {{"number", failure.Number()}, {"description", failure.Description()}}}});
@@ -105,6 +112,18 @@ int Script_Runner::Run(std::istream& script) {
         throw Script_Error("line " + Event(number).dump() + ": " + fault.what());
     }
     return 0;
+}
+
+void Script_Runner::Keep_Rescue() {
+    if (rescue_) {
+        rescue_->Keep();
+    }
+}
+
+void Script_Runner::Remove_Rescue() {
+    if (rescue_) {
+        rescue_->Remove();
+    }
 }
 
 void Script_Runner::Execute(std::string_view line) {
@@ -279,7 +298,13 @@ void Script_Runner::Answer_Font(const Words& /*words*/) {
 }
 
 void Script_Runner::Close(const Words& words) {
-    Close_Window(*session_, Screen_At(words.address));
+    Keep_Rescue(); // the texts of a window that closes are gone
+    Screen& screen = Screen_At(words.address);
+    const bool ends_program = screen.Name() == "Main";
+    Close_Window(*session_, screen);
+    if (ends_program) {
+        Remove_Rescue();
+    }
 }
 
 void Script_Runner::Dump(const Words& words) {
@@ -302,6 +327,7 @@ void Script_Runner::Printer(const Words& /*words*/) {
 
 void Script_Runner::Exit(const Words& /*words*/) {
     Exit_Program(*session_);
+    Remove_Rescue();
 }
 
 void Script_Runner::Restart(const Words& words) {

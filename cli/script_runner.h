@@ -4,6 +4,7 @@
 #include "cli/headless_dialogs.h"
 #include "cli/headless_windows.h"
 #include "core/session.h"
+#include "files/rescue.h"
 
 #include <istream>
 #include <memory>
@@ -18,7 +19,7 @@ namespace kestrum::cli {
 class Script_Runner {
 public:
     /// `out` takes one JSON object a line.
-    Script_Runner(Surroundings surroundings, std::ostream& out);
+    Script_Runner(Surroundings surroundings, std::ostream& out, bool keeps_rescue = false);
     ~Script_Runner();
 
     /// Runs to the end of the script. Gives the exit status: 0, or 1 when a failure that no
@@ -36,6 +37,8 @@ private:
     struct Words;
 
     void Start(const std::string& command_line);
+    void Keep_Rescue();
+    void Remove_Rescue();
     [[nodiscard]] Screen& Screen_At(std::string_view name);
     [[nodiscard]] Control& Control_At(std::string_view address);
 
@@ -66,6 +69,8 @@ private:
     Headless_Dialogs dialogs_;
     Headless_Windows windows_;
     std::unique_ptr<Session> session_;
+    bool keeps_rescue_;
+    std::unique_ptr<Rescue> rescue_;
 };
 
 } // namespace kestrum::cli

@@ -212,4 +212,16 @@ bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view byt
     return true;
 }
 
+void Restore_Flow_Inputs(Session& session, Flow_Sheet& sheet, std::string_view bytes,
+                         bool same_separator) {
+    const Own_File_State own(session);
+    const auto put = [&](const Record& record) {
+        return Put_Record(session.number, sheet, record);
+    };
+    Restore_Records(session, bytes, sheet.Text38, put);
+    if (!same_separator) {
+        Apply_Decimal_Mode(session.number, sheet);
+    }
+}
+
 } // namespace kestrum

@@ -20,4 +20,9 @@ void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name);
 /// Gives whether the file was read to its end.
 bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes);
 
+/// Puts a rescued copy into a sheet without calculating it. Unless the copy was written with
+/// another separator, every text comes back as it stood. Raises what the reading raises.
+void Restore_Flow_Inputs(Session& session, Flow_Sheet& sheet, std::string_view bytes,
+                         bool same_separator);
+
 } // namespace kestrum

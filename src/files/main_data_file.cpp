@@ -84,4 +84,16 @@ bool Read_Main_Records(Session& session, std::string_view bytes) {
     return true;
 }
 
+void Restore_Main_Inputs(Session& session, std::string_view bytes, bool same_separator) {
+    const Own_File_State own(session);
+    Engine_Screen& main = session.Main();
+    const auto put = [&session](const Record& record) {
+        return Put_Preload_Name(session, record) || Put_Main_Record(session, record);
+    };
+    Restore_Records(session, bytes, main.Text38, put);
+    if (!same_separator) {
+        Apply_Decimal_Mode(session.number, main);
+    }
+}
+
 } // namespace kestrum

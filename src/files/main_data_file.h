@@ -21,4 +21,8 @@ bool Load_Main_File(Session& session, std::string_view name);
 /// The same from a file's bytes.
 bool Read_Main_Records(Session& session, std::string_view bytes);
 
+/// Puts a rescued copy into `Main` without calculating it; the flow tests that it names are not
+/// loaded. Raises what the reading raises.
+void Restore_Main_Inputs(Session& session, std::string_view bytes, bool same_separator);
+
 } // namespace kestrum

@@ -264,4 +264,12 @@ bool Put_Main_Record(Session& session, const Record& record) {
            Put_Compare_Switch(session, record) || Put_Grid(session, record);
 }
 
+bool Put_Preload_Name(Session& session, const Record& record) {
+    const int index = Numbered(record, "flow", sheet_count);
+    if (index >= 0) {
+        session.Main().Text1(index).Set_Text(record.Value());
+    }
+    return index >= 0;
+}
+
 } // namespace kestrum

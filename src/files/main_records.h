@@ -12,4 +12,8 @@ void Write_Main_Records(Session& session, Record_Writer& writer);
 /// number that is none.
 bool Put_Main_Record(Session& session, const Record& record);
 
+/// Puts a flow test's name into the preload panel as it was written and loads nothing; false for
+/// another record.
+bool Put_Preload_Name(Session& session, const Record& record);
+
 } // namespace kestrum

@@ -47,4 +47,18 @@ bool Read_Records(Session& session, Line_Reader& lines, Control& comment,
     return true;
 }
 
+void Restore_Records(Session& session, std::string_view bytes, Control& comment,
+                     const std::function<bool(const Record&)>& put) {
+    const std::string content = Decoded(bytes);
+    Line_Reader lines(content);
+    const auto put_or_pass = [&put](const Record& record) {
+        static_cast<void>(put(record));
+        return true;
+    };
+    Read_Records(session, lines, comment, {}, put_or_pass);
+    if (comment.Text().starts_with(' ')) {
+        comment.Set_Text(std::string(comment.Text(), 1));
+    }
+}
+
 } // namespace kestrum

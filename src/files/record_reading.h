@@ -22,6 +22,11 @@ struct Reading_Words {
 bool Read_Records(Session& session, Line_Reader& lines, Control& comment,
                   const Reading_Words& words, const std::function<bool(const Record&)>& put);
 
+/// The same for a rescued copy: nothing is asked, and the comment comes back as it stood, without
+/// the blank that the reading of a user's file adds.
+void Restore_Records(Session& session, std::string_view bytes, Control& comment,
+                     const std::function<bool(const Record&)>& put);
+
 /// Gives a routine its own count and path back when one that it called has read another file.
 class Own_File_State {
 public:

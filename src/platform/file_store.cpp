@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -180,6 +181,48 @@ bool File_Exists(const std::string& path) {
 bool Can_Be_Read(const std::string& path) {
     std::error_code failed;
     return fs::is_regular_file(path, failed) && ::access(path.c_str(), R_OK) == 0;
+}
+
+bool Make_Folder(const std::string& path) {
+    std::error_code failed;
+    fs::create_directories(path, failed);
+    return fs::is_directory(path, failed);
+}
+
+void Remove_Folder(const std::string& path) {
+    std::error_code ignored;
+    fs::remove_all(path, ignored);
+}
+
+void Move_File(const std::string& from, const std::string& to) {
+    std::error_code ignored;
+    fs::rename(from, to, ignored);
+}
+
+std::string Time_Of_File(const std::string& path) {
+    struct stat facts {};
+
+    std::tm local{};
+    if (::stat(path.c_str(), &facts) != 0 || ::localtime_r(&facts.st_mtime, &local) == nullptr) {
+        return {};
+    }
+    std::string text;
+    const auto put = [&text](int number, std::size_t digits, std::string_view mark) {
+        const std::size_t at = text.size();
+        text.append(digits, '0');
+        for (std::size_t digit = digits; digit > 0 && number > 0; --digit, number /= 10) {
+            text[at + digit - 1] = static_cast<char>('0' + number % 10);
+        }
+        text += mark;
+    };
+    constexpr int first_year = 1900;
+    put(local.tm_year + first_year, 4, "-");
+    put(local.tm_mon + 1, 2, "-");
+    put(local.tm_mday, 2, " ");
+    put(local.tm_hour, 2, ":");
+    put(local.tm_min, 2, ":");
+    put(local.tm_sec, 2, "");
+    return text;
 }
 
 std::string Read_Whole_File(const std::string& path) {

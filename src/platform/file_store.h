@@ -22,6 +22,15 @@ namespace kestrum {
 /// Whether there is a file, and no folder, that may be read.
 [[nodiscard]] bool Can_Be_Read(const std::string& path);
 
+/// Makes a folder with all above it; false when it cannot be had. One that is there is fine.
+[[nodiscard]] bool Make_Folder(const std::string& path);
+/// Removes a folder and all that lies in it, as far as that can be done.
+void Remove_Folder(const std::string& path);
+/// Gives a file another name, over one that bears it, as far as that can be done.
+void Move_File(const std::string& from, const std::string& to);
+/// When a file was last written, in local time, as "2026-11-22 21:15:00"; empty when unknown.
+[[nodiscard]] std::string Time_Of_File(const std::string& path);
+
 /// The whole content of a file. Raises 53, 70, 75 or 76.
 [[nodiscard]] std::string Read_Whole_File(const std::string& path);
 
