@@ -20,11 +20,19 @@ constexpr Control_Entry Table_Rows(std::string_view array) {
 }
 
 constexpr Control_Entry Type(int index, std::string_view caption) {
-    return Members(Option_Button, "Option3", index, index, caption).In("Frame3");
+    // The % types stand beside the plain ones.
+    constexpr int rows = 9;
+    return Members(Option_Button, "Option3", index, index, caption)
+        .In("Frame3")
+        .At(index / rows, index % rows);
 }
 
-constexpr Control_Entry Axis_Limit(std::string_view name, std::string_view tip) {
-    return Lone_Field(name, Cell_Use::Input, "-").Filter(Signed_Decimal).Selects().Tip(tip);
+constexpr Control_Entry Axis_Limit(std::string_view name, int row, std::string_view tip) {
+    return Lone_Field(name, Cell_Use::Input, "-")
+        .Filter(Signed_Decimal)
+        .Selects()
+        .Tip(tip)
+        .At(12, row);
 }
 
 constexpr std::string_view marker_tip =
@@ -59,15 +67,15 @@ constexpr auto compare_table = std::to_array<Control_Entry>({
     Table_Head("Text110"),
     Table_Rows("Text110"),
 
-    Lone(Frame, "Frame1", "Compare Flow"),
-    Members(Option_Button, "Option1", 0, 0, "Test 1").Set().In("Frame1"),
-    Members(Option_Button, "Option1", 1, 4, "Test 2|Test 3|Test 4|Test 5").In("Frame1"),
-    Lone(Frame, "Frame2", "To Flow"),
-    Members(Option_Button, "Option2", 0, 0, "Test 1").In("Frame2"),
-    Members(Option_Button, "Option2", 1, 1, "Test 2").Set().In("Frame2"),
-    Members(Option_Button, "Option2", 2, 4, "Test 3|Test 4|Test 5").In("Frame2"),
+    Lone(Frame, "Frame1", "Compare Flow").At(0, 0, 2, 6),
+    Members(Option_Button, "Option1", 0, 0, "Test 1").Set().In("Frame1").At(0, 0),
+    Members(Option_Button, "Option1", 1, 4, "Test 2|Test 3|Test 4|Test 5").In("Frame1").At(0, 1),
+    Lone(Frame, "Frame2", "To Flow").At(2, 0, 2, 6),
+    Members(Option_Button, "Option2", 0, 0, "Test 1").In("Frame2").At(0, 0),
+    Members(Option_Button, "Option2", 1, 1, "Test 2").Set().In("Frame2").At(0, 1),
+    Members(Option_Button, "Option2", 2, 4, "Test 3|Test 4|Test 5").In("Frame2").At(0, 2),
 
-    Lone(Frame, "Frame3", "Type of Comparison / Graph"),
+    Lone(Frame, "Frame3", "Type of Comparison / Graph").At(4, 0, 6, 10),
     Type(0, "CFM @ 28\"").Set().Tip("CFM Air Flow @ 28 Inches of Water."),
     Type(1, "CFM Per Sq/Inch").Tip("Flow per Square Inch / mm of Valve Area."),
     Type(2, "Mean Port Velocity"),
@@ -93,61 +101,73 @@ constexpr auto compare_table = std::to_array<Control_Entry>({
     Type(16, "% Port Engery").Tip(KESTRUM_PERCENT_TIP("Port Energy")),
     Type(17, "% Port Engery Density").Tip(KESTRUM_PERCENT_TIP("Port Energy Density")),
 
-    Lone(Frame, "Frame4", "Valve Lift or L/D Ratio"),
+    Lone(Frame, "Frame4", "Valve Lift or L/D Ratio").At(0, 6, 4, 4),
     Members(Option_Button, "Option4", 0, 0, "Valve Lift")
         .Set()
         .In("Frame4")
+        .At(0, 0)
         .Tip("Graph Intake and Exhaust Using Valve Lift as the X_Axis."),
     Members(Option_Button, "Option4", 1, 1, "Intake L/D Ratio")
         .In("Frame4")
+        .At(0, 1)
         .Tip("Graph Intake Using Intake L/D Ratio as the X_Axis."),
     Members(Option_Button, "Option4", 2, 2, "Exhaust L/D Ratio")
         .In("Frame4")
+        .At(0, 2)
         .Tip("Graph Exhaust Using Exhaust L/D Ratio as the X_Axis."),
 
-    Lone(Label, "Label1", "Y Axis Low"),
-    Axis_Limit("Text1", "If This Field has anything other than a \"-\" that Value will be Used for "
-                        "the Y_Axis Low Value for all % Change Graphs."),
-    Lone(Label, "Label2", "Y Axis High"),
-    Axis_Limit("Text2", "If This Field has anything other than a \"-\" that Value will be Used for "
-                        "the Y_Axis High Value for all Graphs."),
-    Lone(Label, "Label3", "Valve Lift 1"),
-    Axis_Limit("Text3", marker_tip),
-    Lone(Label, "Label4", "Valve Lift 2"),
-    Axis_Limit("Text4", marker_tip),
-    Lone_Field("Text71", Cell_Use::Input,
-               "User Supplied Text for Graph Caption Line 1 -- ADD HERE"),
-    Lone_Field("Text72", Cell_Use::Input,
-               "User Supplied Text for Graph Caption Line 2 -- ADD HERE"),
+    Lone(Label, "Label1", "Y Axis Low").At(10, 12, 2),
+    Axis_Limit("Text1", 12,
+               "If This Field has anything other than a \"-\" that Value will be Used for "
+               "the Y_Axis Low Value for all % Change Graphs."),
+    Lone(Label, "Label2", "Y Axis High").At(10, 13, 2),
+    Axis_Limit("Text2", 13,
+               "If This Field has anything other than a \"-\" that Value will be Used for "
+               "the Y_Axis High Value for all Graphs."),
+    Lone(Label, "Label3", "Valve Lift 1").At(10, 14, 2),
+    Axis_Limit("Text3", 14, marker_tip),
+    Lone(Label, "Label4", "Valve Lift 2").At(10, 15, 2),
+    Axis_Limit("Text4", 15, marker_tip),
+    Lone_Field("Text71", Cell_Use::Input, "User Supplied Text for Graph Caption Line 1 -- ADD HERE")
+        .At(10, 18, 4),
+    Lone_Field("Text72", Cell_Use::Input, "User Supplied Text for Graph Caption Line 2 -- ADD HERE")
+        .At(10, 19, 4),
 
     Lone(Check_Box, "Check1", "Show a Line on the Graph @ .25 Valve Diameter")
+        .At(10, 6, 4)
         .Tip("When Checked a Line will be drawn @ .25 Valve Diameter for both the Intake and "
              "Exhasut for both Flow Tests."),
     Lone(Check_Box, "Check2", "Calculate the Number of Lines on the X-Axis")
+        .At(10, 7, 4)
         .Tip("The Program Default is to have 10 Horizontal Lines on the X-Axis. When Checked this "
              "will cause the Program Calculate how many Horizontal Lines to use on the X-Axis. "
              "Depending on Max lift this could be every 0.025\", every 0.050\" or every 0.100\"."
              "\r\nNotes: This also working in Metric mode.\r\nThis only work for Valve Lift and "
              "not for L/D Ratio Graphs."),
     Lone(Check_Box, "Check3", "Show Data Points on Graph.")
+        .At(10, 8, 4)
         .Tip("When Checked this will cause the Program to Mark Each Data Point on the Graph."),
     Lone(Check_Box, "Check4", "Show Big")
+        .At(10, 9, 4)
         .Tip("When Checked this will cause the Program to Calculate the Low Y_Axis on the Graph "
              "instead of Using Zero for Effective Velocity, and Swirl."),
 
     Push_Button("Command1", "&Calculate")
+        .At(10, 0, 2, 2)
         .Tip("Populate Cells from the Indicated \"From\" and \"To\" Flow Tests and User indicated "
              "\"Type\" of Comparison."),
     Push_Button("Command2", "&Graph")
+        .At(12, 0, 2, 2)
         .Tip("Populate Cells from the Indicated \"From\" and \"To\" Flow Tests and User indicated "
              "\"Type\" and then Graph them."),
     Push_Button("Graph_Plus", "Graph &Plus")
+        .At(10, 2, 2, 2)
         .Tip("Populate Cells from the Indicated \"From\" and \"To\" Flow Tests and User indicated "
              "\"Type\" and then Graph them on the PRESENT GRAPH.\r\n\r\nNOTE: This can be used a "
              "MAX of 3 times on any Graph."),
-    Push_Button("Command3", "Print Calcs").Tip("Print Report Showing Calculations"),
-    Push_Button("Command5", "PrtSc as &JPG").Tip(tips::print_screen),
-    Push_Button("subend", "&Quit").Tip("Quit / Close the Flow Test compare Screen"),
+    Push_Button("Command3", "Print Calcs").At(12, 2, 2, 2).Tip("Print Report Showing Calculations"),
+    Push_Button("Command5", "PrtSc as &JPG").At(10, 4, 2, 2).Tip(tips::print_screen),
+    Push_Button("subend", "&Quit").At(12, 4, 2, 2).Tip("Quit / Close the Flow Test compare Screen"),
 });
 
 #undef KESTRUM_PERCENT_TIP

@@ -212,10 +212,10 @@ constexpr auto sheet_table = std::to_array<Control_Entry>({
     Heading("Text115", "Mean|Port|Vel Ex."),
     Lift_Results("Text115"),
 
-    Lone_Field("Text39", Cell_Use::Caption, ""),
+    Lone_Field("Text39", Cell_Use::Caption, "").At(0, 31, 15),
 
     // Page 2.
-    Lone(Frame, "Frame1", "").Hidden(),
+    Lone(Frame, "Frame1", "").Hidden().At(0, 0, 15, 32),
     Captions("Text201", 3, 5, "In. Valve|Seat Angle|Seat Width").In("Frame1"),
     Heading("Text201", "Effective|Valve|Area In.").In("Frame1"),
     Lift_Results("Text201").In("Frame1"),
@@ -257,14 +257,15 @@ constexpr auto sheet_table = std::to_array<Control_Entry>({
     Heading("Text211", "Floating|Depression|Exhaust").In("Frame1"),
     Lift_Inputs("Text211", "0").In("Frame1"),
 
-    Lone(Label, "Label38", "Comments:").In("Frame1"),
-    Lone_Field("Text38", Cell_Use::Input, "").Many_Lines().Selects().In("Frame1"),
-    Push_Button("Exit", "E&xit Page 2").In("Frame1"),
+    Lone(Label, "Label38", "Comments:").In("Frame1").At(5, 3),
+    Lone_Field("Text38", Cell_Use::Input, "").Many_Lines().Selects().In("Frame1").At(5, 4, 6, 8),
+    Push_Button("Exit", "E&xit Page 2").In("Frame1").At(0, 9, 2, 2),
 
-    Push_Button("Command1", "&Calculate").Tip(tips::calculate),
-    Push_Button("Sort", "Sort Data").Tip(tips::sort),
+    Push_Button("Command1", "&Calculate").At(12, 0, 3, 2).Tip(tips::calculate),
+    Push_Button("Sort", "Sort Data").At(12, 2, 3, 2).Tip(tips::sort),
     Push_Button("NextPage", "For Valve Seat Dimensions, Swirl, and Floating Depression Entry Next "
-                            "Page (2)"),
+                            "Page (2)")
+        .At(12, 4, 3, 3),
     Lone(Label, "Label7", "").Hidden(),
     Members(Label, "Label2", 0, 7, ""),
 
