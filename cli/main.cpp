@@ -1,4 +1,5 @@
 #include "application/version.h"
+#include "cli/calc_run.h"
 #include "cli/script_error.h"
 #include "cli/script_options.h"
 #include "cli/script_runner.h"
@@ -31,11 +32,16 @@ int Run_Verb(std::span<const char* const> arguments) {
     if (verb == "script") {
         return Run_Script(arguments.subspan(1));
     }
+    if (verb == "calc") {
+        return Run_Calc(Calc_Options_From(arguments.subspan(1)), std::cin, std::cout, std::cerr);
+    }
     if (verb == "--version") {
         std::cout << "kestrum-cli " << kestrum::Program_Version() << '\n';
         return 0;
     }
-    throw Script_Error("usage: kestrum-cli script [OPTIONS] FILE | --version");
+    throw Script_Error("usage: kestrum-cli script [OPTIONS] FILE\n"
+                       "       kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
+                       "       kestrum-cli --version");
 }
 
 } // namespace
