@@ -106,7 +106,8 @@ mode_t Rights_Of(const std::string& path) {
 
 /// A name that no file of the user bears: the save must not run over a neighbour.
 std::string Name_Beside(const std::string& target) {
-    if (!fs::is_directory(fs::absolute(target).parent_path())) {
+    std::error_code failed; // a name without a file, a folder that nobody may look into
+    if (!fs::is_directory(fs::absolute(target, failed).parent_path(), failed)) {
         Fail(error::path_not_found);
     }
     std::string name = target + ".new";
