@@ -73,6 +73,15 @@ std::optional<std::string> Headless_Dialogs::Choose_File(const Chooser& chooser)
     return path;
 }
 
+std::optional<int> Headless_Dialogs::Choose_Colour() {
+    if (colours_.empty()) {
+        return std::nullopt;
+    }
+    const std::optional<int> colour = colours_.front();
+    colours_.pop_front();
+    return colour;
+}
+
 void Headless_Dialogs::Beep() {
     printer_.Print({{"beep", true}});
 }
@@ -80,6 +89,7 @@ void Headless_Dialogs::Beep() {
 void Headless_Dialogs::Drop_Queues() {
     answers_.clear();
     files_.clear();
+    colours_.clear();
 }
 
 } // namespace kestrum::cli

@@ -16,12 +16,15 @@ public:
 
     Box_Answer Show_Box(const Box& box) override;
     std::optional<std::string> Choose_File(const Chooser& chooser) override;
+    std::optional<int> Choose_Colour() override;
     void Beep() override;
 
     void Queue_Answer(Box_Answer answer) { answers_.push_back(answer); }
 
     /// Nothing queues a cancel.
     void Queue_File(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+
+    void Queue_Colour(std::optional<int> colour) { colours_.push_back(colour); }
 
     void Drop_Queues();
 
@@ -31,6 +34,7 @@ private:
     Event_Printer& printer_;
     std::deque<Box_Answer> answers_;
     std::deque<std::optional<std::string>> files_;
+    std::deque<std::optional<int>> colours_;
 };
 
 } // namespace kestrum::cli

@@ -3,6 +3,7 @@
 #include "application/events.h"
 #include "application/start_up.h"
 #include "application/variables.h"
+#include "cli/drawing_events.h"
 #include "cli/properties.h"
 #include "cli/script_error.h"
 #include "core/field_editor.h"
@@ -36,6 +37,22 @@ std::string Unescaped(std::string_view text) {
         ++at;
     }
     return plain;
+}
+
+/// Takes the word at the front, and the blank behind it, off a text.
+std::string_view First_Word(std::string_view& rest) {
+    const std::string_view word = rest.substr(0, rest.find(' '));
+    rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+    return word;
+}
+
+double Coordinate(std::string_view text) {
+    double value = 0;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (failure != std::errc() || end != text.data() + text.size()) {
+        throw Script_Error("not a number: '" + std::string(text) + "'");
+    }
+    return value;
 }
 
 bool Has_Caption(Control_Kind kind) {
@@ -85,6 +102,7 @@ void Script_Runner::Start(const std::string& command_line) {
     facts.command_line = command_line;
     rescue_.reset();
     session_ = std::make_unique<Session>(dialogs_, windows_, std::move(facts));
+    session_->graph.canvas.Keep_Journal();
     Start_Up(*session_);
     if (keeps_rescue_) {
         rescue_ = std::make_unique<Rescue>(*session_);
@@ -146,16 +164,11 @@ void Script_Runner::Execute(std::string_view line) {
     if (line.find_first_not_of(' ') == std::string_view::npos || line.starts_with('#')) {
         return;
     }
-    const auto first_word = [](std::string_view& rest) {
-        const std::string_view word = rest.substr(0, rest.find(' '));
-        rest.remove_prefix(std::min(word.size() + 1, rest.size()));
-        return word;
-    };
     Words words{};
     words.argument = line;
-    words.command = first_word(words.argument);
+    words.command = First_Word(words.argument);
     words.all = words.argument;
-    words.address = first_word(words.argument);
+    words.address = First_Word(words.argument);
     const auto* const command = std::ranges::find(commands, words.command, &Command::name);
     if (command == commands.end()) {
         throw Script_Error("unknown command '" + std::string(words.command) + "'");
@@ -254,9 +267,20 @@ void Script_Runner::Hover_On(const Words& words) {
     }
 }
 
+/// "down|move|up X Y", in the picture's own units.
 void Script_Runner::Mouse(const Words& words) {
-    // No picture has a routine for the mouse yet; the address must still exist.
-    static_cast<void>(Control_At(words.address));
+    static constexpr std::array<std::pair<std::string_view, Mouse_Action>, 3> actions{
+        {{"down", Mouse_Action::Down}, {"move", Mouse_Action::Move}, {"up", Mouse_Action::Up}}};
+    std::string_view rest = words.argument;
+    const std::string_view name = First_Word(rest);
+    const auto* const action =
+        std::ranges::find(actions, name, &std::pair<std::string_view, Mouse_Action>::first);
+    if (action == actions.end()) {
+        throw Script_Error("unknown mouse action '" + std::string(name) + "'");
+    }
+    const double x = Coordinate(First_Word(rest));
+    const double y = Coordinate(First_Word(rest));
+    Mouse_On_Picture(*session_, Control_At(words.address), action->second, x, y);
 }
 
 void Script_Runner::Key(const Words& words) {
@@ -289,8 +313,12 @@ void Script_Runner::Choose(const Words& words) {
     }
 }
 
-void Script_Runner::Answer_Colour(const Words& /*words*/) {
-    // Taken for the dialogs to come; no routine asks for a colour yet.
+void Script_Runner::Answer_Colour(const Words& words) {
+    if (words.all.empty()) {
+        dialogs_.Queue_Colour(std::nullopt);
+    } else {
+        dialogs_.Queue_Colour(static_cast<int>(Coordinate(words.all)));
+    }
 }
 
 void Script_Runner::Answer_Font(const Words& /*words*/) {
@@ -318,7 +346,11 @@ void Script_Runner::Dump(const Words& words) {
 }
 
 void Script_Runner::Canvas(const Words& /*words*/) {
-    printer_.Print({{"canvas", Event::array()}});
+    Event operations = Event::array();
+    for (const Draw_Operation& operation : session_->graph.canvas.Take_Journal()) {
+        operations.push_back(Operation_Event(operation));
+    }
+    printer_.Print({{"canvas", std::move(operations)}});
 }
 
 void Script_Runner::Printer(const Words& /*words*/) {

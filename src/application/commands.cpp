@@ -8,6 +8,10 @@
 #include "files/flow_data_file.h"
 #include "files/main_data_file.h"
 #include "files/preloads.h"
+#include "graph/compare_table.h"
+#include "graph/graph_set_up.h"
+#include "output/graph_logo.h"
+#include "output/graph_mouse.h"
 #include "presentation/alignment.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
@@ -225,8 +229,55 @@ constexpr auto sheet_commands = std::to_array<Command>({
     {"subend", Hide_Screen},
 });
 
-constexpr auto compare_commands = std::to_array<Command>({{"subend", Hide_Screen}});
-constexpr auto graph_commands = std::to_array<Command>({{"Command1", Hide_Screen}});
+// Compare and graph.
+
+void Calculate_Table(Session& session, Control& /*control*/) {
+    Fill_Compare_Table(session);
+}
+
+void Draw_New_Graph(Session& session, Control& /*control*/) {
+    Draw_Fresh_Graph(session);
+}
+
+void Add_To_Graph(Session& session, Control& /*control*/) {
+    Draw_Graph_Overlay(session);
+}
+
+/// The four boxes are copied on every click.
+template <int Session::*Switch>
+void Copy_Switch(Session& session, Control& control) {
+    session.*Switch = control.Value();
+}
+
+void Switch_Logo(Session& session, Control& /*control*/) {
+    Toggle_Logo(session);
+}
+
+void Pick_Line_Colour(Session& session, Control& /*control*/) {
+    Choose_Line_Colour(session);
+}
+
+void Pick_Line_Width(Session& session, Control& control) {
+    session.draw_line_width = session.number.Read_Integer(control.Text());
+}
+
+constexpr auto compare_commands = std::to_array<Command>({
+    {"Command1", Calculate_Table},
+    {"Command2", Draw_New_Graph},
+    {"Graph_Plus", Add_To_Graph},
+    {"Check1", Copy_Switch<&Session::show_quarter_diameter_line>},
+    {"Check2", Copy_Switch<&Session::auto_x_lines>},
+    {"Check3", Copy_Switch<&Session::show_data_points>},
+    {"Check4", Copy_Switch<&Session::show_big>},
+    {"subend", Hide_Screen},
+});
+
+constexpr auto graph_commands = std::to_array<Command>({
+    {"Logo", Switch_Logo},
+    {"Command4", Pick_Line_Colour},
+    {"Combo1", Pick_Line_Width},
+    {"Command1", Hide_Screen},
+});
 constexpr auto report_commands = std::to_array<Command>({{"subend", Hide_Screen}});
 
 std::span<const Command> Commands_Of(const Screen& screen) {

@@ -54,6 +54,14 @@ void Copy_Lift(Session& session, const Control& lift) {
     session.Sheet(sheet).Text108(lift.Index()).Set_Text(lift.Text());
 }
 
+/// An empty limit of the graph is shown as "-" and keeps the focus.
+void Put_Dash(Session& session, Control& field, const Control& tested) {
+    if (tested.Text().empty()) {
+        field.Set_Text("-");
+        session.windows.Focus(field);
+    }
+}
+
 bool Passes_Check(Session& session, Control& field) {
     switch (field.Entry().check) {
     case Leave_Check::No_Check:
@@ -106,6 +114,10 @@ void Leave(Session& session, Control& field) {
         return Check_Valve_Count(session, field, "Number of Exhaust Valves Must be 1 to 4");
     case Leave_Step::Copy_Lift:
         return Copy_Lift(session, field);
+    case Leave_Step::Dash_When_Empty:
+        return Put_Dash(session, field, field);
+    case Leave_Step::Dash_When_Low_Is_Empty:
+        return Put_Dash(session, field, session.Form50().Text1);
     }
 }
 
@@ -128,6 +140,17 @@ void Hover_Over_Form(Screen& screen) {
     }
 }
 
+void Mouse_On_Picture(Session& session, Control& picture, Mouse_Action action, double x, double y) {
+    if (&picture.Owner() != &session.Form60()) {
+        return;
+    }
+    if (&picture == &session.Form60().Picture2) {
+        Move_Logo(session, action, {.left = x, .top = y});
+    } else {
+        Mouse_On_Canvas(session, action, {x, y});
+    }
+}
+
 void Close_Window(Session& session, Screen& screen) {
     const std::string& name = screen.Name();
     if (name == "Main") {
@@ -135,6 +158,9 @@ void Close_Window(Session& session, Screen& screen) {
     } else if (name == "Form50" || name == "Form70") {
         session.Hide(screen); // does what "Quit" does, and the closing is cancelled
     } else {
+        if (name == "Form60") {
+            session.graph.plus_count = no_graph; // the picture is gone
+        }
         session.Unload(screen);
     }
 }

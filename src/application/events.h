@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session.h"
+#include "output/graph_mouse.h"
 
 namespace kestrum {
 
@@ -21,6 +22,9 @@ void Leave(Session& session, Control& field);
 /// The mouse moves over a control, or over the bare form.
 void Hover_Over(Control& control);
 void Hover_Over_Form(Screen& screen);
+
+/// The mouse on a picture, in the picture's own units.
+void Mouse_On_Picture(Session& session, Control& picture, Mouse_Action action, double x, double y);
 
 /// The user closes a screen's window by its frame.
 void Close_Window(Session& session, Screen& screen);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace kestrum {
 
@@ -30,6 +31,12 @@ Variable_Value Text(const Session& session) {
 template <const std::string_view& Constant>
 Variable_Value Fixed(const Session& /*session*/) {
     return std::string(Constant);
+}
+
+/// The same of the graph's state.
+template <auto Member>
+Variable_Value Graph(const Session& session) {
+    return static_cast<double>(session.graph.*Member);
 }
 
 /// Scratch of other days: counters are locals now, and work texts are empty between operations.
@@ -92,6 +99,25 @@ const auto variables = std::to_array<Variable>({
     {"X_Line_Count", Number<&S::x_line_count>},
     {"Draw_Line_Color", Number<&S::draw_line_color>},
     {"Draw_Line_Width", Number<&S::draw_line_width>},
+    {"Compare_From_Label", Text<&S::compare_from_label>},
+    {"Compare_To_Label", Text<&S::compare_to_label>},
+    {"Graph_Plus_Count", Graph<&Graph_State::plus_count>},
+    {"From_Point_Count", Graph<&Graph_State::from_point_count>},
+    {"To_Point_Count", Graph<&Graph_State::to_point_count>},
+    {"Graph_Tension", Graph<&Graph_State::tension>},
+    {"X_Low", Graph<&Graph_State::x_low>},
+    {"X_High", Graph<&Graph_State::x_high>},
+    {"Y_Low", Graph<&Graph_State::y_low>},
+    {"Y_High", Graph<&Graph_State::y_high>},
+    {"X_Per_Unit", Graph<&Graph_State::x_per_unit>},
+    {"Y_Per_Unit", Graph<&Graph_State::y_per_unit>},
+    {"Legend_Offset", Graph<&Graph_State::legend_offset>},
+    {"Plot_Left", Graph<&Graph_State::plot_left>},
+    {"Plot_Right", Graph<&Graph_State::plot_right>},
+    {"Plot_Bottom", Graph<&Graph_State::plot_bottom>},
+    {"Drawing_Now", Graph<&Graph_State::drawing_now>},
+    {"Logo_Moving", Graph<&Graph_State::logo_moving>},
+    {"Thick_Lines", Zero},
     {"Logo_On", Number<&S::logo_on>},
     {"Logo_File", Text<&S::logo_file>},
     {"Flow_Filter_Index", Number<&S::flow_filter_index>},
@@ -127,12 +153,48 @@ const auto variables = std::to_array<Variable>({
     {"Throat_Limit_Ex", Seat<&S::exhaust_seat, &G::throat_limit>},
 });
 
+/// The arrays of the graph's points, as "From_X(3)".
+struct Series_Variable {
+    std::string_view name;
+    Series Graph_State::*series;
+};
+
+constexpr std::array<Series_Variable, 6> series_variables{{
+    {"From_X", &Graph_State::from_x},
+    {"To_X", &Graph_State::to_x},
+    {"From_Intake", &Graph_State::from_intake},
+    {"From_Exhaust", &Graph_State::from_exhaust},
+    {"To_Intake", &Graph_State::to_intake},
+    {"To_Exhaust", &Graph_State::to_exhaust},
+}};
+
+/// Raises 9 for an index outside of the array.
+std::optional<Variable_Value> Series_Member(const Session& session, std::string_view name) {
+    const std::size_t bracket = name.find('(');
+    const auto* const found =
+        std::ranges::find(series_variables, name.substr(0, bracket), &Series_Variable::name);
+    if (found == series_variables.end() || bracket == std::string_view::npos) {
+        return std::nullopt;
+    }
+    std::size_t index = 0;
+    const auto [end, failure] =
+        std::from_chars(name.data() + bracket + 1, name.data() + name.size(), index);
+    if (failure != std::errc() || std::string_view(end, name.data() + name.size()) != ")") {
+        return std::nullopt;
+    }
+    const Series& series = session.graph.*found->series;
+    if (index >= series.size()) {
+        Fail(error::subscript_out_of_range);
+    }
+    return series.at(index);
+}
+
 } // namespace
 
 std::optional<Variable_Value> Variable_Named(const Session& session, std::string_view name) {
     const auto* const found = std::ranges::find(variables, name, &Variable::name);
     if (found == variables.end()) {
-        return std::nullopt;
+        return Series_Member(session, name);
     }
     return found->read(session);
 }

@@ -318,6 +318,10 @@ std::string Numeric_Text::Fmt_Four_Place(Real value) const {
     return Picture(value, align_mode == 1 ? 4 : 1, 4, Point());
 }
 
+std::string Numeric_Text::Fmt_Up_To_Four(Real value) const {
+    return Picture(value, 1, 4, Point());
+}
+
 std::string Numeric_Text::Fmt_Up_To_Five(Real value) const {
     return Picture(value, 1, 5, Point());
 }

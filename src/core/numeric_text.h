@@ -49,6 +49,8 @@ struct Numeric_Text {
     [[nodiscard]] std::string Fmt_Two_Place(Real value) const;
     [[nodiscard]] std::string Fmt_Three_Place(Real value) const;
     [[nodiscard]] std::string Fmt_Four_Place(Real value) const;
+    /// At most four places whatever the alignment; not for fields.
+    [[nodiscard]] std::string Fmt_Up_To_Four(Real value) const;
     [[nodiscard]] std::string Fmt_Up_To_Five(Real value) const;
     [[nodiscard]] std::string Fmt_Up_To_Six(Real value) const;
     /// At most eight characters, or the whole part of eight digits and more.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/graph_state.h"
 #include "core/numeric_text.h"
 #include "platform/dialogs.h"
 #include "platform/surroundings.h"
@@ -103,6 +104,10 @@ public:
     int draw_line_color = 99999;
     int draw_line_width = 3;
     int flow_filter_index = 1;
+    /// Labels of the two compared tests: number and part number.
+    std::string compare_from_label;
+    std::string compare_to_label;
+    Graph_State graph;
     int logo_on = 0;
     /// Path of the logo picture, empty when there is none.
     std::string logo_file;

@@ -1,5 +1,6 @@
 #include "files/flow_data_file.h"
 
+#include "core/chosen_file.h"
 #include "core/text.h"
 #include "files/named_files.h"
 #include "files/record_reading.h"

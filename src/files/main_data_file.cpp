@@ -1,5 +1,6 @@
 #include "files/main_data_file.h"
 
+#include "core/chosen_file.h"
 #include "core/text.h"
 #include "engine/engine_calculation.h"
 #include "files/main_records.h"

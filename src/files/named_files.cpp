@@ -5,18 +5,6 @@
 
 namespace kestrum {
 
-std::string Chosen_File(Session& session, Chooser_Mode mode, std::string_view filter,
-                        int filter_index) {
-    const auto path = session.dialogs.Choose_File({.mode = mode,
-                                                   .filter = std::string(filter),
-                                                   .filter_index = filter_index,
-                                                   .folder = session.surroundings.folder});
-    if (!path) {
-        Fail(error::path_or_file_access);
-    }
-    return *path;
-}
-
 std::string Path_Of_Named_File(const Session& session, std::string_view name) {
     const std::string_view bare = Without_Outer_Blanks(name);
     const std::string path = Find_Case_Blind(

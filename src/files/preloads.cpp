@@ -1,8 +1,8 @@
 #include "files/preloads.h"
 
+#include "core/chosen_file.h"
 #include "core/text.h"
 #include "files/flow_data_file.h"
-#include "files/named_files.h"
 #include "platform/file_store.h"
 
 namespace kestrum {

@@ -27,9 +27,11 @@ constexpr Control_Entry Type(int index, std::string_view caption) {
         .At(index / rows, index % rows);
 }
 
-constexpr Control_Entry Axis_Limit(std::string_view name, int row, std::string_view tip) {
+constexpr Control_Entry Axis_Limit(std::string_view name, int row, std::string_view tip,
+                                   Leave_Step step = Leave_Step::Dash_When_Empty) {
     return Lone_Field(name, Cell_Use::Input, "-")
         .Filter(Signed_Decimal)
+        .Check(Leave_Check::No_Check, step)
         .Selects()
         .Tip(tip)
         .At(12, row);
@@ -123,7 +125,9 @@ constexpr auto compare_table = std::to_array<Control_Entry>({
     Lone(Label, "Label2", "Y Axis High").At(10, 13, 2),
     Axis_Limit("Text2", 13,
                "If This Field has anything other than a \"-\" that Value will be Used for "
-               "the Y_Axis High Value for all Graphs."),
+               "the Y_Axis High Value for all Graphs.",
+               // This one looks at the low limit; a slip that is wanted.
+               Leave_Step::Dash_When_Low_Is_Empty),
     Lone(Label, "Label3", "Valve Lift 1").At(10, 14, 2),
     Axis_Limit("Text3", 14, marker_tip),
     Lone(Label, "Label4", "Valve Lift 2").At(10, 15, 2),
@@ -175,5 +179,13 @@ constexpr auto compare_table = std::to_array<Control_Entry>({
 } // namespace
 
 Compare_Screen::Compare_Screen() : Screen("Form50", compare_table) {}
+
+int Compare_Screen::Chosen(const Control_Array& options) {
+    int index = 0;
+    while (index < options.Size() - 1 && options(index).Value() == 0) {
+        ++index;
+    }
+    return index;
+}
 
 } // namespace kestrum

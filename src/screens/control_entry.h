@@ -26,7 +26,16 @@ enum class Key_Filter { Every_Key, Unsigned_Decimal, Digits_Only, Signed_Decimal
 enum class Leave_Check { No_Check, Not_Blank, Not_Zero };
 
 /// What follows when a leave check has passed.
-enum class Leave_Step { No_Step, Mach_Limit, Ratio_Limit, Intake_Count, Exhaust_Count, Copy_Lift };
+enum class Leave_Step {
+    No_Step,
+    Mach_Limit,
+    Ratio_Limit,
+    Intake_Count,
+    Exhaust_Count,
+    Copy_Lift,
+    Dash_When_Empty,
+    Dash_When_Low_Is_Empty
+};
 
 /// What the mouse over a control does to the help line of its screen.
 enum class Hover { Hides, Shows, Leaves };

@@ -13,6 +13,13 @@ public:
     Control& Picture1 = The("Picture1"); // the canvas
     Control& Picture2 = The("Picture2"); // the logo
     Control& Logo = The("Logo");
+    Control& Label3 = The("Label3");   // arrow text of the X axis
+    Control& Label4 = The("Label4");   // and of the Y axis
+    Control& Label8 = The("Label8");   // Y axis text
+    Control& Label9 = The("Label9");   // X axis text
+    Control& Label18 = The("Label18"); // Y under the mouse
+    Control& Label19 = The("Label19"); // X under the mouse
+    Control& Check1 = The("Check1");   // drawing with the mouse
 
     /// Style of the canvas's grid lines: 0 long, 1 dash, 2 dot.
     int draw_style = 0;

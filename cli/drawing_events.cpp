@@ -1,0 +1,67 @@
+#include "cli/drawing_events.h"
+
+#include <array>
+#include <string>
+
+namespace kestrum::cli {
+
+namespace {
+
+/// 0xRRGGBB as "#rrggbb".
+std::string Colour_Text(int colour) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    constexpr unsigned bits_of_digit = 4;
+    std::string text = "#000000";
+    auto rest = static_cast<unsigned>(colour);
+    for (std::size_t at = text.size() - 1; at > 0; --at, rest >>= bits_of_digit) {
+        text[at] = digits[rest & 0xFU];
+    }
+    return text;
+}
+
+const char* Style_Name(Line_Style style) {
+    static constexpr std::array names{"solid", "dash", "dot"};
+    return names.at(static_cast<std::size_t>(style));
+}
+
+} // namespace
+
+Event Operation_Event(const Draw_Operation& operation) {
+    switch (operation.kind) {
+    case Draw_Kind::Clear:
+        return {{"op", "clear"}};
+    case Draw_Kind::Line:
+        return {{"op", "line"},
+                {"x1", operation.x1},
+                {"y1", operation.y1},
+                {"x2", operation.x2},
+                {"y2", operation.y2},
+                {"colour", Colour_Text(operation.colour)},
+                {"width", operation.width},
+                {"style", Style_Name(operation.style)}};
+    case Draw_Kind::Circle:
+        return {{"op", "circle"},
+                {"x", operation.x1},
+                {"y", operation.y1},
+                {"r", operation.radius},
+                {"colour", Colour_Text(operation.colour)},
+                {"width", operation.width}};
+    case Draw_Kind::Text:
+        return {{"op", "text"},
+                {"x", operation.x1},
+                {"y", operation.y1},
+                {"text", operation.text},
+                {"size", operation.size},
+                {"bold", false},
+                {"colour", Colour_Text(operation.colour)}};
+    case Draw_Kind::Picture:
+        return {{"op", "picture"},
+                {"x", operation.x1},
+                {"y", operation.y1},
+                {"w", operation.x2},
+                {"h", operation.y2}};
+    }
+    return {};
+}
+
+} // namespace kestrum::cli

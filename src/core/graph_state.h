@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/drawing.h"
+
+#include <array>
+#include <string>
+
+namespace kestrum {
+
+/// A point of a curve.
+struct Curve_Point {
+    double x = 0;
+    double y = 0;
+};
+
+inline constexpr int most_curve_points = 15;
+using Series = std::array<double, most_curve_points>;
+
+/// Overlay count while there is no graph to lay over.
+inline constexpr int no_graph = 999;
+
+/// What the graph is drawn from. A fresh graph sets it anew; an overlay keeps the axes.
+struct Graph_State {
+    /// 0 on a fresh graph, 1 to 3 with each overlay.
+    int plus_count = no_graph;
+    int from_point_count = 0;
+    int to_point_count = 0;
+    int tension = 0;
+    Series from_x{};
+    Series to_x{};
+    Series from_intake{};
+    Series from_exhaust{};
+    Series to_intake{};
+    Series to_exhaust{};
+    double x_low = 0;
+    double x_high = 0;
+    double y_low = 0;
+    double y_high = 0;
+    double x_per_unit = 0;
+    double y_per_unit = 0;
+    double legend_offset = 0;
+    int plot_left = 0;
+    int plot_right = 599;
+    int plot_bottom = 599;
+    /// What stands on the canvas of `Form60`, hand drawing included.
+    Drawing canvas;
+    /// The mouse draws on the canvas, from this point on.
+    bool drawing_now = false;
+    Curve_Point pen_at;
+    bool logo_moving = false;
+};
+
+} // namespace kestrum

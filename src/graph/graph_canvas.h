@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/session.h"
+
+#include <string_view>
+
+namespace kestrum {
+
+enum class Span_Mode { Left = 1, Center = 2, Right = 3 };
+
+/// What the routines of one drawing share: the canvas with its pen, and the mapping of data.
+class Graph_Canvas {
+public:
+    explicit Graph_Canvas(Session& session);
+
+    [[nodiscard]] Session& Owner() const { return session_; }
+
+    [[nodiscard]] Graph_State& State() const { return session_.graph; }
+
+    double pen_width = 1;
+    double font_size = 12;
+
+    void Line(double x1, double y1, double x2, double y2, int colour) const;
+    void Grid_Line(double x1, double y1, double x2, double y2) const;
+    /// A line across the whole frame at an X of the data; none while the X scale is 0.
+    void Vertical_Line(double x, int colour) const;
+    void Text(double x, double y, std::string_view text) const;
+    /// Writes a text within a span. One as wide as the span starts at its left.
+    void Text_In_Span(std::string_view text, double left, double right, double y,
+                      Span_Mode mode) const;
+    void Mark(const Curve_Point& point, int colour) const;
+
+    /// A point of the data on the canvas. Raises 6 or 11 when an axis has no length.
+    [[nodiscard]] Curve_Point Mapped(const Curve_Point& point) const;
+
+    [[nodiscard]] double Text_Width(std::string_view text) const;
+    [[nodiscard]] double Text_Height() const;
+    /// Text colour of the canvas, as 0xRRGGBB.
+    [[nodiscard]] int Text_Colour() const;
+
+private:
+    Session& session_;
+};
+
+/// The system's blue-green-red number as 0xRRGGBB, or back.
+[[nodiscard]] int Swapped_Colour(int colour);
+
+} // namespace kestrum

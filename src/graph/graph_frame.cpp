@@ -1,0 +1,209 @@
+#include "graph/graph_frame.h"
+
+#include "graph/axis_number.h"
+#include "graph/compare_types.h"
+
+#include <array>
+#include <cmath>
+#include <span>
+
+namespace kestrum {
+
+namespace {
+
+constexpr int black = 0x000000;
+constexpr double text_left = 62; // of captions and legends, clear of the Y numbers
+
+/// Lifts between two X lines, up to a highest lift.
+struct Line_Step {
+    double up_to;
+    double step;
+};
+
+constexpr double no_end = 1e300;
+constexpr std::array<Line_Step, 3> us_steps{{{425, 25}, {750, 50}, {no_end, 100}}};
+constexpr std::array<Line_Step, 3> metric_steps{{{20, 1}, {40, 2}, {no_end, 3}}};
+
+/// The X lines at round lifts, the axis drawn out to the next of them.
+void Work_Out_X_Lines(Session& session) {
+    Graph_State& graph = session.graph;
+    if (graph.x_high == 0) {
+        return; // no lift: the usual lines stand
+    }
+    const std::span<const Line_Step> steps =
+        session.Main().Is_Metric() ? std::span<const Line_Step>(metric_steps) : us_steps;
+    const Line_Step* step = steps.data();
+    while (graph.x_high > step->up_to) {
+        ++step;
+    }
+    const double lines = std::floor(graph.x_high / step->step);
+    session.x_line_count = static_cast<int>(lines);
+    if (lines * step->step != graph.x_high) {
+        session.x_line_count = static_cast<int>(lines) + 1;
+        graph.x_high = (lines + 1) * step->step;
+        graph.x_per_unit = (graph.x_high - graph.x_low) / session.canvas_x_size;
+    }
+}
+
+void Draw_Grid(Graph_Canvas& canvas) {
+    const Session& session = canvas.Owner();
+    const double width = session.canvas_x_size;
+    const double height = session.canvas_y_size;
+    for (int line = 1; line < session.x_line_count; ++line) {
+        const double x = width / session.x_line_count * line;
+        canvas.Grid_Line(x, 0, x, height);
+    }
+    for (int line = 1; line < session.y_line_count; ++line) {
+        const double y = height / session.y_line_count * line;
+        canvas.Grid_Line(0, y, width, y);
+    }
+}
+
+double Grid_Pen(Session& session) {
+    constexpr int usual_colour = 0x909090;
+    const bool solid = session.Form60().draw_style == 0;
+    return solid && session.grid_colour != usual_colour ? 2 : 1;
+}
+
+/// Axis numbers from the high end down to the low end.
+std::vector<std::string> Axis_Numbers(const Numeric_Text& number, double high, double low,
+                                      int count) {
+    std::vector<std::string> texts;
+    for (int line = 0; line + 1 < count; ++line) {
+        texts.push_back(Format_Axis_Number(number, high - (high - low) / count * (line + 1)));
+    }
+    texts.push_back(Format_Axis_Number(number, low));
+    return texts;
+}
+
+void Draw_Y_Numbers(const Graph_Canvas& canvas) {
+    const Session& session = canvas.Owner();
+    const Graph_State& graph = canvas.State();
+    const double step = session.canvas_y_size / session.y_line_count;
+    double y = 2;
+    for (const std::string& text :
+         Axis_Numbers(session.number, graph.y_high, graph.y_low, session.y_line_count)) {
+        y += step; // under its own grid line
+        canvas.Text_In_Span(" " + text, std::floor(graph.plot_left + 5),
+                            std::floor(session.canvas_x_size), y, Span_Mode::Left);
+    }
+}
+
+double X_Number_Row(const Graph_Canvas& canvas) {
+    const double height = canvas.Text_Height();
+    return std::floor(canvas.Owner().canvas_y_size - (height * 0.05 + height));
+}
+
+void Draw_X_Numbers(const Graph_Canvas& canvas) {
+    constexpr double gap = 2;
+    const Session& session = canvas.Owner();
+    const Graph_State& graph = canvas.State();
+    const double step = session.canvas_x_size / session.x_line_count;
+    double line = session.canvas_x_size;
+    for (const std::string& text :
+         Axis_Numbers(session.number, graph.x_high, graph.x_low, session.x_line_count)) {
+        line -= step;
+        canvas.Text(std::max(line - (canvas.Text_Width(text) + gap), 0.0), X_Number_Row(canvas),
+                    text);
+    }
+}
+
+void Draw_Axis_Texts(Graph_Canvas& canvas) {
+    constexpr double largest = 24;
+    constexpr double smallest = 18;
+    Session& session = canvas.Owner();
+    const double left = session.scale_x * text_left;
+    const double number_height = canvas.Text_Height();
+    const double number_row = X_Number_Row(canvas);
+    const std::string& y_text = session.Form60().Label8.Text();
+    canvas.font_size = largest * session.scale_font;
+    while (left + canvas.Text_Width(y_text) > session.canvas_x_size &&
+           canvas.font_size > smallest * session.scale_font) {
+        canvas.font_size -= session.scale_font;
+    }
+    canvas.Text(left, number_height * 1.15, y_text);
+    canvas.Text_In_Span(session.Form60().Label9.Text(), session.graph.plot_left,
+                        session.canvas_x_size, number_row - canvas.Text_Height() * 1.1,
+                        Span_Mode::Center);
+}
+
+/// A caption of the user's under the graph, as large as it fits.
+void Draw_Caption(Graph_Canvas& canvas, const Control& caption, double y) {
+    if (caption.Text() == caption.Entry().text) {
+        return; // the invitation to write one
+    }
+    constexpr int most_shrinks = 3;
+    constexpr double margin = 20;
+    const Session& session = canvas.Owner();
+    const double left = canvas.State().plot_left + 2;
+    const double span = session.canvas_x_size - left;
+    canvas.font_size = 24 * session.scale_font;
+    for (int shrink = 0;
+         shrink < most_shrinks && canvas.Text_Width(caption.Text()) >= span - margin; ++shrink) {
+        canvas.font_size /= 1.1;
+    }
+    canvas.Text_In_Span(caption.Text(), left, session.canvas_x_size, y, Span_Mode::Center);
+}
+
+constexpr std::array<std::string_view, 4> legend_texts{
+    "Intake = Blue / Exhaust = Red", "Intake = Dark Green / Exhaust = Black",
+    "Intake = Cyan / Exhaust = Magenta", "Intake = Green / Exhaust = Brown"};
+
+} // namespace
+
+void Draw_Graph_Frame(Graph_Canvas& canvas) {
+    constexpr int usual_lines = 10;
+    Session& session = canvas.Owner();
+    if (session.grid_on != 1) {
+        return;
+    }
+    session.x_line_count = usual_lines;
+    const Compare_Screen& table = session.Form50();
+    if (table.Check2.Value() != 0 && Compare_Screen::Chosen(table.Option4) == 0) {
+        Work_Out_X_Lines(session);
+    }
+    const double saved_width = canvas.pen_width;
+    canvas.pen_width = Grid_Pen(session);
+    Draw_Grid(canvas);
+    canvas.pen_width = 3;
+    const double right = session.canvas_x_size;
+    const double bottom = session.canvas_y_size;
+    const double left = session.graph.plot_left;
+    canvas.Line(left, bottom, right, bottom, black);
+    canvas.Line(left, 0, left, bottom, canvas.Text_Colour());
+    canvas.Line(left, 0, right, 0, canvas.Text_Colour());
+    canvas.Line(right, 0, right, bottom, canvas.Text_Colour());
+    canvas.pen_width = saved_width;
+}
+
+void Draw_Axis_Labels(Graph_Canvas& canvas) {
+    const Session& session = canvas.Owner();
+    Draw_Y_Numbers(canvas);
+    Draw_X_Numbers(canvas);
+    Draw_Axis_Texts(canvas);
+    const Compare_Screen& table = canvas.Owner().Form50();
+    Draw_Caption(canvas, table.Text71, session.scale_y * 601);
+    Draw_Caption(canvas, table.Text72, session.scale_y * 620);
+    canvas.font_size = session.scale_font * 12;
+    Draw_Graph_Legend(canvas);
+}
+
+void Draw_Graph_Legend(Graph_Canvas& canvas) {
+    Session& session = canvas.Owner();
+    const Graph_State& graph = session.graph;
+    const double left = session.scale_x * text_left;
+    const auto row = [&](double design) { return session.scale_y * design + graph.legend_offset; };
+    canvas.Text(left, row(50), legend_texts.at(static_cast<std::size_t>(graph.plus_count)));
+    const std::string& from = session.compare_from_label;
+    const std::string& to = session.compare_to_label;
+    if (from == to) {
+        canvas.Text(left, row(69), "Flow Test " + from);
+        return;
+    }
+    // In % types the two curves of a side are one.
+    const bool percent = Compare_Type_Of(session.Form50().Type()).Is_Percent();
+    canvas.Text(left, row(69), (percent ? "Flow Test " : "Thin Graph Lines Test ") + from);
+    canvas.Text(left, row(88), (percent ? "Flow Test " : "Thick Graph Lines Test ") + to);
+}
+
+} // namespace kestrum

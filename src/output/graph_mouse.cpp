@@ -1,0 +1,74 @@
+#include "output/graph_mouse.h"
+
+#include "graph/graph_canvas.h"
+
+namespace kestrum {
+
+namespace {
+
+void Show_Values(Session& session, const Curve_Point& at) {
+    const Graph_State& graph = session.graph;
+    const Graph_Screen& screen = session.Form60();
+    if (session.canvas_y_size > 0) {
+        screen.Label18.Set_Text(session.number.Fmt_Eight_Wide(
+            graph.y_high - at.y / session.canvas_y_size * (graph.y_high - graph.y_low)));
+    }
+    if (session.canvas_x_size > 0) {
+        screen.Label19.Set_Text(session.number.Fmt_Eight_Wide(
+            at.x / session.canvas_x_size * (graph.x_high - graph.x_low) + graph.x_low));
+    }
+}
+
+/// A line of the user's from where the pen stands. It lands in the picture and is kept nowhere
+/// else.
+void Draw_To(Session& session, const Curve_Point& at) {
+    Graph_State& graph = session.graph;
+    graph.canvas.Line(graph.pen_at.x, graph.pen_at.y, at.x, at.y,
+                      Swapped_Colour(session.draw_line_color), session.draw_line_width);
+    graph.pen_at = at;
+}
+
+} // namespace
+
+void Mouse_On_Canvas(Session& session, Mouse_Action action, const Curve_Point& at) {
+    Graph_State& graph = session.graph;
+    switch (action) {
+    case Mouse_Action::Down:
+        if (session.Form60().Check1.Value() != 0) {
+            graph.pen_at = at;
+            Draw_To(session, at);
+            graph.drawing_now = true;
+        }
+        break;
+    case Mouse_Action::Move:
+        if (graph.drawing_now) {
+            Draw_To(session, at);
+        } else {
+            Show_Values(session, at);
+        }
+        break;
+    case Mouse_Action::Up:
+        graph.drawing_now = false;
+        break;
+    }
+}
+
+void Move_Logo(Session& session, Mouse_Action action, const Position& place) {
+    Graph_State& graph = session.graph;
+    if (action == Mouse_Action::Move && graph.logo_moving) {
+        session.Form60().Picture2.Move_To(place);
+    }
+    if (action != Mouse_Action::Move) {
+        graph.logo_moving = action == Mouse_Action::Down;
+    }
+}
+
+void Choose_Line_Colour(Session& session) {
+    if (const auto colour = session.dialogs.Choose_Colour()) {
+        session.draw_line_color = *colour;
+    } else {
+        session.Message("No Color Selected");
+    }
+}
+
+} // namespace kestrum

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/session.h"
+
+namespace kestrum {
+
+enum class Mouse_Action { Down, Move, Up };
+
+/// The mouse on the graph's canvas: it reads values, or draws while `Form60.Check1` is set.
+void Mouse_On_Canvas(Session& session, Mouse_Action action, const Curve_Point& at);
+
+/// The mouse on the logo: while it is held, its place becomes the logo's.
+void Move_Logo(Session& session, Mouse_Action action, const Position& place);
+
+/// Asks for the colour of lines drawn by hand.
+void Choose_Line_Colour(Session& session);
+
+} // namespace kestrum

@@ -1,0 +1,52 @@
+#include "tests/temp_folder.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace kestrum {
+
+namespace fs = std::filesystem;
+
+Temp_Folder::Temp_Folder() : path_((fs::temp_directory_path() / "kestrum-test-XXXXXX").string()) {
+    if (::mkdtemp(path_.data()) == nullptr) {
+        throw std::runtime_error("no folder for the test: " + path_);
+    }
+}
+
+Temp_Folder::~Temp_Folder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+std::string Temp_Folder::File(std::string_view name) const {
+    return path_ + "/" + std::string(name);
+}
+
+std::string Temp_Folder::Write(std::string_view name, std::string_view bytes) const {
+    std::ofstream file(File(name), std::ios::binary);
+    file << bytes;
+    return File(name);
+}
+
+std::string Temp_Folder::Read(std::string_view name) const {
+    std::ifstream file(File(name), std::ios::binary);
+    if (!file) {
+        throw std::runtime_error("there is no file " + File(name));
+    }
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> Temp_Folder::Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(path_)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+} // namespace kestrum

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "core/session.h"
+#include "tests/temp_folder.h"
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrum {
+
+/// What happened, one line each: "plain box: ...", "focus Main.Text104(3)", "show Form1".
+using Events = std::vector<std::string>;
+
+/// The user and the windows of a session, by script. What nobody asked about fails the test at
+/// its end: a box or a beep that no `Take_Events` took, an answer that no box wanted.
+class Scripted_Platform : public Dialogs, public Windows {
+public:
+    Scripted_Platform() = default;
+    Scripted_Platform(const Scripted_Platform&) = delete;
+    Scripted_Platform& operator=(const Scripted_Platform&) = delete;
+    ~Scripted_Platform() override;
+
+    void Answer(Box_Answer answer) { answers_.push_back(answer); }
+
+    /// Nothing stands for a cancel.
+    void Choose(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+
+    [[nodiscard]] Events Take_Events();
+
+    Box_Answer Show_Box(const Box& box) override;
+    std::optional<std::string> Choose_File(const Chooser& chooser) override;
+    void Beep() override;
+    void Show(Screen& screen) override;
+    void Hide(Screen& screen) override;
+    void Unload(Screen& screen) override;
+    void Focus(Control& control) override;
+
+private:
+    Events events_;
+    std::deque<Box_Answer> answers_;
+    std::deque<std::optional<std::string>> files_;
+};
+
+struct Bench_Options {
+    std::string point = ".";
+    std::string command_line{};
+};
+
+/// A running session in a folder of its own, and the hands of its user.
+class Test_Bench {
+public:
+    explicit Test_Bench(const Bench_Options& options = {});
+
+    Temp_Folder folder;
+    Scripted_Platform platform;
+    Session session;
+    /// What happened at the start.
+    Events at_start;
+
+    [[nodiscard]] Control& At(std::string_view address);
+    [[nodiscard]] std::string Get(std::string_view address);
+    void Set(std::string_view address, std::string_view text);
+    /// The Tab key leads to the field, then the keys are pressed.
+    void Type(std::string_view address, std::string_view keys);
+    /// Each of these gives what happened.
+    Events Leave(std::string_view address);
+    Events Click(std::string_view address);
+    Events Close(std::string_view screen);
+
+    [[nodiscard]] Events Take_Events() { return platform.Take_Events(); }
+};
+
+/// A field and the text that it must show.
+struct Expected_Text {
+    std::string_view address;
+    std::string_view text;
+};
+
+void Expect_Texts(Test_Bench& bench, std::initializer_list<Expected_Text> expected);
+
+/// Number of the run-time error that a routine raises, 0 for none.
+template <typename Routine>
+int Error_Of(Routine routine) {
+    try {
+        routine();
+    } catch (const Run_Time_Error& failure) {
+        return failure.Number();
+    }
+    return 0;
+}
+
+} // namespace kestrum
