@@ -136,7 +136,9 @@ bool Session::Is_Loaded(std::string_view name) const {
 }
 
 void Session::Show(Screen& screen) {
-    if (!screen.visible) {
+    if (screen.visible) {
+        windows.Raise(screen);
+    } else {
         screen.visible = true;
         windows.Show(screen);
     }

@@ -13,6 +13,9 @@ struct Windows {
     virtual ~Windows() = default;
 
     virtual void Show(Screen& screen) = 0;
+    /// A screen that shows already is asked for again.
+    virtual void Raise(Screen& /*screen*/) {}
+
     virtual void Hide(Screen& screen) = 0;
     /// The screen is about to be destroyed with all its controls.
     virtual void Unload(Screen& screen) = 0;
