@@ -1,0 +1,169 @@
+#include "desktop/button_views.h"
+
+#include "desktop/text_bridge.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+
+namespace kestrum::desktop {
+
+namespace {
+
+QRect Beside_Its_Neighbours(const QRect& cell) {
+    return cell.adjusted(2, 2, -3, -3);
+}
+
+/// The one button of a screen that everything leads to.
+bool Is_Primary(const Control& button) {
+    return button.Text() == "Calculate" || button.Text() == "&Calculate";
+}
+
+template <typename Button>
+void Show_Value(Button& button, const Control& control) {
+    const QString caption = To_Qt(control.Text());
+    if (button.text() != caption) {
+        button.setText(caption);
+    }
+    const QSignalBlocker quiet(button);
+    button.setChecked(control.Value() != 0);
+    Show_Common_State(button, control);
+}
+
+} // namespace
+
+Button_View::Button_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Widget_View(its_control, its_facts, parent), is_primary_(Is_Primary(its_control)) {
+    setAttribute(Qt::WA_Hover);
+    Refresh();
+    connect(this, &QAbstractButton::clicked, this, [this] { facts.events.Clicked(control); });
+}
+
+void Button_View::Refresh() {
+    const QString caption = To_Qt(control.Text());
+    if (text() != caption) {
+        setText(caption);
+    }
+    Show_Common_State(*this, control);
+}
+
+QRect Button_View::Area_In(const QRect& cell) const {
+    return Beside_Its_Neighbours(cell);
+}
+
+bool Button_View::event(QEvent* event) {
+    if (event->type() == QEvent::Shortcut) {
+        // As with the mouse the focus comes first, so that the field that it leaves has its say.
+        setFocus(Qt::ShortcutFocusReason);
+        if (Holds_Focus()) {
+            click();
+        }
+        return true;
+    }
+    return Widget_View::event(event);
+}
+
+void Button_View::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+        return;
+    }
+    Widget_View::keyPressEvent(event);
+}
+
+QRgb Button_View::Back() const {
+    if (!isEnabled()) {
+        return theme::window;
+    }
+    if (is_primary_) {
+        return isDown() || !underMouse() ? theme::accent : theme::accent_hover;
+    }
+    if (isDown()) {
+        return theme::line;
+    }
+    return underMouse() ? theme::accent_soft : theme::card;
+}
+
+void Button_View::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool has_focus = hasFocus();
+    painter.setPen(QColor::fromRgb(has_focus || (is_primary_ && isEnabled()) ? theme::accent
+                                   : isEnabled()                             ? theme::line
+                                                                             : theme::card_line));
+    painter.setBrush(QColor::fromRgb(Back()));
+    const QRectF outline = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawRoundedRect(outline, theme::radius, theme::radius);
+    if (has_focus) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QColor::fromRgb(is_primary_ ? theme::card : theme::accent));
+        painter.drawRoundedRect(outline.adjusted(2, 2, -2, -2), theme::radius - 2,
+                                theme::radius - 2);
+    }
+    painter.setPen(QColor::fromRgb(!isEnabled()  ? theme::faint_ink
+                                   : is_primary_ ? theme::card
+                                                 : theme::ink));
+    QFont letters = font();
+    letters.setBold(is_primary_);
+    painter.setFont(letters);
+    painter.drawText(rect().adjusted(4, 1, -4, -1),
+                     Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, text());
+}
+
+Check_View::Check_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Widget_View(its_control, its_facts, parent) {
+    Refresh();
+    connect(this, &QCheckBox::clicked, this, [this] { facts.events.Clicked(control); });
+}
+
+void Check_View::Refresh() {
+    Show_Value(*this, control);
+}
+
+QRect Check_View::Area_In(const QRect& cell) const {
+    return cell.adjusted(theme::text_padding, 1, -2, -1);
+}
+
+Option_View::Option_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Widget_View(its_control, its_facts, parent) {
+    Refresh();
+    connect(this, &QRadioButton::clicked, this, [this] { facts.events.Clicked(control); });
+}
+
+void Option_View::Refresh() {
+    Show_Value(*this, control);
+}
+
+QRect Option_View::Area_In(const QRect& cell) const {
+    return cell.adjusted(theme::text_padding, 1, -2, -1);
+}
+
+Combo_View::Combo_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Widget_View(its_control, its_facts, parent) {
+    Refresh();
+    connect(this, &QComboBox::activated, this,
+            [this](int item) { facts.events.Picked(control, From_Qt(itemText(item))); });
+}
+
+void Combo_View::Refresh() {
+    const QSignalBlocker quiet(this);
+    const std::vector<std::string>& items = control.Items();
+    bool same = static_cast<std::size_t>(count()) == items.size();
+    for (int item = 0; same && item < count(); ++item) {
+        same = itemText(item) == To_Qt(items[static_cast<std::size_t>(item)]);
+    }
+    if (!same) {
+        clear();
+        for (const std::string& item : items) {
+            addItem(To_Qt(item));
+        }
+    }
+    setCurrentIndex(findText(To_Qt(control.Text())));
+    Show_Common_State(*this, control);
+}
+
+QRect Combo_View::Area_In(const QRect& cell) const {
+    return cell.adjusted(0, 1, -1, -1);
+}
+
+} // namespace kestrum::desktop

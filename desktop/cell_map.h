@@ -1,0 +1,51 @@
+#pragma once
+
+#include "desktop/theme.h"
+#include "screens/screen.h"
+
+#include <QString>
+
+#include <string_view>
+#include <vector>
+
+namespace kestrum::desktop {
+
+/// Tells what a cell is about from the cells around it, so that no table has to say it again.
+class Cell_Map {
+public:
+    /// Takes the cells that one frame of a screen holds, or those on the bare form.
+    Cell_Map(const Screen& screen, std::string_view holder);
+
+    /// Words of the trade for a field: "Throat dia Ex", "Observed Flow Intake, row 17".
+    [[nodiscard]] QString Words_For(const Control& field) const;
+    /// Whether a caption heads a column; if not, it stands before its figure.
+    [[nodiscard]] bool Heads_Column(const Control& caption) const;
+    /// Whether a field belongs to a table, under a heading.
+    [[nodiscard]] bool Is_Under_Heading(const Control& field) const;
+    [[nodiscard]] theme::Side Side_Of(const Control& cell) const;
+
+    [[nodiscard]] int Columns() const { return columns_; }
+
+    [[nodiscard]] int Rows() const { return rows_; }
+
+    [[nodiscard]] bool Has_Cell(int column, int row) const { return At(column, row) != nullptr; }
+
+private:
+    /// Null outside of the map and for a blank cell.
+    [[nodiscard]] const Control* At(int column, int row) const;
+    [[nodiscard]] bool Is_Caption(int column, int row) const;
+    [[nodiscard]] bool Is_Figure(int column, int row) const;
+    /// Caption texts that stand side by side and end left of a cell, joined.
+    [[nodiscard]] QString Captions_Left_Of(int column, int row) const;
+    /// Caption texts that stand one below the other and end above a cell, joined.
+    [[nodiscard]] QString Captions_Above(int column, int row) const;
+    /// Row of the topmost of the figures that stand above a cell without a gap, or its own.
+    [[nodiscard]] int First_Figure_Row(int column, int row) const;
+    [[nodiscard]] QString Bare_Words(int column, int row) const;
+
+    int columns_ = 0;
+    int rows_ = 0;
+    std::vector<const Control*> cells_;
+};
+
+} // namespace kestrum::desktop

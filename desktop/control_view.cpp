@@ -1,0 +1,47 @@
+#include "desktop/control_view.h"
+
+#include "application/events.h"
+#include "desktop/text_bridge.h"
+
+namespace kestrum::desktop {
+
+namespace {
+
+/// A button without a routine can do nothing yet. Boxes and options hold a state that others read,
+/// except those of `Main`, which switch something when they are clicked.
+bool Can_Do_Something(const Control& control) {
+    switch (control.Entry().kind) {
+    case Control_Kind::Button:
+        return Has_Routine(control);
+    case Control_Kind::Check_Box:
+        return Has_Routine(control) || control.Owner().Name() != "Main";
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+void Show_Common_State(QWidget& widget, const Control& control) {
+    const Look& look = control.Present_Look();
+    const bool enabled = look.enabled && Can_Do_Something(control);
+    if (widget.isEnabledTo(widget.parentWidget()) != enabled) {
+        widget.setEnabled(enabled);
+    }
+    if (control.Entry().kind != Control_Kind::Label) {
+        widget.setFocusPolicy(look.tab_stop ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+    // A child that nobody has hidden shows with its parent.
+    const bool hidden = widget.isHidden() && widget.testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (hidden == look.visible) {
+        widget.setVisible(look.visible);
+    }
+}
+
+void Give_Address(QWidget& widget, const Control& control) {
+    const QString address = To_Qt(control.Address());
+    widget.setObjectName(address);
+    widget.setAccessibleDescription(address);
+}
+
+} // namespace kestrum::desktop

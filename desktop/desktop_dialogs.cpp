@@ -1,0 +1,114 @@
+#include "desktop/desktop_dialogs.h"
+
+#include "desktop/file_filters.h"
+#include "desktop/text_bridge.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace kestrum::desktop {
+
+namespace {
+
+QMessageBox::Icon Icon_Of(Box_Icon icon) {
+    switch (icon) {
+    case Box_Icon::Information:
+        return QMessageBox::Information;
+    case Box_Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Box_Icon::Stop:
+        return QMessageBox::Critical;
+    case Box_Icon::Question:
+        return QMessageBox::Question;
+    case Box_Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons Buttons_Of(Box_Buttons buttons) {
+    switch (buttons) {
+    case Box_Buttons::Ok_Cancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Box_Buttons::Yes_No:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Box_Buttons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+Box_Answer Answer_Of(int button) {
+    switch (button) {
+    case QMessageBox::Cancel:
+        return Box_Answer::Cancel;
+    case QMessageBox::Yes:
+        return Box_Answer::Yes;
+    case QMessageBox::No:
+        return Box_Answer::No;
+    default:
+        return Box_Answer::Ok;
+    }
+}
+
+} // namespace
+
+QString Text_For_Box(std::string_view text) {
+    constexpr std::size_t most_bytes = 20'000;
+    constexpr qsizetype longest_line = 600;
+    constexpr qsizetype most_lines = 30;
+    const bool cut = text.size() > most_bytes;
+    QStringList lines = Lines_To_Qt(text.substr(0, most_bytes)).split(QLatin1Char('\n'));
+    const QChar ellipsis(0x2026);
+    for (QString& line : lines) {
+        if (line.size() > longest_line) {
+            line = line.left(longest_line) + ellipsis;
+        }
+    }
+    if (lines.size() > most_lines) {
+        lines = lines.mid(0, most_lines) + QStringList{QString(ellipsis)};
+    } else if (cut && !lines.last().endsWith(ellipsis)) {
+        lines.last() += ellipsis;
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+Box_Answer Desktop_Dialogs::Show_Box(const Box& box) {
+    QMessageBox dialog(QApplication::activeWindow());
+    dialog.setTextFormat(Qt::PlainText);
+    dialog.setWindowTitle(To_Qt(box.title.empty() ? title_ : box.title));
+    dialog.setText(Text_For_Box(box.text));
+    dialog.setIcon(Icon_Of(box.icon));
+    dialog.setStandardButtons(Buttons_Of(box.buttons));
+    return Answer_Of(dialog.exec());
+}
+
+std::optional<std::string> Desktop_Dialogs::Choose_File(const Chooser& chooser) {
+    const bool saves = chooser.mode == Chooser_Mode::Save;
+    QFileDialog dialog(QApplication::activeWindow(),
+                       saves ? QStringLiteral("Save") : QStringLiteral("Open"),
+                       To_Qt(chooser.folder));
+    // The toolkit's own chooser keeps the filters in their words and order everywhere.
+    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
+    dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    const QStringList filters = Name_Filters(chooser.filter);
+    dialog.setNameFilters(filters);
+    if (!filters.isEmpty()) {
+        const auto last = static_cast<int>(filters.size());
+        dialog.selectNameFilter(filters[std::clamp(chooser.filter_index, 1, last) - 1]);
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return From_Qt(dialog.selectedFiles().constFirst());
+}
+
+void Desktop_Dialogs::Beep() {
+    QApplication::beep();
+}
+
+} // namespace kestrum::desktop

@@ -1,0 +1,274 @@
+#include "desktop/entry_field.h"
+
+#include "desktop/text_bridge.h"
+#include "desktop/text_views.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
+#include <QSignalBlocker>
+
+#include <memory>
+
+namespace kestrum::desktop {
+
+namespace {
+
+Qt::Alignment Alignment_Of(const Look& look) {
+    switch (look.alignment) {
+    case Alignment::Right:
+        return Qt::AlignRight;
+    case Alignment::Center:
+        return Qt::AlignHCenter;
+    case Alignment::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+bool Is_Character(char32_t code) {
+    constexpr char32_t first_printable = 32;
+    constexpr char32_t deletes = 127;
+    return code >= first_printable && code != deletes;
+}
+
+/// The character that a key types; empty for a shortcut or an editing key.
+QString Typed_Character(const QKeyEvent& event) {
+    const auto modifiers = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const bool is_shortcut = modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier ||
+                             (event.modifiers() & Qt::MetaModifier) != 0;
+    const QString text = event.text();
+    return is_shortcut || text.isEmpty() || !Is_Character(text.at(0).unicode()) ? QString() : text;
+}
+
+} // namespace
+
+Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Widget_View(its_control, its_facts, parent) {
+    setFrame(false);
+    setTextMargins(theme::text_padding - 2, 0, 0, 1);
+    Take_Words(facts.words);
+    Refresh();
+    connect(this, &QLineEdit::textChanged, this, &Entry_Field::Take_Typed);
+}
+
+void Entry_Field::Refresh() {
+    Show_Text();
+    if (!shown_once_ || look_ != control.Present_Look()) {
+        Show_Look();
+    }
+}
+
+void Entry_Field::Show_Text() {
+    const QString present = To_Qt(control.Text());
+    if (present != text()) {
+        const QSignalBlocker quiet(this);
+        setText(present);
+        // A text that is longer than the editor takes must not come back cut.
+        setReadOnly(control.Present_Look().locked || text() != present);
+    }
+}
+
+void Entry_Field::Show_Look() {
+    const Look& look = control.Present_Look();
+    // A field without a font of its own has its page's, which grows with the window.
+    const Font last_font = shown_once_ ? look_.font : Font();
+    if (look.font != last_font) {
+        setFont(theme::Font_Of(control, parentWidget()->font()));
+    }
+    look_ = look;
+    shown_once_ = true;
+    setReadOnly(look_.locked || text() != To_Qt(control.Text()));
+    setAlignment(Alignment_Of(look_));
+    const theme::Cell_Colours colours = theme::Colours_Of(control, facts.side);
+    if (palette().color(QPalette::Base).rgb() != colours.back ||
+        palette().color(QPalette::Text).rgb() != colours.text) {
+        QPalette own = palette();
+        own.setColor(QPalette::Base, QColor::fromRgb(colours.back));
+        own.setColor(QPalette::Text, QColor::fromRgb(colours.text));
+        setPalette(own);
+    }
+    Show_Common_State(*this, control);
+    update();
+}
+
+QRect Entry_Field::Area_In(const QRect& cell) const {
+    return cell.adjusted(0, 0, -1, -1);
+}
+
+void Entry_Field::Show_Selection(const Selection& selection) {
+    if (selection.length > 0) {
+        selectAll();
+    } else {
+        deselect();
+        end(false);
+    }
+}
+
+void Entry_Field::Take_Words(const QString& words) {
+    Control_View::Take_Words(words);
+    setAccessibleName(words);
+}
+
+void Entry_Field::Take_Typed(const QString& text) {
+    facts.events.Typed(control, From_Qt(text));
+}
+
+bool Entry_Field::All_Pass(const QString& typed) {
+    for (const char32_t character : typed.toUcs4()) {
+        if (!facts.events.Passes(control, character)) {
+            facts.events.Beep();
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Entry_Field::Moves_Away(const QKeyEvent& event) {
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+        return false;
+    }
+    const bool all_selected = hasSelectedText() && selectedText().size() == text().size();
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Down:
+        facts.events.Move_Focus(*this, Direction::Down);
+        return true;
+    case Qt::Key_Up:
+        facts.events.Move_Focus(*this, Direction::Up);
+        return true;
+    case Qt::Key_Left:
+        if (all_selected || (cursorPosition() == 0 && !hasSelectedText())) {
+            facts.events.Move_Focus(*this, Direction::Left);
+            return true;
+        }
+        return false;
+    case Qt::Key_Right:
+        if (all_selected || (cursorPosition() == text().size() && !hasSelectedText())) {
+            facts.events.Move_Focus(*this, Direction::Right);
+            return true;
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+void Entry_Field::keyPressEvent(QKeyEvent* event) {
+    if (Moves_Away(*event)) {
+        event->accept();
+        return;
+    }
+    if (event->matches(QKeySequence::Paste)) {
+        Insert_Filtered(QGuiApplication::clipboard()->text());
+        return;
+    }
+    const QString typed = Typed_Character(*event);
+    if (!typed.isEmpty() && (!All_Pass(typed) || isReadOnly())) {
+        event->accept(); // and does nothing
+        return;
+    }
+    Widget_View::keyPressEvent(event);
+}
+
+void Entry_Field::inputMethodEvent(QInputMethodEvent* event) {
+    if (control.Entry().filter == Key_Filter::Every_Key) {
+        Widget_View::inputMethodEvent(event);
+        return;
+    }
+    // Of a composition only what it comes to counts.
+    Insert_Filtered(event->commitString());
+    event->accept();
+}
+
+void Entry_Field::mouseReleaseEvent(QMouseEvent* event) {
+    const QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (event->button() == Qt::MiddleButton && clipboard.supportsSelection() && Holds_Focus()) {
+        facts.events.Mouse_Down(false);
+        deselect();
+        setCursorPosition(cursorPositionAt(event->position().toPoint()));
+        Insert_Filtered(clipboard.text(QClipboard::Selection));
+        return;
+    }
+    Widget_View::mouseReleaseEvent(event);
+}
+
+void Entry_Field::dropEvent(QDropEvent* event) {
+    if (!isReadOnly() && event->mimeData()->hasText()) {
+        deselect();
+        setCursorPosition(cursorPositionAt(event->position().toPoint()));
+        Insert_Filtered(event->mimeData()->text());
+        event->setDropAction(Qt::CopyAction); // nothing is taken out of another field
+        event->accept();
+    }
+}
+
+void Entry_Field::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    for (QAction* const action : menu->actions()) {
+        if (action->objectName() == QLatin1String("edit-paste")) {
+            action->disconnect();
+            connect(action, &QAction::triggered, this,
+                    [this] { Insert_Filtered(QGuiApplication::clipboard()->text()); });
+        }
+    }
+    menu->exec(event->globalPos());
+}
+
+void Entry_Field::Insert_Filtered(const QString& text) {
+    if (isReadOnly()) {
+        return;
+    }
+    bool refused = false;
+    QString free_text;
+    for (const char32_t code : text.toUcs4()) {
+        const QString character = QString::fromUcs4(&code, 1);
+        if (!Is_Character(code)) {
+            continue; // a line break or the like, as a copied cell of a table ends in
+        }
+        if (control.Entry().filter == Key_Filter::Every_Key) {
+            free_text += character;
+        } else if (facts.events.Passes(control, code)) {
+            insert(character); // at once, since the filter looks at the text so far
+        } else {
+            refused = true;
+        }
+    }
+    if (!free_text.isEmpty()) {
+        insert(free_text);
+    }
+    if (refused) {
+        facts.events.Beep(); // once, whatever the length
+    }
+}
+
+void Entry_Field::focusInEvent(QFocusEvent* event) {
+    // The base would select the text by a rule of its own when the Tab key brings the focus.
+    QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
+    QLineEdit::focusInEvent(&plain);
+    facts.events.Focus_Came(*this, event->reason());
+    update();
+}
+
+void Entry_Field::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    const theme::Cell_Colours colours = theme::Colours_Of(control, facts.side);
+    QPainter painter(this);
+    const bool has_focus = hasFocus();
+    painter.setPen(QColor::fromRgb(has_focus ? theme::accent : colours.line));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const QRect foot(0, height() - 2, width(), 2);
+    painter.fillRect(foot, QColor::fromRgb(has_focus ? theme::accent : colours.foot));
+    if (control.Entry().hover == Hover::Shows) {
+        Paint_Information_Mark(painter, rect());
+    }
+}
+
+} // namespace kestrum::desktop

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "desktop/control_view.h"
+
+#include <QLineEdit>
+
+namespace kestrum::desktop {
+
+/// A field that the user types into, or one whose role may change to that.
+class Entry_Field : public Widget_View<QLineEdit> {
+public:
+    Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent);
+
+    void Refresh() override;
+    [[nodiscard]] QRect Area_In(const QRect& cell) const override;
+    void Show_Selection(const Selection& selection) override;
+    void Take_Words(const QString& words) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Show_Text();
+    void Show_Look();
+    [[nodiscard]] bool Moves_Away(const QKeyEvent& event);
+    /// Whether the filter lets all pass; beeps where it does not.
+    [[nodiscard]] bool All_Pass(const QString& typed);
+    /// Puts in what the filter lets pass, character by character.
+    void Insert_Filtered(const QString& text);
+    void Take_Typed(const QString& text);
+
+    Look look_;
+    bool shown_once_ = false;
+};
+
+} // namespace kestrum::desktop

@@ -1,0 +1,40 @@
+#include "desktop/file_filters.h"
+
+#include "desktop/text_bridge.h"
+
+namespace kestrum::desktop {
+
+namespace {
+
+/// Patterns with blanks between them. "*.*" means every file, also one without a dot.
+QString Patterns_Of(QString pattern) {
+    pattern.replace(QLatin1Char(';'), QLatin1Char(' '));
+    QStringList patterns;
+    for (const QString& one : pattern.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        // Qt would end the pattern at a bracket.
+        const bool unusable = one.contains(QLatin1Char('(')) || one.contains(QLatin1Char(')'));
+        patterns += one == QLatin1String("*.*") || unusable ? QStringLiteral("*") : one;
+    }
+    patterns.removeDuplicates();
+    return patterns.isEmpty() ? QStringLiteral("*") : patterns.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+QStringList Name_Filters(std::string_view filter) {
+    if (filter.empty()) {
+        return {};
+    }
+    const QStringList parts = To_Qt(filter).split(QLatin1Char('|'));
+    QStringList entries;
+    for (qsizetype at = 0; at < parts.size(); at += 2) {
+        if (at + 1 == parts.size() && parts[at].trimmed().isEmpty()) {
+            break; // a "|" too many at the end
+        }
+        entries +=
+            parts[at] + QLatin1String(" (") + Patterns_Of(parts.value(at + 1)) + QLatin1Char(')');
+    }
+    return entries;
+}
+
+} // namespace kestrum::desktop

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+#include <string_view>
+
+namespace kestrum::desktop {
+
+/// The entries of a chooser's filter ("words|pattern|words|pattern") as Qt writes them:
+/// "words (pattern)". A filter that is defective still gives entries that work.
+[[nodiscard]] QStringList Name_Filters(std::string_view filter);
+
+} // namespace kestrum::desktop

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "desktop/theme.h"
+#include "screens/screen.h"
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace kestrum::desktop {
+
+/// How a screen is drawn, beyond what its table says.
+struct Form_Design {
+    /// Least sizes at the theme's own letter size.
+    int column_width = 60;
+    int row_height = 20;
+    /// Parts of the grid that belong together and lie on a card.
+    std::span<const Place> cards{};
+    /// Stands beside the legend of the fields with a help text.
+    std::optional<Place> information_sample{};
+};
+
+[[nodiscard]] const Form_Design& Design_Of(const Screen& screen, std::string_view holder);
+
+/// Words for a field that has no caption cell beside it.
+struct Own_Words {
+    std::string_view screen;
+    std::string_view holder;
+    std::string_view array;
+    int index = no_index;
+    std::string_view words;
+    /// Where the words are painted; nowhere when they are only spoken.
+    Place place{};
+};
+
+[[nodiscard]] std::span<const Own_Words> All_Own_Words();
+/// Null for a field that is named by its caption cells.
+[[nodiscard]] const Own_Words* Own_Words_Of(const Control& field);
+
+/// The side of a figure in the header of a sheet whose caption does not tell it.
+[[nodiscard]] theme::Side Header_Side(const Control& field);
+
+} // namespace kestrum::desktop

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "desktop/text_views.h"
+
+namespace kestrum::desktop {
+
+/// The line at the foot of every window that explains what the mouse is over. It keeps its height,
+/// so that nothing jumps when a text comes or goes.
+class Help_Line : public QWidget {
+public:
+    explicit Help_Line(QWidget* parent);
+
+    void Show_Words(const QString& words);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString words_;
+};
+
+/// Lets the help line show the label that the session writes its help texts to.
+class Help_Label_View : public Control_View {
+public:
+    Help_Label_View(Control& its_control, const View_Facts& its_facts, Help_Line& line);
+
+    void Refresh() override;
+
+    QWidget* Widget() override { return &line_; }
+
+private:
+    Help_Line& line_;
+};
+
+} // namespace kestrum::desktop

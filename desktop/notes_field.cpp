@@ -1,0 +1,74 @@
+#include "desktop/notes_field.h"
+
+#include "desktop/text_bridge.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QTextCursor>
+
+namespace kestrum::desktop {
+
+namespace {
+
+/// The editor lays out a whole paragraph at once: more than this would stop it for seconds.
+constexpr std::size_t longest_text = 200'000;
+
+} // namespace
+
+Notes_Field::Notes_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Widget_View(its_control, its_facts, parent) {
+    setTabChangesFocus(true);
+    document()->setDocumentMargin(theme::text_padding);
+    Take_Words(facts.words);
+    Refresh();
+    connect(this, &QPlainTextEdit::textChanged, this, &Notes_Field::Take_Typed);
+}
+
+void Notes_Field::Refresh() {
+    if (shown_ != control.Text()) {
+        shown_ = control.Text();
+        const QSignalBlocker quiet(this);
+        // A text that is cut for showing must not be edited, or it would come back cut.
+        const bool too_long = shown_.size() > longest_text;
+        setPlainText(Lines_To_Qt(std::string_view(shown_).substr(0, longest_text)));
+        setReadOnly(too_long || control.Present_Look().locked);
+    }
+    Show_Common_State(*this, control);
+}
+
+void Notes_Field::Show_Selection(const Selection& selection) {
+    if (selection.length > 0) {
+        selectAll();
+    } else {
+        moveCursor(QTextCursor::End);
+    }
+}
+
+void Notes_Field::Take_Words(const QString& words) {
+    Control_View::Take_Words(words);
+    setAccessibleName(words);
+}
+
+QRect Notes_Field::Area_In(const QRect& cell) const {
+    return cell.adjusted(0, 0, -1, -1);
+}
+
+void Notes_Field::keyPressEvent(QKeyEvent* event) {
+    // Shift and Enter would put in a line separator, which no file knows.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (!isReadOnly()) {
+            insertPlainText(QStringLiteral("\n"));
+            ensureCursorVisible();
+        }
+        event->accept();
+        return;
+    }
+    Widget_View::keyPressEvent(event);
+}
+
+void Notes_Field::Take_Typed() {
+    shown_ = Lines_From_Qt(toPlainText());
+    facts.events.Typed(control, shown_);
+}
+
+} // namespace kestrum::desktop

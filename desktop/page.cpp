@@ -1,0 +1,288 @@
+#include "desktop/page.h"
+
+#include "desktop/frame_view.h"
+#include "desktop/make_view.h"
+#include "desktop/text_bridge.h"
+#include "desktop/text_views.h"
+
+#include <QFontMetrics>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <numeric>
+#include <tuple>
+
+namespace kestrum::desktop {
+
+namespace {
+
+bool Needs_View(const Control& control) {
+    return control.Entry().use != Cell_Use::Blank || control.Entry().hover != Hover::Hides ||
+           !control.Text().empty();
+}
+
+bool Can_Be_Typed_Into(const QWidget& widget) {
+    const auto* const edit = dynamic_cast<const QLineEdit*>(&widget);
+    return edit != nullptr && edit->isVisible() && edit->isEnabled() && !edit->isReadOnly();
+}
+
+bool Overlap(int first, int first_count, int second, int second_count) {
+    return first < second + second_count && second < first + first_count;
+}
+
+} // namespace
+
+Page::Page(const Page_Context& context, std::string_view holder, QWidget* parent, int rows)
+    : QWidget(parent),
+      context_(context),
+      holder_(holder),
+      design_(Design_Of(context.screen, holder)),
+      map_(context.screen, holder),
+      is_panel_(!holder.empty() && rows == 0),
+      rows_(std::max(rows, 1)) {
+    setMouseTracking(true);
+    context_.page_made(*this);
+    if (!is_panel_) {
+        setFont(theme::Text_Font());
+    }
+    for (Control& control : context_.screen.Controls()) {
+        if (control.Entry().parent == holder && control.Entry().kind != Control_Kind::Menu_Entry &&
+            Place_Of(control).column >= 0) {
+            const Place place = Place_Of(control);
+            columns_ = std::max(columns_, place.column + place.columns);
+            rows_ = std::max(rows_, place.row + place.rows);
+        }
+    }
+    for (Control& control : context_.screen.Controls()) {
+        if (control.Entry().parent == holder && Place_Of(control).column >= 0 &&
+            Needs_View(control)) {
+            Add_View(control);
+        }
+    }
+    Measure_Columns();
+}
+
+View_Facts Page::Facts_Of(const Control& control) const {
+    View_Facts facts{.events = context_.events};
+    if (control.Is_Text_Box()) {
+        facts.side = map_.Side_Of(control);
+        facts.words = map_.Words_For(control);
+        facts.heads_column = control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
+    }
+    return facts;
+}
+
+void Page::Add_View(Control& control) {
+    if (control.Entry().kind == Control_Kind::Frame) {
+        if (Frame_View::Covers_Its_Form(control)) {
+            return; // the window has it beside this page
+        }
+        auto* const frame = new Frame_View(context_, control, Facts_Of(control), this);
+        context_.made(*frame);
+        items_.push_back({frame, Place_Of(control)});
+        return;
+    }
+    const Place place = Place_Of(control);
+    Control_View* const view = kestrum::desktop::Make_View(control, Facts_Of(control), this,
+                                                           map_.Has_Cell(place.column, place.row));
+    context_.made(*view);
+    items_.push_back({view, place});
+    if (isVisible()) {
+        Place_Item(items_.back());
+        view->Widget()->show();
+    }
+}
+
+void Page::Name_Fields_Anew() {
+    for (const Item& item : items_) {
+        if (item.view->control.Is_Text_Box()) {
+            item.view->Take_Words(map_.Words_For(item.view->control));
+        }
+    }
+}
+
+/// A column is as wide as its widest caption. Captions that stand alone in their place count only.
+void Page::Measure_Columns() {
+    widths_.assign(static_cast<std::size_t>(columns_), design_.column_width);
+    const QFont usual = theme::Text_Font();
+    QFont bold = usual;
+    bold.setBold(true);
+    const QFontMetrics usual_metrics(usual);
+    const QFontMetrics bold_metrics(bold);
+    for (const Item& item : items_) {
+        const Control& control = item.view->control;
+        if (control.Entry().use == Cell_Use::Caption && item.place.columns == 1) {
+            const QFontMetrics& metrics = map_.Heads_Column(control) ? bold_metrics : usual_metrics;
+            int& width = widths_[static_cast<std::size_t>(item.place.column)];
+            width = std::max(width, metrics.horizontalAdvance(To_Qt(control.Text())) +
+                                        2 * theme::text_padding + 1);
+        }
+    }
+}
+
+QSize Page::sizeHint() const {
+    const int width = std::accumulate(widths_.begin(), widths_.end(), 0);
+    const int margins = is_panel_ ? 0 : 2 * theme::page_margin;
+    return {width + margins, rows_ * design_.row_height + margins};
+}
+
+QSize Page::minimumSizeHint() const {
+    constexpr double least = 0.8;
+    return {static_cast<int>(sizeHint().width() * least),
+            static_cast<int>(sizeHint().height() * least)};
+}
+
+void Page::resizeEvent(QResizeEvent* /*event*/) {
+    Set_Letters();
+    Lay_Out();
+}
+
+/// Letters grow with the window; those of a panel are those of the form that it lies on.
+void Page::Set_Letters() {
+    if (is_panel_) {
+        return;
+    }
+    constexpr double most = 1.6;
+    const QSize usual = sizeHint();
+    const double scale = std::min({most, static_cast<double>(width()) / usual.width(),
+                                   static_cast<double>(height()) / usual.height()});
+    const QFont letters = theme::Text_Font(scale);
+    if (letters.pixelSize() != font().pixelSize()) {
+        setFont(letters);
+    }
+}
+
+void Page::Lay_Out() {
+    const int margin = is_panel_ ? 0 : theme::page_margin;
+    const int needed = std::accumulate(widths_.begin(), widths_.end(), 0);
+    const int given = width() - 2 * margin;
+    edges_.assign(1, margin);
+    int sum = 0;
+    for (std::size_t column = 0; column < widths_.size(); ++column) {
+        sum += widths_[column];
+        const int count = static_cast<int>(column) + 1;
+        // What is over goes to all columns alike; what is missing, each gives by its width.
+        const int edge = given >= needed ? sum + (given - needed) * count / columns_
+                                         : sum * given / std::max(needed, 1);
+        edges_.push_back(margin + edge);
+    }
+    for (const Item& item : items_) {
+        Place_Item(item);
+    }
+}
+
+void Page::Place_Item(const Item& item) const {
+    item.view->Widget()->setGeometry(item.view->Area_In(Area_Of(item.place)));
+}
+
+QRect Page::Area_Of(const Place& place) const {
+    const int margin = is_panel_ ? 0 : theme::page_margin;
+    const int height_given = height() - 2 * margin;
+    const auto edge_of_row = [&](int row) { return margin + row * height_given / rows_; };
+    const auto edge_of_column = [&](int column) {
+        return edges_[static_cast<std::size_t>(std::clamp(column, 0, columns_))];
+    };
+    const QPoint corner(edge_of_column(place.column), edge_of_row(place.row));
+    return {corner, QPoint(edge_of_column(place.column + place.columns) - 1,
+                           edge_of_row(place.row + place.rows) - 1)};
+}
+
+void Page::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor::fromRgb(theme::card_line));
+    painter.setBrush(QColor::fromRgb(theme::card));
+    for (const Place& place : design_.cards) {
+        const QRectF card = QRectF(Area_Of(place)).adjusted(-3.5, -2.5, 1.5, 1.5);
+        painter.drawRoundedRect(card, theme::radius, theme::radius);
+    }
+    Paint_Captions(painter);
+    if (holder_.empty() && design_.information_sample) {
+        const QRect cell = Area_Of(*design_.information_sample);
+        Paint_Information_Mark(painter,
+                               cell.adjusted(0, cell.height() / 3, -2 * theme::text_padding, 0));
+    }
+}
+
+/// Words of fields that have no caption cell.
+void Page::Paint_Captions(QPainter& painter) const {
+    painter.setPen(QColor::fromRgb(theme::Caption_Ink(theme::Side::Neutral)));
+    for (const Own_Words& line : All_Own_Words()) {
+        if (line.screen == context_.screen.Name() && line.holder == holder_ &&
+            line.place.column >= 0) {
+            Paint_Fitted(painter, Area_Of(line.place).adjusted(theme::text_padding, 0, -2, 0),
+                         Qt::AlignLeft | Qt::AlignVCenter, To_Qt(line.words));
+        }
+    }
+}
+
+void Page::mouseMoveEvent(QMouseEvent* event) {
+    if (childAt(event->position().toPoint()) == nullptr) {
+        context_.events.Hovered_Form();
+    }
+}
+
+/// Fields that stand behind a caption come column by column, as the header of a sheet is filled
+/// in; those under headings row by row, as a test is run; all else as it is read.
+std::vector<QWidget*> Page::Tab_Order() const {
+    enum Group { Behind_Captions, Under_Headings, Others };
+
+    struct Stop {
+        Group group;
+        Place place;
+        QWidget* widget;
+    };
+
+    std::vector<Stop> stops;
+    int first_row[] = {rows_, rows_, rows_}; // NOLINT(*-avoid-c-arrays)
+    for (const Item& item : items_) {
+        QWidget* const widget = item.view->Widget();
+        Group group = Others;
+        if (dynamic_cast<const QLineEdit*>(widget) != nullptr &&
+            Own_Words_Of(item.view->control) == nullptr) {
+            group = map_.Is_Under_Heading(item.view->control) ? Under_Headings : Behind_Captions;
+        }
+        first_row[group] = std::min(first_row[group], item.place.row);
+        stops.push_back({group, item.place, widget});
+    }
+    first_row[Others] = rows_;
+    std::ranges::stable_sort(stops, {}, [&first_row](const Stop& stop) {
+        const bool by_columns = stop.group == Behind_Captions;
+        return std::tuple(first_row[stop.group], by_columns ? stop.place.column : stop.place.row,
+                          by_columns ? stop.place.row : stop.place.column);
+    });
+    std::vector<QWidget*> order;
+    for (const Stop& stop : stops) {
+        if (const auto* const frame = dynamic_cast<const Frame_View*>(stop.widget)) {
+            const std::vector<QWidget*> inner = frame->Tab_Order();
+            order.insert(order.end(), inner.begin(), inner.end());
+        } else if (stop.widget->focusPolicy() != Qt::NoFocus) {
+            order.push_back(stop.widget);
+        }
+    }
+    return order;
+}
+
+QWidget* Page::Neighbour_Of(const Control_View& view, Direction direction) const {
+    const Place from = Place_Of(view.control);
+    const bool vertical = direction == Direction::Up || direction == Direction::Down;
+    const int sign = direction == Direction::Up || direction == Direction::Left ? -1 : 1;
+    QWidget* nearest = nullptr;
+    int least = 0;
+    for (const Item& item : items_) {
+        const Place& to = item.place;
+        const int distance = sign * (vertical ? to.row - from.row : to.column - from.column);
+        const bool in_line = vertical ? Overlap(from.column, from.columns, to.column, to.columns)
+                                      : from.row == to.row;
+        if (distance > 0 && in_line && Can_Be_Typed_Into(*item.view->Widget()) &&
+            (nearest == nullptr || distance < least)) {
+            nearest = item.view->Widget();
+            least = distance;
+        }
+    }
+    return nearest;
+}
+
+} // namespace kestrum::desktop

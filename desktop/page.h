@@ -1,0 +1,82 @@
+#pragma once
+
+#include "desktop/cell_map.h"
+#include "desktop/control_view.h"
+#include "desktop/form_design.h"
+#include "screens/geometry.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace kestrum::desktop {
+
+class Page;
+
+/// What a page needs of its window.
+struct Page_Context {
+    Screen& screen;
+    User_Events& events;
+    /// A view has been made.
+    std::function<void(Control_View&)> made;
+    std::function<void(Page&)> page_made;
+};
+
+/// The grid of the controls that one frame holds, or that stand on the bare form.
+class Page : public QWidget {
+public:
+    /// `rows` makes the page as high as another one; 0 takes its own.
+    Page(const Page_Context& context, std::string_view holder, QWidget* parent, int rows = 0);
+
+    [[nodiscard]] std::string_view Holder() const { return holder_; }
+
+    [[nodiscard]] int Rows() const { return rows_; }
+
+    /// Makes the view of a control that had none, as of a blank cell that gets a text.
+    void Add_View(Control& control);
+    /// The captions of the page have changed.
+    void Name_Fields_Anew();
+
+    /// Widgets that take the focus, in the order of the Tab key.
+    [[nodiscard]] std::vector<QWidget*> Tab_Order() const;
+    /// The next field that can be typed into in a direction, or null.
+    [[nodiscard]] QWidget* Neighbour_Of(const Control_View& view, Direction direction) const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    struct Item {
+        Control_View* view;
+        Place place;
+    };
+
+    [[nodiscard]] View_Facts Facts_Of(const Control& control) const;
+    void Measure_Columns();
+    void Lay_Out();
+    void Place_Item(const Item& item) const;
+    [[nodiscard]] QRect Area_Of(const Place& place) const;
+    void Set_Letters();
+    void Paint_Captions(QPainter& painter) const;
+
+    Page_Context context_;
+    std::string_view holder_;
+    const Form_Design& design_;
+    Cell_Map map_;
+    bool is_panel_;
+    int columns_ = 1;
+    int rows_ = 1;
+    std::vector<Item> items_;
+    /// Least widths of the columns at the theme's own letter size, and their left edges now.
+    std::vector<int> widths_;
+    std::vector<int> edges_;
+};
+
+} // namespace kestrum::desktop

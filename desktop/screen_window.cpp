@@ -1,0 +1,375 @@
+#include "desktop/screen_window.h"
+
+#include "application/events.h"
+#include "core/field_handlers.h"
+#include "desktop/frame_view.h"
+#include "desktop/help_line.h"
+#include "desktop/menus.h"
+#include "desktop/text_bridge.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kestrum::desktop {
+
+namespace {
+
+/// Keeps pages as large as itself.
+class Body : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    [[nodiscard]] QSize sizeHint() const override {
+        QSize size;
+        for (const QObject* const child : children()) {
+            size = size.expandedTo(static_cast<const QWidget*>(child)->sizeHint());
+        }
+        return size;
+    }
+
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        const auto* const page = static_cast<const QWidget*>(children().value(0));
+        return page == nullptr ? QSize() : page->minimumSizeHint();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* /*event*/) override {
+        for (QObject* const child : children()) {
+            static_cast<QWidget*>(child)->setGeometry(rect());
+        }
+    }
+};
+
+/// Where the focus comes from when the user has not moved it.
+bool Is_Return_Of_Focus(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+/// A frame that takes the whole form: it stands beside the front page, and one of the two shows.
+class Screen_Window::Cover : public Control_View {
+public:
+    Cover(Screen_Window& window, Control& frame)
+        : Control_View(frame, View_Facts{.events = window}), window_(window) {}
+
+    void Refresh() override {
+        const bool shows = control.Present_Look().visible;
+        if (shows && page_ == nullptr) {
+            page_ = new Page(window_.Context(), control.Entry().array, window_.body_,
+                             window_.front_->Rows());
+            Give_Address(*page_, control);
+            page_->setGeometry(window_.body_->rect());
+        }
+        QWidget* const holder = window_.focusWidget();
+        const QWidget* const goes = shows ? window_.front_ : page_;
+        if (holder != nullptr && goes != nullptr && goes->isAncestorOf(holder)) {
+            holder->clearFocus(); // or Qt would look for another field
+        }
+        if (page_ != nullptr) {
+            page_->setVisible(shows);
+        }
+        window_.front_->setVisible(!shows);
+    }
+
+    QWidget* Widget() override { return page_; }
+
+    [[nodiscard]] Page* Present_Page() const { return page_; }
+
+private:
+    Screen_Window& window_;
+    Page* page_ = nullptr;
+};
+
+Screen_Window::Screen_Window(Session& session, Gate& gate, Screen& screen)
+    : session_(session), gate_(gate), screen_(&screen), keeper_(session) {
+    setObjectName(To_Qt(screen.Name()));
+    setAccessibleDescription(objectName());
+    views_.resize(screen.Controls().size());
+    static_cast<void>(screen.Take_Changes()); // the views are made from the present state
+    Make_Content();
+    Set_Tab_Order();
+    Set_Pointer();
+}
+
+void Screen_Window::Make_Content() {
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    auto* const bar = new QMenuBar(this);
+    Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
+    if (bar->actions().isEmpty()) {
+        delete bar;
+    } else {
+        layout->setMenuBar(bar);
+    }
+    body_ = new Body(this);
+    front_ = new Page(Context(), "", body_);
+    help_ = new Help_Line(this);
+    layout->addWidget(body_, 1);
+    layout->addWidget(help_);
+    if (Control* const label = screen_->Find("Label7", std::nullopt)) {
+        own_views_.push_back(
+            std::make_unique<Help_Label_View>(*label, View_Facts{.events = *this}, *help_));
+        own_views_.back()->Refresh();
+        Keep_View(*own_views_.back());
+    }
+    for (Control& control : screen_->Controls()) {
+        if (Frame_View::Covers_Its_Form(control)) {
+            auto cover = std::make_unique<Cover>(*this, control);
+            cover_ = cover.get();
+            own_views_.push_back(std::move(cover));
+            Keep_View(*cover_);
+            cover_->Refresh();
+        }
+    }
+}
+
+Page_Context Screen_Window::Context() {
+    const auto keep_view = [this](Control_View& view) {
+        Keep_View(view);
+        tab_order_stale_ = true;
+    };
+    const auto keep_page = [this](Page& page) { pages_.push_back(&page); };
+    return {.screen = *screen_, .events = *this, .made = keep_view, .page_made = keep_page};
+}
+
+void Screen_Window::Keep_View(Control_View& view) {
+    views_[static_cast<std::size_t>(&view.control - screen_->Controls().data())] = &view;
+}
+
+Control_View* Screen_Window::View_Of(const Control& control) const {
+    return views_[static_cast<std::size_t>(&control - screen_->Controls().data())];
+}
+
+void Screen_Window::Set_Tab_Order() const {
+    std::vector<QWidget*> order = front_->Tab_Order();
+    if (cover_ != nullptr && cover_->Present_Page() != nullptr) {
+        const std::vector<QWidget*> more = cover_->Present_Page()->Tab_Order();
+        order.insert(order.end(), more.begin(), more.end());
+    }
+    for (std::size_t at = 1; at < order.size(); ++at) {
+        QWidget::setTabOrder(order[at - 1], order[at]);
+    }
+}
+
+/// The arrow everywhere, or each widget's own pointer.
+void Screen_Window::Set_Pointer() {
+    if (plain_pointer_ == screen_->plain_pointer) {
+        return;
+    }
+    plain_pointer_ = screen_->plain_pointer;
+    for (Control_View* const view : views_) {
+        if (view != nullptr && view->Widget() != nullptr && view->control.Is_Text_Box()) {
+            view->Widget()->setCursor(Qt::ArrowCursor);
+        }
+    }
+}
+
+// Opening and closing
+
+QSize Screen_Window::Usual_Size() const {
+    constexpr double most = 1.2; // of the design, on a display that has the room
+    constexpr QSize frame(12, 40);
+    const QSize room = screen()->availableSize() - frame;
+    return (sizeHint() * most).boundedTo(room);
+}
+
+void Screen_Window::Open() {
+    setWindowTitle(To_Qt(screen_->caption));
+    if (!placed_) {
+        placed_ = true;
+        resize(Usual_Size());
+        const QRect room = screen()->availableGeometry();
+        move(room.center() - rect().center());
+    } else {
+        move(pos()); // a window manager would else place it anew
+    }
+    show();
+    Bring_To_Front();
+}
+
+void Screen_Window::Close() {
+    hide();
+}
+
+void Screen_Window::Bring_To_Front() {
+    if (isMinimized()) {
+        showNormal();
+    }
+    raise();
+    activateWindow();
+}
+
+void Screen_Window::Let_Go() {
+    screen_ = nullptr;
+    hide();
+    deleteLater(); // one of its own widgets may be calling
+}
+
+void Screen_Window::closeEvent(QCloseEvent* event) {
+    event->ignore(); // the session hides or unloads the screen, or does nothing
+    gate_.Enter([this] {
+        if (screen_ != nullptr) {
+            Close_Window(session_, *screen_);
+        }
+    });
+}
+
+void Screen_Window::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (!painted_) {
+        painted_ = true;
+        // Its children are painted when the event loop comes round again.
+        QTimer::singleShot(0, this, [this] {
+            if (on_first_paint) {
+                on_first_paint();
+            }
+        });
+    }
+}
+
+// From the session to the window
+
+void Screen_Window::Refresh() {
+    if (screen_ == nullptr) {
+        return;
+    }
+    bool captions_changed = false;
+    for (Control* const control : screen_->Take_Changes()) {
+        Show_Changed(*control);
+        captions_changed = captions_changed || control->Entry().use == Cell_Use::Caption;
+    }
+    if (captions_changed) {
+        for (Page* const page : pages_) {
+            page->Name_Fields_Anew();
+        }
+    }
+    if (tab_order_stale_) {
+        tab_order_stale_ = false;
+        Set_Tab_Order();
+    }
+    Set_Pointer();
+    if (windowTitle() != To_Qt(screen_->caption)) {
+        setWindowTitle(To_Qt(screen_->caption));
+    }
+}
+
+void Screen_Window::Show_Changed(Control& control) {
+    if (Control_View* const view = View_Of(control)) {
+        view->Refresh();
+        return;
+    }
+    // A blank cell has no view until a text comes into it.
+    const auto page = std::ranges::find_if(pages_, [&control](const Page* other) {
+        return other->Holder() == control.Entry().parent;
+    });
+    if (page != pages_.end() && control.Is_Text_Box() && !control.Text().empty()) {
+        (*page)->Add_View(control);
+    }
+}
+
+void Screen_Window::Take_Focus(Control& control) {
+    Refresh(); // the panel that holds the control may just have been shown
+    Control_View* const view = View_Of(control);
+    if (view == nullptr || view->Widget() == nullptr || !keeper_.Goes_To(control)) {
+        return;
+    }
+    if (!isActiveWindow()) {
+        Bring_To_Front();
+    }
+    view->Widget()->setFocus(Qt::OtherFocusReason);
+    view->Show_Selection(Select_Field_Text(session_, control));
+}
+
+// From the user to the session
+
+void Screen_Window::Clicked(Control& control) {
+    const bool let_in = gate_.Enter([&] { Click(session_, control); });
+    if (!let_in && screen_ != nullptr) {
+        Control_View* const view = View_Of(control);
+        view->Refresh(); // a box that the toolkit has ticked goes back
+    }
+}
+
+void Screen_Window::Picked(Control& combo, const std::string& text) {
+    gate_.Enter([&] { Select(session_, combo, text); });
+}
+
+void Screen_Window::Typed(Control& field, const std::string& text) {
+    gate_.Enter([&] { field.Set_Text(text); });
+}
+
+bool Screen_Window::Passes(const Control& field, char32_t character) {
+    return Passes_Filter(session_.number, field, character);
+}
+
+void Screen_Window::Beep() {
+    session_.dialogs.Beep();
+}
+
+void Screen_Window::Focus_Came(Control_View& view, Qt::FocusReason reason) {
+    if (screen_ == nullptr) {
+        return;
+    }
+    if (reason == Qt::MouseFocusReason && view.control.Is_Text_Box()) {
+        session_.mouse_down = true;
+    }
+    if (!keeper_.Is_At(view.control)) {
+        // While a routine runs the move is its own.
+        gate_.Enter([&] { static_cast<void>(keeper_.Goes_To(view.control)); });
+    }
+    const bool stayed = screen_ != nullptr && focusWidget() == view.Widget();
+    if (stayed && !Is_Return_Of_Focus(reason)) {
+        view.Show_Selection(Select_Field_Text(session_, view.control));
+    }
+}
+
+void Screen_Window::Focus_Went() {
+    session_.mouse_down = false;
+}
+
+void Screen_Window::Mouse_Down(bool down) {
+    session_.mouse_down = down;
+}
+
+void Screen_Window::Hovered(Control& control) {
+    if (screen_ == nullptr) {
+        return;
+    }
+    if (screen_->Find("Label7", std::nullopt) == nullptr) {
+        help_->Show_Words(Lines_To_Qt(control.Entry().tip));
+        return;
+    }
+    gate_.Enter([&] { Hover_Over(control); });
+}
+
+void Screen_Window::Hovered_Form() {
+    if (screen_ == nullptr) {
+        return;
+    }
+    if (screen_->Find("Label7", std::nullopt) == nullptr) {
+        help_->Show_Words(QString());
+        return;
+    }
+    gate_.Enter([this] { Hover_Over_Form(*screen_); });
+}
+
+void Screen_Window::Move_Focus(const Control_View& from, Direction direction) {
+    for (const Page* const page : pages_) {
+        if (page->Holder() == from.control.Entry().parent) {
+            if (QWidget* const next = page->Neighbour_Of(from, direction)) {
+                next->setFocus(Qt::OtherFocusReason);
+            }
+            return;
+        }
+    }
+}
+
+} // namespace kestrum::desktop

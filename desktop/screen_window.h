@@ -1,0 +1,86 @@
+#pragma once
+
+#include "desktop/focus_keeper.h"
+#include "desktop/gate.h"
+#include "desktop/page.h"
+#include "desktop/user_events.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace kestrum::desktop {
+
+class Help_Line;
+
+/// The window of one screen. It is made from the screen's table and decides nothing: what the user
+/// does goes to the session, and what has changed there is shown.
+class Screen_Window : public QWidget, private User_Events {
+public:
+    Screen_Window(Session& session, Gate& gate, Screen& screen);
+
+    void Open();
+    void Close();
+    void Bring_To_Front();
+    /// Shows what has changed since the last call.
+    void Refresh();
+    /// A routine moves the focus.
+    void Take_Focus(Control& control);
+    /// The screen goes; the window answers to nothing more.
+    void Let_Go();
+
+    /// The view of a control, or null where none has been made.
+    [[nodiscard]] Control_View* View_Of(const Control& control) const;
+
+    /// Runs once, when the window has been painted.
+    std::function<void()> on_first_paint;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    class Cover;
+
+    // What the views tell.
+    void Clicked(Control& control) override;
+    void Picked(Control& combo, const std::string& text) override;
+    void Typed(Control& field, const std::string& text) override;
+    bool Passes(const Control& field, char32_t character) override;
+    void Beep() override;
+    void Focus_Came(Control_View& view, Qt::FocusReason reason) override;
+    void Focus_Went() override;
+    void Mouse_Down(bool down) override;
+    void Hovered(Control& control) override;
+    void Hovered_Form() override;
+    void Move_Focus(const Control_View& from, Direction direction) override;
+
+    void Make_Content();
+    void Keep_View(Control_View& view);
+    [[nodiscard]] Page_Context Context();
+    void Show_Changed(Control& control);
+    void Set_Tab_Order() const;
+    void Set_Pointer();
+    [[nodiscard]] QSize Usual_Size() const;
+
+    Session& session_;
+    Gate& gate_;
+    Screen* screen_; // null when it has gone
+    Focus_Keeper keeper_;
+    std::vector<Control_View*> views_; // by the control's place in the screen
+    QWidget* body_ = nullptr;
+    std::vector<Page*> pages_;
+    /// Views that are no widgets; those are owned by their parents.
+    std::vector<std::unique_ptr<Control_View>> own_views_;
+    Page* front_ = nullptr;
+    Cover* cover_ = nullptr;
+    Help_Line* help_ = nullptr;
+    bool tab_order_stale_ = false;
+    bool plain_pointer_ = false;
+    bool placed_ = false;
+    bool painted_ = false;
+};
+
+} // namespace kestrum::desktop

@@ -1,0 +1,192 @@
+#include "desktop/text_views.h"
+
+#include "desktop/text_bridge.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QPolygonF>
+
+#include <algorithm>
+
+namespace kestrum::desktop {
+
+namespace {
+
+/// More than this of a line is never seen, and a file may bring lines of megabytes.
+constexpr qsizetype longest_line = 1000;
+
+} // namespace
+
+void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
+                  const QString& text) {
+    const QString line = text.left(longest_line);
+    const QFont usual = painter.font();
+    QFont font = usual;
+    while (font.pixelSize() > theme::smallest_pixels &&
+           painter.fontMetrics().horizontalAdvance(line) > area.width()) {
+        font.setPixelSize(font.pixelSize() - 1);
+        painter.setFont(font);
+    }
+    const QFontMetrics metrics = painter.fontMetrics();
+    const bool fits = metrics.horizontalAdvance(line) <= area.width();
+    painter.drawText(area, static_cast<int>(alignment) | Qt::TextSingleLine,
+                     fits ? line : metrics.elidedText(line, Qt::ElideRight, area.width()));
+    painter.setFont(usual);
+}
+
+void Paint_Information_Mark(QPainter& painter, const QRect& cell) {
+    constexpr int size = 6;
+    const QPointF corner(cell.right() + 1, cell.top());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(theme::information));
+    painter.drawPolygon(QPolygonF{corner, corner - QPointF(size, 0), corner + QPointF(0, size)});
+}
+
+Text_View::Text_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Widget_View(its_control, its_facts, parent),
+      text_(Lines_To_Qt(its_control.Text())),
+      look_(its_control.Present_Look()) {
+    Show_Common_State(*this, control);
+}
+
+void Text_View::Refresh() {
+    QString text = Lines_To_Qt(control.Text());
+    const bool changed = text != text_ || look_ != control.Present_Look();
+    if (QAccessible::isActive() && text != text_) {
+        QAccessibleTextUpdateEvent news(this, 0, text_, text);
+        QAccessible::updateAccessibility(&news);
+    }
+    text_ = std::move(text);
+    look_ = control.Present_Look();
+    if (changed) {
+        Show_Common_State(*this, control);
+        update();
+    }
+}
+
+void Text_View::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::EnabledChange) {
+        update();
+    }
+    Widget_View::changeEvent(event);
+}
+
+Qt::Alignment Text_View::Present_Alignment() const {
+    switch (control.Present_Look().alignment) {
+    case Alignment::Right:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    case Alignment::Center:
+        return Qt::AlignCenter;
+    case Alignment::Left:
+        break;
+    }
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+Cell_View::Cell_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
+    : Text_View(its_control, its_facts, parent),
+      is_result_(its_control.Entry().use == Cell_Use::Result) {
+    setAttribute(Qt::WA_OpaquePaintEvent, is_result_);
+}
+
+void Cell_View::Refresh() {
+    Text_View::Refresh();
+}
+
+QRect Cell_View::Area_In(const QRect& cell) const {
+    return cell.adjusted(0, 0, -1, -1);
+}
+
+QString Cell_View::Spoken_Name() const {
+    return is_result_ ? facts.words : Shown_Text();
+}
+
+QRgb Cell_View::Ink() const {
+    return is_result_ ? theme::Colours_Of(control, facts.side).text
+                      : theme::Caption_Ink(facts.side);
+}
+
+void Cell_View::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    if (is_result_) {
+        painter.fillRect(rect(), QColor::fromRgb(theme::Colours_Of(control, facts.side).back));
+    }
+    if (hasFocus()) {
+        painter.fillRect(rect(), QColor::fromRgb(theme::accent_soft));
+    }
+    QFont usual = font();
+    if (facts.heads_column) {
+        usual.setBold(true);
+    }
+    painter.setFont(theme::Font_Of(control, usual));
+    painter.setPen(QColor::fromRgb(Ink()));
+    Paint_Fitted(painter, rect().adjusted(theme::text_padding, 0, -2, 0), Present_Alignment(),
+                 Shown_Text());
+    if (control.Entry().hover == Hover::Shows) {
+        Paint_Information_Mark(painter, rect());
+    }
+}
+
+void Cell_View::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        Copy();
+        return;
+    }
+    Text_View::keyPressEvent(event);
+}
+
+void Cell_View::mousePressEvent(QMouseEvent* event) {
+    Text_View::mousePressEvent(event);
+    event->accept();
+    update();
+}
+
+void Cell_View::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu(this);
+    menu.addAction(QStringLiteral("&Copy"), QKeySequence::Copy, this, [this] { Copy(); });
+    menu.exec(event->globalPos());
+}
+
+void Cell_View::Copy() const {
+    QGuiApplication::clipboard()->setText(Shown_Text());
+}
+
+void Label_View::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const bool is_note = height() > 2 * fontMetrics().height();
+    painter.setFont(font());
+    painter.setPen(QColor::fromRgb(isEnabled() ? theme::quiet_ink : theme::faint_ink));
+    const QRect area = rect().adjusted(theme::text_padding, 1, -theme::text_padding, -1);
+    painter.drawText(area,
+                     static_cast<int>(is_note ? Qt::AlignTop : Qt::AlignVCenter) | Qt::AlignLeft |
+                         Qt::TextWordWrap,
+                     Shown_Text().left(longest_line));
+}
+
+Marker_View::Marker_View(Control& its_control, const View_Facts& its_facts, QWidget* parent,
+                         bool marks_field)
+    : Text_View(its_control, its_facts, parent), marks_field_(marks_field) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+QRect Marker_View::Area_In(const QRect& cell) const {
+    constexpr int thickness = 3;
+    if (marks_field_) {
+        return {cell.left() + 1, cell.bottom() - thickness, cell.width() - 3, thickness};
+    }
+    constexpr int width = 24;
+    return {cell.right() - width - theme::text_padding, cell.center().y() - 1, width, thickness};
+}
+
+void Marker_View::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::Marker_Colour(control));
+}
+
+} // namespace kestrum::desktop

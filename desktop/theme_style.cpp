@@ -1,0 +1,115 @@
+#include "desktop/theme_style.h"
+
+#include "desktop/theme.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPolygonF>
+#include <QStyleOption>
+
+namespace kestrum::desktop {
+
+namespace {
+
+constexpr int indicator_size = 14;
+
+struct Indicator {
+    QRectF area;
+    bool on;
+    bool enabled;
+    bool marked; // has the focus or the mouse over it
+};
+
+Indicator Indicator_Of(const QStyleOption& option) {
+    return {.area = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5),
+            .on = option.state.testFlag(QStyle::State_On),
+            .enabled = option.state.testFlag(QStyle::State_Enabled),
+            .marked = option.state.testFlag(QStyle::State_HasFocus) ||
+                      option.state.testFlag(QStyle::State_MouseOver)};
+}
+
+void Set_Colours(QPainter& painter, const Indicator& indicator) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRgb fill = !indicator.enabled ? theme::window
+                      : indicator.on     ? theme::accent
+                                         : theme::card;
+    const bool strong = indicator.enabled && (indicator.on || indicator.marked);
+    painter.setBrush(QColor::fromRgb(fill));
+    painter.setPen(QColor::fromRgb(strong ? theme::accent : theme::line));
+}
+
+QColor Mark_Colour(const Indicator& indicator) {
+    return QColor::fromRgb(indicator.enabled ? theme::card : theme::faint_ink);
+}
+
+void Paint_Check_Box(QPainter& painter, const Indicator& indicator) {
+    Set_Colours(painter, indicator);
+    constexpr double corner = 3;
+    painter.drawRoundedRect(indicator.area, corner, corner);
+    if (indicator.on) {
+        const QRectF& area = indicator.area;
+        const auto at = [&area](double right, double down) {
+            return QPointF(area.left() + right * area.width(), area.top() + down * area.height());
+        };
+        painter.setPen(
+            QPen(Mark_Colour(indicator), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(QPolygonF{at(0.24, 0.54), at(0.43, 0.72), at(0.77, 0.31)});
+    }
+}
+
+void Paint_Option(QPainter& painter, const Indicator& indicator) {
+    Set_Colours(painter, indicator);
+    painter.drawEllipse(indicator.area);
+    if (indicator.on) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Mark_Colour(indicator));
+        const double inset = indicator.area.width() * 0.3;
+        painter.drawEllipse(indicator.area.adjusted(inset, inset, -inset, -inset));
+    }
+}
+
+} // namespace
+
+Theme_Style::Theme_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void Theme_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+    if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    painter->save();
+    if (element == PE_IndicatorCheckBox) {
+        Paint_Check_Box(*painter, Indicator_Of(*option));
+    } else {
+        Paint_Option(*painter, Indicator_Of(*option));
+    }
+    painter->restore();
+}
+
+int Theme_Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const {
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return indicator_size;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int Theme_Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* details) const {
+    // The embossed letters of disabled entries read badly.
+    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, details);
+}
+
+void Apply_Theme() {
+    QApplication::setStyle(new Theme_Style);
+    QApplication::setPalette(theme::Palette());
+    QApplication::setFont(theme::Text_Font());
+}
+
+} // namespace kestrum::desktop

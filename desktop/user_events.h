@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/field_handlers.h"
+#include "screens/control.h"
+
+#include <QFont>
+#include <QString>
+
+#include <string>
+
+namespace kestrum::desktop {
+
+class Control_View;
+
+enum class Direction { Up, Down, Left, Right };
+
+/// What the views of the controls tell their window of the user, and ask it.
+struct User_Events {
+    User_Events() = default;
+    User_Events(const User_Events&) = delete;
+    User_Events& operator=(const User_Events&) = delete;
+    virtual ~User_Events() = default;
+
+    virtual void Clicked(Control& control) = 0;
+    virtual void Picked(Control& combo, const std::string& text) = 0;
+    virtual void Typed(Control& field, const std::string& text) = 0;
+    /// Whether the field's filter lets a character pass.
+    virtual bool Passes(const Control& field, char32_t character) = 0;
+    virtual void Beep() = 0;
+    virtual void Focus_Came(Control_View& view, Qt::FocusReason reason) = 0;
+    virtual void Focus_Went() = 0;
+    virtual void Mouse_Down(bool down) = 0;
+    virtual void Hovered(Control& control) = 0;
+    virtual void Hovered_Form() = 0;
+    /// The focus wants to the next field in a direction.
+    virtual void Move_Focus(const Control_View& from, Direction direction) = 0;
+};
+
+} // namespace kestrum::desktop
