@@ -18,25 +18,25 @@ struct Variable {
 };
 
 /// A number that is a member of the session.
-template <auto Member>
+template <auto member>
 Variable_Value Number(const Session& session) {
-    return static_cast<double>(session.*Member);
+    return static_cast<double>(session.*member);
 }
 
-template <auto Member>
+template <auto member>
 Variable_Value Text(const Session& session) {
-    return session.*Member;
+    return session.*member;
 }
 
-template <const std::string_view& Constant>
+template <const std::string_view& constant>
 Variable_Value Fixed(const Session& /*session*/) {
-    return std::string(Constant);
+    return std::string(constant);
 }
 
 /// The same of the graph's state.
-template <auto Member>
+template <auto member>
 Variable_Value Graph(const Session& session) {
-    return static_cast<double>(session.graph.*Member);
+    return static_cast<double>(session.graph.*member);
 }
 
 /// Scratch of other days: counters are locals now, and work texts are empty between operations.
@@ -48,9 +48,9 @@ Variable_Value Empty(const Session& /*session*/) {
     return std::string();
 }
 
-template <Seat_Geometry Session::*Set, Real Seat_Geometry::*Member>
+template <Seat_Geometry Session::*seat, Real Seat_Geometry::*member>
 Variable_Value Seat(const Session& session) {
-    return (session.*Set.*Member).Value();
+    return (session.*seat.*member).Value();
 }
 
 using S = Session;

@@ -7,7 +7,7 @@ namespace kestrum {
 
 std::string Path_Of_Named_File(const Session& session, std::string_view name) {
     const std::string_view bare = Without_Outer_Blanks(name);
-    const std::string path = Find_Case_Blind(
+    std::string path = Find_Case_Blind(
         Holds_Separator(bare) ? std::string(bare) : Join_Path(session.surroundings.folder, bare));
     const std::size_t comma = path.rfind(',');
     if (session.number.comma_mode == 0 || File_Exists(path) || comma == std::string::npos) {

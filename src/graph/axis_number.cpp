@@ -47,7 +47,7 @@ std::string Format_Axis_Number(const Numeric_Text& number, double value) {
     if (value == 0) {
         return "0";
     }
-    const std::string text = Without_Leading_Zero(number.Fmt_Up_To_Six(value));
+    std::string text = Without_Leading_Zero(number.Fmt_Up_To_Six(value));
     const double size = std::fabs(value);
     if (size < tiny) {
         return text;
