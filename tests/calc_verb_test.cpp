@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <set>
 #include <sstream>
 
@@ -251,6 +252,20 @@ TEST(Calc_Figures, Every_Figure_Has_A_Name_Of_Its_Own) {
         }
         EXPECT_EQ(sheet.Figures().size(), figure_count);
     }
+}
+
+TEST(Calc_Examples, Every_Example_Loads_Without_A_Box) {
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(KESTRUM_EXAMPLES)) {
+        const std::string name = entry.path().filename().string();
+        if (name.ends_with(".dat")) {
+            Calc_Sheet sheet(name.ends_with("_metric.dat"));
+            EXPECT_TRUE(sheet.Load(entry.path().string())) << name;
+            EXPECT_EQ(sheet.Boxes(), std::vector<std::string>()) << name;
+            ++count;
+        }
+    }
+    EXPECT_GE(count, 5);
 }
 
 struct Wrong_Call {
