@@ -63,12 +63,4 @@ void Move_Logo(Session& session, Mouse_Action action, const Position& place) {
     }
 }
 
-void Choose_Line_Colour(Session& session) {
-    if (const auto colour = session.dialogs.Choose_Colour()) {
-        session.draw_line_color = *colour;
-    } else {
-        session.Message("No Color Selected");
-    }
-}
-
 } // namespace kestrum

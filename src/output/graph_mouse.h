@@ -12,7 +12,4 @@ void Mouse_On_Canvas(Session& session, Mouse_Action action, const Curve_Point& a
 /// The mouse on the logo: while it is held, its place becomes the logo's.
 void Move_Logo(Session& session, Mouse_Action action, const Position& place);
 
-/// Asks for the colour of lines drawn by hand.
-void Choose_Line_Colour(Session& session);
-
 } // namespace kestrum

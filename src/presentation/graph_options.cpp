@@ -1,0 +1,38 @@
+#include "presentation/graph_options.h"
+
+namespace kestrum {
+
+std::optional<int> Get_Color(Session& session) {
+    const auto colour = session.dialogs.Choose_Colour();
+    if (!colour) {
+        session.Message("No Color Selected");
+    }
+    return colour;
+}
+
+void Choose_Graph_Font_Colour(Session& session) {
+    if (const auto colour = Get_Color(session)) {
+        Look look = session.Form60().Picture1.Present_Look();
+        look.text_colour = *colour;
+        session.Form60().Picture1.Set_Look(look);
+    }
+}
+
+void Choose_Grid_Colour(Session& session) {
+    if (const auto colour = Get_Color(session)) {
+        session.grid_colour = *colour;
+        session.grid_on = 1;
+    }
+}
+
+void Set_Grid_Style(Session& session, int style) {
+    session.Form60().draw_style = style;
+    session.grid_on = 1;
+}
+
+void Switch_Grid_Off(Session& session) {
+    session.Form60().draw_style = 0;
+    session.grid_on = 0;
+}
+
+} // namespace kestrum
