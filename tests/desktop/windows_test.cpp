@@ -1,0 +1,179 @@
+#include "desktop/text_bridge.h"
+#include "tests/desktop/desktop_bench.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+namespace kestrum::desktop {
+namespace {
+
+/// Notes which widgets are painted.
+class Paint_Watch : public QObject {
+public:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Paint && object->objectName().contains(QLatin1Char('.'))) {
+            painted.insert(From_Qt(object->objectName()));
+        }
+        return false;
+    }
+
+    std::set<std::string> painted;
+};
+
+std::map<std::string, std::string> Texts_Of(const Screen& screen) {
+    std::map<std::string, std::string> texts;
+    for (const Control& control : screen.Controls()) {
+        if (control.Is_Text_Box()) {
+            texts[control.Address()] = control.Text();
+        }
+    }
+    return texts;
+}
+
+TEST(Windows, a_calculation_paints_only_the_cells_that_changed) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    bench.Enter("Form1.Text106(17)", "36");
+    bench.Tab_To("Form1.Command1");
+    QTest::qWait(20);
+    const auto before = Texts_Of(bench.program.Its_Session().Sheet(1));
+    Paint_Watch watch;
+    qApp->installEventFilter(&watch);
+    bench.Press(Qt::Key_Space);
+    QTest::qWait(20);
+    qApp->removeEventFilter(&watch);
+    std::set<std::string> expected{"Form1.Command1"}; // shows that it is pressed
+    for (const auto& [address, text] : Texts_Of(bench.program.Its_Session().Sheet(1))) {
+        const bool on_page_1 = address.find("Text1") != std::string::npos;
+        if (on_page_1 && before.at(address) != text) {
+            expected.insert(address);
+        }
+    }
+    EXPECT_GT(expected.size(), 5U);
+    EXPECT_EQ(watch.painted, expected);
+}
+
+TEST(Windows, what_has_no_routine_yet_is_disabled) {
+    Desktop_Bench bench;
+    EXPECT_FALSE(bench.Widget("Main.Command49").isEnabled());
+    EXPECT_TRUE(bench.Widget("Main.Command51").isEnabled());
+    QWidget* const main = bench.Widget("Main.Command51").window();
+    const auto enabled = [main](const char* name) {
+        const auto* const action = main->findChild<QAction*>(QString::fromLatin1(name));
+        return action != nullptr && action->isEnabled();
+    };
+    EXPECT_TRUE(enabled("Main.About"));
+    EXPECT_FALSE(enabled("Main.Report_Problem"));
+}
+
+TEST(Windows, choices_that_are_pure_state_work) {
+    Desktop_Bench bench;
+    bench.Click("Main.Command50");
+    bench.Click("Form50.Option3(7)");
+    bench.Click("Form50.Check3");
+    EXPECT_EQ(bench.At("Form50.Option3(7)").Value(), 1);
+    EXPECT_EQ(bench.At("Form50.Option3(0)").Value(), 0);
+    EXPECT_EQ(bench.At("Form50.Check3").Value(), 1);
+}
+
+TEST(Windows, a_failure_that_nobody_handles_is_shown_and_ends_the_program) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    bench.At("Form1.Text106(6)").Set_Text("");
+    bench.Click("Form1.Command1");
+    EXPECT_EQ(bench.Take_Events(), Events{"stop box: Run-time error '13':\r\n\r\nType mismatch"});
+    EXPECT_EQ(bench.program.Exit_Status(), 1);
+    bench.Click("Form1.Command1"); // nothing gets in any more
+    EXPECT_EQ(bench.Take_Events(), Events{});
+}
+
+TEST(Windows, a_test_is_saved_and_loaded_through_the_choosers) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    const std::string path = bench.folder.File("bench.dat");
+    bench.Enter("Form1.Text102(0)", "GT40P");
+    bench.dialogs.Choose(path);
+    bench.Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(bench.Take_Events(),
+              (Events{"chooser to save", "information box: 124 Records Written"}));
+    bench.Enter("Form1.Text102(0)", "other");
+    bench.dialogs.Choose(path);
+    bench.Press(Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(bench.Edit("Form1.Text102(0)").text(), QStringLiteral("GT40P"));
+    EXPECT_EQ(bench.Text("Form1.Text39"), path);
+    EXPECT_EQ(bench.Focus(), "Form1.Text101(16)");
+    EXPECT_EQ(bench.Take_Events(),
+              (Events{"chooser to open", "information box: 124 Records Read"}));
+}
+
+TEST(Windows, the_frame_of_a_sheet_unloads_it_and_quit_does_not) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    bench.Enter("Form1.Text102(0)", "mine");
+    bench.Press(Qt::Key_W, Qt::ControlModifier);
+    bench.Open_Sheet();
+    EXPECT_EQ(bench.Text("Form1.Text102(0)"), "mine");
+    bench.Widget("Form1.Text102(0)").window()->close();
+    bench.Open_Sheet();
+    EXPECT_EQ(bench.Edit("Form1.Text102(0)").text(), QStringLiteral("E7TE"));
+}
+
+TEST(Windows, the_frame_of_main_ends_the_session) {
+    Desktop_Bench bench;
+    bench.Widget("Main.Command51").window()->close();
+    EXPECT_FALSE(bench.program.Its_Session().Is_Loaded("Main"));
+    EXPECT_EQ(bench.folder.Names(), std::vector<std::string>{"zxqw1234.sav"});
+    EXPECT_EQ(bench.program.Exit_Status(), 0);
+}
+
+TEST(Windows, the_help_line_shows_what_the_mouse_is_over) {
+    Desktop_Bench bench;
+    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QApplication::sendEvent(&bench.Widget("Main.Command51"), &enter);
+    EXPECT_EQ(bench.Widget("Main.Label7").accessibleName(),
+              QStringLiteral("Lets you Calculate the above Data."));
+    QApplication::sendEvent(&bench.Widget("Main.Text104(3)"), &enter);
+    EXPECT_EQ(bench.Widget("Main.Label7").accessibleName(), QString());
+}
+
+struct Named {
+    const char* address;
+    const char* words;
+};
+
+TEST(Windows, every_field_is_called_what_the_trade_calls_it) {
+    const std::vector<Named> cases{
+        {"Form1.Text104(6)", "Throat dia Ex"},
+        {"Form1.Text106(17)", "Observed Flow Intake, row 17"},
+        {"Form1.Text102(4)", "Stem Dia, Intake"},
+        {"Form1.Text104(2)", "Mean area, Exhaust"},
+        {"Form1.Text103(9)", "0.25D In./Ex, Exhaust"},
+        {"Form1.Text107(4)", "Area Ratio Intake"},
+        {"Form1.Text108(7)", "Test Pressure"},
+        {"Form1.Text113(12)", "Existing In/Ex Rat 2"},
+        {"Main.Text103(8)", "CFM @ Peak Lift"},
+        {"Main.Text102(9)", "Port cc's"},
+        {"Main.Text33", "Name of test"},
+    };
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    for (const Named& line : cases) {
+        QAccessibleInterface* const field =
+            QAccessible::queryAccessibleInterface(&bench.Widget(line.address));
+        ASSERT_NE(field, nullptr) << line.address;
+        EXPECT_EQ(From_Qt(field->text(QAccessible::Name)), line.words);
+        EXPECT_EQ(From_Qt(field->text(QAccessible::Description)), line.address);
+        EXPECT_EQ(From_Qt(field->text(QAccessible::Value)), bench.Text(line.address));
+    }
+}
+
+} // namespace
+} // namespace kestrum::desktop
