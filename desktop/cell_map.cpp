@@ -18,11 +18,13 @@ theme::Side Side_In(const QString& words) {
                                     QStringLiteral("Int"), QStringLiteral("Intake")};
     static const QStringList exhaust{QStringLiteral("Ex"), QStringLiteral("Ex."),
                                      QStringLiteral("Exh"), QStringLiteral("Exhaust")};
-    for (const QString& word : words.split(QLatin1Char(' '))) {
-        if (intake.contains(word)) {
+    const QStringList single = words.split(QLatin1Char(' '));
+    // The last word tells, as in "CFM Sq In Ex.".
+    for (qsizetype at = single.size() - 1; at >= 0; --at) {
+        if (intake.contains(single[at])) {
             return theme::Side::Intake;
         }
-        if (exhaust.contains(word)) {
+        if (exhaust.contains(single[at])) {
             return theme::Side::Exhaust;
         }
     }
@@ -161,7 +163,8 @@ theme::Side Cell_Map::Side_Of(const Control& cell) const {
     }
     const Place place = Place_Of(cell);
     if (cell.Entry().use != Cell_Use::Caption) {
-        return Side_In(Bare_Words(place.column, place.row));
+        const QString words = Bare_Words(place.column, place.row);
+        return Side_In(words.left(words.indexOf(QLatin1String(", row "))));
     }
     if (!Heads_Column(cell)) {
         return Side_In(To_Qt(cell.Text()));

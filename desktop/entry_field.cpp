@@ -52,7 +52,7 @@ QString Typed_Character(const QKeyEvent& event) {
 Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
     setFrame(false);
-    setTextMargins(theme::text_padding - 2, 0, 0, 1);
+    setTextMargins(theme::text_padding - 2, 0, 0, 0);
     Take_Words(facts.words);
     Refresh();
     connect(this, &QLineEdit::textChanged, this, &Entry_Field::Take_Typed);
@@ -86,7 +86,10 @@ void Entry_Field::Show_Look() {
     shown_once_ = true;
     setReadOnly(look_.locked || text() != To_Qt(control.Text()));
     setAlignment(Alignment_Of(look_));
-    const theme::Cell_Colours colours = theme::Colours_Of(control, facts.side);
+    theme::Cell_Colours colours = theme::Colours_Of(control, facts.side);
+    if (control.Entry().use == Cell_Use::Caption) {
+        colours.text = theme::Caption_Ink(facts.side); // a caption with a field's handlers
+    }
     if (palette().color(QPalette::Base).rgb() != colours.back ||
         palette().color(QPalette::Text).rgb() != colours.text) {
         QPalette own = palette();
@@ -259,6 +262,9 @@ void Entry_Field::focusInEvent(QFocusEvent* event) {
 
 void Entry_Field::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
+    if (control.Entry().use == Cell_Use::Caption && !hasFocus()) {
+        return;
+    }
     const theme::Cell_Colours colours = theme::Colours_Of(control, facts.side);
     QPainter painter(this);
     const bool has_focus = hasFocus();

@@ -13,14 +13,13 @@ bool Is_Sheet(const Screen& screen) {
 }
 
 constexpr std::array main_cards{
-    Place{0, 0, 11, 9}, Place{0, 9, 3, 4},  Place{3, 9, 6, 4},  Place{0, 14, 6, 2},
-    Place{6, 14, 5, 2}, Place{0, 17, 6, 6}, Place{6, 17, 5, 6},
+    Place{0, 0, 11, 13},
+    Place{0, 14, 11, 2},
+    Place{0, 17, 11, 6},
 };
 constexpr std::array sheet_cards{
-    Place{0, 0, 4, 12},
-    Place{4, 0, 6, 12},
-    Place{10, 0, 5, 13},
-    Place{0, 13, 15, 18},
+    Place{0, 0, 15, 12},
+    Place{0, 12, 15, 19},
 };
 constexpr std::array page_2_cards{
     Place{0, 3, 4, 3},
@@ -30,7 +29,6 @@ constexpr std::array compare_cards{
     Place{0, 10, 10, 21},
     Place{10, 6, 4, 4},
     Place{10, 12, 4, 4},
-    Place{10, 18, 4, 2},
 };
 constexpr std::array graph_cards{
     Place{10, 0, 4, 5},
@@ -38,14 +36,14 @@ constexpr std::array graph_cards{
 };
 
 constexpr Form_Design main_design{.column_width = 104,
-                                  .row_height = 26,
+                                  .row_height = 31,
                                   .cards = main_cards,
                                   .information_sample = Place{6, 22, 1, 1}};
 constexpr Form_Design sheet_design{.column_width = 66, .row_height = 20, .cards = sheet_cards};
 constexpr Form_Design page_2_design{.column_width = 90, .row_height = 20, .cards = page_2_cards};
 constexpr Form_Design compare_design{.column_width = 88, .row_height = 20, .cards = compare_cards};
 constexpr Form_Design graph_design{.column_width = 66, .row_height = 22, .cards = graph_cards};
-constexpr Form_Design report_design{.column_width = 80, .row_height = 28};
+constexpr Form_Design report_design{.column_width = 88, .row_height = 28};
 constexpr Form_Design panel_design{.column_width = 60, .row_height = 26};
 
 constexpr auto own_words = std::to_array<Own_Words>({

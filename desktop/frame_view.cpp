@@ -1,6 +1,7 @@
 #include "desktop/frame_view.h"
 
 #include "desktop/text_bridge.h"
+#include "desktop/text_views.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -102,9 +103,8 @@ void Frame_View::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(Caption_Font());
     painter.setPen(QColor::fromRgb(theme::Caption_Ink(theme::Side::Neutral)));
     const int padding = floats_ ? 3 * theme::card_padding : theme::card_padding;
-    painter.drawText(rect().adjusted(padding + theme::text_padding, padding, -padding, 0),
-                     static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignTop),
-                     To_Qt(control.Text()));
+    Paint_Fitted(painter, rect().adjusted(padding + theme::text_padding, padding, -padding, 0),
+                 Qt::AlignLeft | Qt::AlignTop, To_Qt(control.Text()));
 }
 
 } // namespace kestrum::desktop

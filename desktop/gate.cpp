@@ -39,6 +39,9 @@ bool Gate::Enter(const std::function<void()>& act) {
 
 void Gate::Fail(const std::string& message) {
     failed_ = true;
+    if (last_act_) {
+        last_act_();
+    }
     dialogs_.Show_Box({.text = message, .title = {}, .icon = Box_Icon::Stop});
     QCoreApplication::exit(1);
 }

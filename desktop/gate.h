@@ -19,6 +19,9 @@ public:
     /// Runs after each event that was let in.
     void Set_Follow_Up(std::function<void()> follow_up) { follow_up_ = std::move(follow_up); }
 
+    /// Runs when a failure ends the program, before it is shown.
+    void Set_Last_Act(std::function<void()> last_act) { last_act_ = std::move(last_act); }
+
     [[nodiscard]] bool Is_Busy() const { return busy_; }
 
     /// Whether a failure has ended the program.
@@ -29,6 +32,7 @@ private:
 
     Dialogs& dialogs_;
     std::function<void()> follow_up_;
+    std::function<void()> last_act_;
     bool busy_ = false;
     bool failed_ = false;
 };

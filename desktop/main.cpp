@@ -57,7 +57,10 @@ int Run(const Start_Options& options) {
     Measure_If_Asked(program);
     if (program.Start()) {
         // The window shows before its icon is drawn.
-        QTimer::singleShot(0, [] { QApplication::setWindowIcon(Program_Icon()); });
+        QTimer::singleShot(0, [&program] {
+            QApplication::setWindowIcon(Program_Icon());
+            program.Keep_Rescue_Copies();
+        });
         QApplication::exec();
     }
     return program.Exit_Status();

@@ -6,7 +6,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QMenuBar>
 
 #include <map>
 

@@ -2,9 +2,9 @@
 
 #include "desktop/control_view.h"
 
-#include <functional>
+#include <QMenuBar>
 
-class QMenuBar;
+#include <functional>
 
 namespace kestrum::desktop {
 

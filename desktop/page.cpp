@@ -62,6 +62,7 @@ Page::Page(const Page_Context& context, std::string_view holder, QWidget* parent
         }
     }
     Measure_Columns();
+    Weigh_Rows();
 }
 
 View_Facts Page::Facts_Of(const Control& control) const {
@@ -122,10 +123,32 @@ void Page::Measure_Columns() {
     }
 }
 
+/// Lines of a heading belong together, and a row that nothing stands in is only a gap.
+void Page::Weigh_Rows() {
+    constexpr double line_height = 16;
+    const double of_heading = line_height / design_.row_height;
+    constexpr double of_gap = 0.4;
+    std::vector<double> weights(static_cast<std::size_t>(rows_), of_gap);
+    for (const Item& item : items_) {
+        const Control& control = item.view->control;
+        if (control.Entry().kind == Control_Kind::Frame && control.Entry().starts_hidden) {
+            continue; // floats above the rows
+        }
+        const bool is_heading =
+            control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
+        for (int row = item.place.row; row < item.place.row + item.place.rows; ++row) {
+            double& weight = weights[static_cast<std::size_t>(row)];
+            weight = std::max(weight, is_heading ? of_heading : 1.0);
+        }
+    }
+    row_feet_.resize(weights.size());
+    std::partial_sum(weights.begin(), weights.end(), row_feet_.begin());
+}
+
 QSize Page::sizeHint() const {
     const int width = std::accumulate(widths_.begin(), widths_.end(), 0);
     const int margins = is_panel_ ? 0 : 2 * theme::page_margin;
-    return {width + margins, rows_ * design_.row_height + margins};
+    return {width + margins, static_cast<int>(row_feet_.back() * design_.row_height) + margins};
 }
 
 QSize Page::minimumSizeHint() const {
@@ -180,7 +203,10 @@ void Page::Place_Item(const Item& item) const {
 QRect Page::Area_Of(const Place& place) const {
     const int margin = is_panel_ ? 0 : theme::page_margin;
     const int height_given = height() - 2 * margin;
-    const auto edge_of_row = [&](int row) { return margin + row * height_given / rows_; };
+    const auto edge_of_row = [&](int row) {
+        const double above = row == 0 ? 0 : row_feet_[static_cast<std::size_t>(row - 1)];
+        return margin + static_cast<int>(above * height_given / row_feet_.back());
+    };
     const auto edge_of_column = [&](int column) {
         return edges_[static_cast<std::size_t>(std::clamp(column, 0, columns_))];
     };
@@ -195,7 +221,10 @@ void Page::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QColor::fromRgb(theme::card_line));
     painter.setBrush(QColor::fromRgb(theme::card));
     for (const Place& place : design_.cards) {
-        const QRectF card = QRectF(Area_Of(place)).adjusted(-3.5, -2.5, 1.5, 1.5);
+        const bool at_left = place.column == 0;
+        const bool at_right = place.column + place.columns == columns_;
+        const QRectF card = QRectF(Area_Of(place))
+                                .adjusted(at_left ? -3.5 : -0.5, -2.5, at_right ? 1.5 : -0.5, 1.5);
         painter.drawRoundedRect(card, theme::radius, theme::radius);
     }
     Paint_Captions(painter);

@@ -60,6 +60,7 @@ private:
 
     [[nodiscard]] View_Facts Facts_Of(const Control& control) const;
     void Measure_Columns();
+    void Weigh_Rows();
     void Lay_Out();
     void Place_Item(const Item& item) const;
     [[nodiscard]] QRect Area_Of(const Place& place) const;
@@ -77,6 +78,8 @@ private:
     /// Least widths of the columns at the theme's own letter size, and their left edges now.
     std::vector<int> widths_;
     std::vector<int> edges_;
+    /// Heights of the rows against each other, summed up: the foot of each row.
+    std::vector<double> row_feet_;
 };
 
 } // namespace kestrum::desktop

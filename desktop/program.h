@@ -3,6 +3,11 @@
 #include "core/session.h"
 #include "desktop/desktop_windows.h"
 #include "desktop/gate.h"
+#include "files/rescue.h"
+
+#include <QTimer>
+
+#include <memory>
 
 namespace kestrum::desktop {
 
@@ -14,6 +19,9 @@ public:
     /// Brings the session up to the moment when `Main` shows. Gives false when it failed.
     [[nodiscard]] bool Start();
 
+    /// Offers what an earlier run left without its exit, and keeps copies from now on.
+    void Keep_Rescue_Copies();
+
     /// The status that the process ends with.
     [[nodiscard]] int Exit_Status() const { return gate_.Has_Failed() ? 1 : 0; }
 
@@ -22,8 +30,12 @@ public:
     [[nodiscard]] Desktop_Windows& Its_Windows() { return windows_; }
 
 private:
+    void End();
+
     Gate gate_;
     Session session_;
+    std::unique_ptr<Rescue> rescue_;
+    QTimer rescue_clock_;
     Desktop_Windows windows_; // goes first, since its windows show the session
 };
 

@@ -45,6 +45,9 @@ protected:
     }
 };
 
+/// About what a window manager puts around a window.
+constexpr QSize window_frame(8, 32);
+
 /// Where the focus comes from when the user has not moved it.
 bool Is_Return_Of_Focus(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
@@ -176,8 +179,7 @@ void Screen_Window::Set_Pointer() {
 
 QSize Screen_Window::Usual_Size() const {
     constexpr double most = 1.2; // of the design, on a display that has the room
-    constexpr QSize frame(12, 40);
-    const QSize room = screen()->availableSize() - frame;
+    const QSize room = screen()->availableSize() - window_frame;
     return (sizeHint() * most).boundedTo(room);
 }
 
@@ -187,7 +189,8 @@ void Screen_Window::Open() {
         placed_ = true;
         resize(Usual_Size());
         const QRect room = screen()->availableGeometry();
-        move(room.center() - rect().center());
+        const QRect framed({}, size() + window_frame);
+        move(room.center() - framed.center());
     } else {
         move(pos()); // a window manager would else place it anew
     }

@@ -1,6 +1,7 @@
 #include "desktop/text_views.h"
 
 #include "desktop/text_bridge.h"
+#include "screens/geometry.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -159,10 +160,11 @@ void Cell_View::Copy() const {
 
 void Label_View::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const bool is_note = height() > 2 * fontMetrics().height();
+    const bool is_note = Place_Of(control).rows > 1;
     painter.setFont(font());
     painter.setPen(QColor::fromRgb(isEnabled() ? theme::quiet_ink : theme::faint_ink));
-    const QRect area = rect().adjusted(theme::text_padding, 1, -theme::text_padding, -1);
+    const QRect area = rect().adjusted(theme::text_padding, is_note ? theme::text_padding : 0,
+                                       -theme::text_padding, 0);
     painter.drawText(area,
                      static_cast<int>(is_note ? Qt::AlignTop : Qt::AlignVCenter) | Qt::AlignLeft |
                          Qt::TextWordWrap,
