@@ -243,6 +243,25 @@ TEST(Flow_Calculation, A_Max_Lift_In_Inches_Finds_No_Ratio) {
                          {"Form1.Text102(11)", "188.7"}}); // 2831.2 / 15
 }
 
+TEST(Flow_Calculation, Mean_Ratios_Are_Taken_From_The_Quotients) {
+    Test_Bench bench;
+    Set_Column(bench, "Text106", "0");
+    Set_Column(bench, "Text107", "0");
+    for (const auto& [address, text] : {Expected_Text{"Form1.Text106(17)", "1000"},
+                                        {"Form1.Text107(17)", "332.6"},
+                                        {"Form1.Text106(18)", "1000"},
+                                        {"Form1.Text107(18)", "665.8"}}) {
+        bench.Set(address, text);
+    }
+    EXPECT_EQ(bench.Click("Form1.Command1"), Events{});
+    // (0.3326 + 0.6658) / 2 = 0.4992; from the rounded texts it would be 0.4995, which shows as
+    // 0.5.
+    Expect_Texts(bench, {{"Form1.Text113(17)", "0.333"},
+                         {"Form1.Text113(18)", "0.666"},
+                         {"Form1.Text113(11)", "0.499"},
+                         {"Form1.Text113(12)", "0.499"}});
+}
+
 TEST(Flow_Calculation, A_Sheet_Without_Flow_Fails_At_Its_Averages) {
     Test_Bench bench;
     Set_Column(bench, "Text106", "0");
