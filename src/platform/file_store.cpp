@@ -104,16 +104,16 @@ mode_t Rights_Of(const std::string& path) {
     return known ? (facts.st_mode & all_rights) : usual;
 }
 
-/// A name that no file of the user bears: the save must not run over a neighbour.
+/// A name that no file of the user bears: the save must not run over a neighbour. Raises 76 where
+/// there is no folder.
 std::string Name_Beside(const std::string& target) {
     std::error_code failed; // a name without a file, a folder that nobody may look into
     if (!fs::is_directory(fs::absolute(target, failed).parent_path(), failed)) {
         Fail(error::path_not_found);
     }
-    std::string name = target + ".new";
-    while (File_Exists(name)) {
-        name += '_';
-    }
+    std::string name = target + ".kestrum-save";
+    // What a program that was killed in the middle of a save has left.
+    fs::remove(name, failed);
     return name;
 }
 
@@ -227,6 +227,10 @@ std::string Time_Of_File(const std::string& path) {
 }
 
 std::string Read_Whole_File(const std::string& path) {
+    std::error_code unknown;
+    if (fs::exists(path, unknown) && !fs::is_regular_file(path, unknown)) {
+        Fail(error::path_or_file_access); // a device or a pipe may never end
+    }
     const Open_File file(path, O_RDONLY);
     std::string content;
     constexpr std::size_t piece = 65536;
