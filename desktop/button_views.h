@@ -34,6 +34,12 @@ public:
 
     void Refresh() override;
     [[nodiscard]] QRect Area_In(const QRect& cell) const override;
+
+protected:
+    // The whole line can be hit, not only the caption.
+    [[nodiscard]] bool hitButton(const QPoint& place) const override {
+        return rect().contains(place);
+    }
 };
 
 class Option_View : public Widget_View<QRadioButton> {
@@ -42,6 +48,11 @@ public:
 
     void Refresh() override;
     [[nodiscard]] QRect Area_In(const QRect& cell) const override;
+
+protected:
+    [[nodiscard]] bool hitButton(const QPoint& place) const override {
+        return rect().contains(place);
+    }
 };
 
 class Combo_View : public Widget_View<QComboBox> {

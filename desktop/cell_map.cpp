@@ -90,8 +90,9 @@ QString Cell_Map::Captions_Left_Of(int column, int row) const {
 }
 
 QString Cell_Map::Captions_Above(int column, int row) const {
+    constexpr int most_lines = 3; // above a heading there may be a unit
     QStringList words;
-    while (Is_Caption(column, --row)) {
+    while (Is_Caption(column, --row) && words.size() < most_lines) {
         words.prepend(To_Qt(At(column, row)->Text()));
     }
     return Joined(words);

@@ -38,10 +38,12 @@ void Show_Common_State(QWidget& widget, const Control& control) {
     }
 }
 
-void Give_Address(QWidget& widget, const Control& control) {
-    const QString address = To_Qt(control.Address());
-    widget.setObjectName(address);
-    widget.setAccessibleDescription(address);
+void Give_Name(QWidget& widget, const Control& control) {
+    widget.setObjectName(To_Qt(control.Address()));
+}
+
+void Give_Description(QWidget& widget) {
+    widget.setAccessibleDescription(widget.objectName());
 }
 
 } // namespace kestrum::desktop

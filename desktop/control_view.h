@@ -54,8 +54,11 @@ protected:
 
 /// The state that all widgets have in common.
 void Show_Common_State(QWidget& widget, const Control& control);
-/// Object name and description.
-void Give_Address(QWidget& widget, const Control& control);
+/// The control's address as object name.
+void Give_Name(QWidget& widget, const Control& control);
+/// And as description. Qt makes its object for assistive technology at that moment, so the widget
+/// must be complete.
+void Give_Description(QWidget& widget);
 
 /// A widget of Qt as a view: hands focus, mouse and hovering on.
 template <typename Base>
@@ -63,7 +66,7 @@ class Widget_View : public Base, public Control_View {
 public:
     Widget_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
         : Base(parent), Control_View(its_control, its_facts) {
-        Give_Address(*this, its_control);
+        Give_Name(*this, its_control);
     }
 
     QWidget* Widget() final { return this; }

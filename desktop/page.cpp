@@ -81,6 +81,7 @@ void Page::Add_View(Control& control) {
             return; // the window has it beside this page
         }
         auto* const frame = new Frame_View(context_, control, Facts_Of(control), this);
+        Give_Description(*frame);
         context_.made(*frame);
         items_.push_back({frame, Place_Of(control)});
         return;
@@ -88,6 +89,9 @@ void Page::Add_View(Control& control) {
     const Place place = Place_Of(control);
     Control_View* const view = kestrum::desktop::Make_View(control, Facts_Of(control), this,
                                                            map_.Has_Cell(place.column, place.row));
+    if (dynamic_cast<const Text_View*>(view) == nullptr) {
+        Give_Description(*view->Widget()); // light cells tell it when they are asked
+    }
     context_.made(*view);
     items_.push_back({view, place});
     if (isVisible()) {

@@ -67,7 +67,8 @@ public:
         if (shows && page_ == nullptr) {
             page_ = new Page(window_.Context(), control.Entry().array, window_.body_,
                              window_.front_->Rows());
-            Give_Address(*page_, control);
+            Give_Name(*page_, control);
+            Give_Description(*page_);
             page_->setGeometry(window_.body_->rect());
         }
         QWidget* const holder = window_.focusWidget();

@@ -28,6 +28,8 @@ public:
         switch (which) {
         case QAccessible::Name:
             return view_.Spoken_Name();
+        case QAccessible::Description:
+            return view_.objectName();
         case QAccessible::Value:
             return view_.Shown_Text();
         default:

@@ -49,8 +49,10 @@ TEST(Keys, editing_shortcuts_are_no_characters) {
     bench.Type("7");
     bench.Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(bench.Text("Form1.Text104(6)"), "1.28");
+    bench.Press(Qt::Key_A, Qt::ControlModifier);
     bench.Press(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(bench.Text("Form1.Text104(6)"), "1.2"); // the 8 that the undo brought back selected
+    EXPECT_EQ(bench.Text("Form1.Text104(6)"), "");
+    EXPECT_EQ(bench.Take_Events(), Events{});
 }
 
 struct Pasted {
@@ -91,6 +93,9 @@ TEST(Keys, what_an_input_method_or_a_drop_brings_passes_the_filter) {
 
     QMimeData dragged;
     dragged.setText(QStringLiteral("x3"));
+    QDragEnterEvent enter(QPoint(100, 8), Qt::CopyAction, &dragged, Qt::LeftButton,
+                          Qt::NoModifier);
+    QApplication::sendEvent(&bench.Widget("Form1.Text104(6)"), &enter);
     QDropEvent drop(QPointF(100, 8), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&bench.Widget("Form1.Text104(6)"), &drop);
     EXPECT_EQ(bench.Text("Form1.Text104(6)"), "123");
