@@ -12,6 +12,8 @@
 #include "graph/graph_set_up.h"
 #include "output/graph_logo.h"
 #include "output/graph_mouse.h"
+#include "output/graph_saving.h"
+#include "output/screen_printing.h"
 #include "presentation/alignment.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
@@ -261,6 +263,14 @@ void Pick_Line_Width(Session& session, Control& control) {
     session.draw_line_width = session.number.Read_Integer(control.Text());
 }
 
+void Save_Picture(Session& session, Control& /*control*/) {
+    Save_Graph(session);
+}
+
+void Print_Owner(Session& session, Control& control) {
+    Print_Screen(session, control.Owner());
+}
+
 constexpr auto compare_commands = std::to_array<Command>({
     {"Command1", Calculate_Table},
     {"Command2", Draw_New_Graph},
@@ -276,6 +286,8 @@ constexpr auto graph_commands = std::to_array<Command>({
     {"Logo", Switch_Logo},
     {"Command4", Pick_Line_Colour},
     {"Combo1", Pick_Line_Width},
+    {"Command3", Save_Picture},
+    {"Command2", Print_Owner},
     {"Command1", Hide_Screen},
 });
 constexpr auto report_commands = std::to_array<Command>({{"subend", Hide_Screen}});

@@ -19,6 +19,9 @@
 
 namespace kestrum {
 
+struct Painter;
+struct Printers;
+
 /// Dimensions of one side's valve seats, in inches and square inches, as the last calculation in
 /// US units left them. One set serves all sheets.
 struct Seat_Geometry {
@@ -43,6 +46,9 @@ public:
     Dialogs& dialogs;
     Windows& windows;
     const Surroundings surroundings;
+    /// Null where the face cannot paint or print.
+    Painter* painter = nullptr;
+    Printers* printers = nullptr;
 
     // Screens. Each is created when it is first asked for, and again after it was unloaded.
 

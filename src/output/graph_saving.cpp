@@ -1,0 +1,60 @@
+#include "output/graph_saving.h"
+
+#include "core/chosen_file.h"
+#include "core/text.h"
+#include "platform/file_store.h"
+
+#include <array>
+
+namespace kestrum {
+
+namespace {
+
+struct Ending {
+    std::string_view text;
+    Picture_Format format;
+};
+
+constexpr std::array<Ending, 3> endings{
+    {{".png", Picture_Format::Png}, {".svg", Picture_Format::Svg}, {".pdf", Picture_Format::Pdf}}};
+
+} // namespace
+
+std::optional<Placed_Logo> Shown_Logo(Session& session) {
+    const Control& picture = session.Form60().Picture2;
+    if (session.logo_on == 0 || session.logo_file.empty() || !picture.Present_Look().visible) {
+        return std::nullopt;
+    }
+    const Position& place = picture.Moved_To();
+    return Placed_Logo{.file = session.logo_file, .left = place.left, .top = place.top};
+}
+
+Picture_Format Format_For(std::string_view path) {
+    const std::string name = Lower_Copy(path);
+    for (const Ending& ending : endings) {
+        if (name.ends_with(ending.text)) {
+            return ending.format;
+        }
+    }
+    return Picture_Format::Bmp;
+}
+
+void Write_Graph(Session& session, const std::string& path) {
+    if (session.painter == nullptr) {
+        Fail(error::invalid_picture);
+    }
+    Write_Whole_File(path, session.painter->Picture_Of(session.graph.canvas, Format_For(path),
+                                                       Shown_Logo(session)));
+}
+
+void Save_Graph(Session& session) {
+    constexpr std::string_view filter = "All Files (*.*)|*.*|Graphics Files (*.bmp)|*.bmp";
+    constexpr int bitmaps = 2;
+    try {
+        Write_Graph(session, Chosen_File(session, Chooser_Mode::Save, filter, bitmaps));
+    } catch (const Run_Time_Error&) {
+        session.Message("Graph has Not been Saved", Box_Icon::Exclamation);
+    }
+}
+
+} // namespace kestrum

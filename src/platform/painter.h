@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/drawing.h"
+
+#include <optional>
+#include <string>
+
+namespace kestrum {
+
+enum class Picture_Format { Bmp, Png, Svg, Pdf };
+
+/// A picture file that lies over a drawing, with its left and top in the drawing's units.
+struct Placed_Logo {
+    std::string file;
+    double left = 0;
+    double top = 0;
+};
+
+/// Turns drawings into picture files. A face brings it along where it can paint.
+struct Painter {
+    Painter() = default;
+    Painter(const Painter&) = delete;
+    Painter& operator=(const Painter&) = delete;
+    virtual ~Painter() = default;
+
+    /// The bytes of a picture file of a drawing of the graph's canvas. Raises 481 for a logo that
+    /// cannot be shown and 75 for a picture that cannot be made.
+    [[nodiscard]] virtual std::string Picture_Of(const Drawing& drawing, Picture_Format format,
+                                                 const std::optional<Placed_Logo>& logo) = 0;
+};
+
+} // namespace kestrum
