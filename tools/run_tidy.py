@@ -45,7 +45,7 @@ def main():
     commands = {os.path.relpath(entry["file"], ROOT): entry["command"]
                 for entry in json.loads((BUILD / "compile_commands.json").read_text())}
     commands = {path: command for path, command in commands.items()
-                if path in tree and path.startswith(("src/", "cli/", "desktop/"))}
+                if path in tree and path.startswith(("src/", "painting/", "cli/", "desktop/"))}
     if not commands:
         sys.exit("run_tidy.py: there is nothing to look at")
     version = subprocess.run(["clang-tidy", "--version"], capture_output=True, text=True, check=True)
