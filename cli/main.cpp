@@ -1,5 +1,7 @@
 #include "application/version.h"
 #include "cli/calc_run.h"
+#include "cli/graph_painter.h"
+#include "cli/graph_run.h"
 #include "cli/script_error.h"
 #include "cli/script_options.h"
 #include "cli/script_runner.h"
@@ -16,7 +18,7 @@ using namespace kestrum::cli;
 
 int Run_Script(std::span<const char* const> arguments) {
     const Script_Options options = Options_From(arguments);
-    Script_Runner runner(options.surroundings, std::cout, options.rescue);
+    Script_Runner runner(options.surroundings, std::cout, options.rescue, options.printers);
     if (options.file == "-") {
         return runner.Run(std::cin);
     }
@@ -35,12 +37,21 @@ int Run_Verb(std::span<const char* const> arguments) {
     if (verb == "calc") {
         return Run_Calc(Calc_Options_From(arguments.subspan(1)), std::cin, std::cout, std::cerr);
     }
+    if (verb == "compare") {
+        return Run_Compare(Compare_Options_From(arguments.subspan(1)), std::cout, std::cerr);
+    }
+    if (verb == "graph") {
+        Late_Painter painter;
+        return Run_Graph(Graph_Options_From(arguments.subspan(1)), painter, std::cerr);
+    }
     if (verb == "--version") {
         std::cout << "kestrum-cli " << kestrum::Program_Version() << '\n';
         return 0;
     }
     throw Script_Error("usage: kestrum-cli script [OPTIONS] FILE\n"
                        "       kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
+                       "       kestrum-cli compare FROM.dat TO.dat --type 0..17 [--csv]\n"
+                       "       kestrum-cli graph FROM.dat TO.dat --type 0..17 -o FILE.png\n"
                        "       kestrum-cli --version");
 }
 

@@ -72,6 +72,17 @@ void Check_Moment(std::string_view text) {
     }
 }
 
+/// Names between commas.
+std::vector<std::string> Printers_From(std::string_view text) {
+    std::vector<std::string> names;
+    while (!text.empty()) {
+        const std::string_view name = text.substr(0, text.find(','));
+        names.emplace_back(name);
+        text.remove_prefix(std::min(name.size() + 1, text.size()));
+    }
+    return names;
+}
+
 void Take_Option(Script_Options& options, std::string_view name, std::string_view value) {
     if (name == "--folder") {
         options.surroundings.folder = Program_Folder(value);
@@ -86,7 +97,9 @@ void Take_Option(Script_Options& options, std::string_view name, std::string_vie
         options.surroundings.command_line = value;
     } else if (name == "--now") {
         Check_Moment(value);
-    } else if (name != "--printers" && name != "--locale") {
+    } else if (name == "--printers") {
+        options.printers = Printers_From(value);
+    } else if (name != "--locale") {
         throw Script_Error("unknown option " + Quoted(name));
     }
 }

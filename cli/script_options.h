@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 namespace kestrum::cli {
 
@@ -12,6 +13,8 @@ struct Script_Options {
     Surroundings surroundings;
     /// Whether rescue copies are kept and offered, as on the desktop.
     bool rescue = false;
+    /// The system's printers, the default one first.
+    std::vector<std::string> printers{"Headless Printer"};
     /// The script; "-" reads standard input.
     std::string file;
 };

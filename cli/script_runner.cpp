@@ -73,6 +73,14 @@ std::string Name_In_File(const Control& control) {
     return address.substr(address.find('.') + 1);
 }
 
+Event Operation_Events(const std::vector<Draw_Operation>& operations) {
+    Event events = Event::array();
+    for (const Draw_Operation& operation : operations) {
+        events.push_back(Operation_Event(operation));
+    }
+    return events;
+}
+
 } // namespace
 
 /// A line taken apart: the command, the address behind it, and what follows that.
@@ -88,11 +96,13 @@ struct Script_Runner::Command {
     void (Script_Runner::*run)(const Words& words);
 };
 
-Script_Runner::Script_Runner(Surroundings surroundings, std::ostream& out, bool keeps_rescue)
+Script_Runner::Script_Runner(Surroundings surroundings, std::ostream& out, bool keeps_rescue,
+                             std::vector<std::string> printers)
     : surroundings_(std::move(surroundings)),
       printer_(out),
       dialogs_(printer_),
       windows_(printer_),
+      printers_(std::move(printers)),
       keeps_rescue_(keeps_rescue) {}
 
 Script_Runner::~Script_Runner() = default;
@@ -102,6 +112,8 @@ void Script_Runner::Start(const std::string& command_line) {
     facts.command_line = command_line;
     rescue_.reset();
     session_ = std::make_unique<Session>(dialogs_, windows_, std::move(facts));
+    session_->painter = &painter_;
+    session_->printers = &printers_;
     session_->graph.canvas.Keep_Journal();
     Start_Up(*session_);
     if (keeps_rescue_) {
@@ -346,15 +358,19 @@ void Script_Runner::Dump(const Words& words) {
 }
 
 void Script_Runner::Canvas(const Words& /*words*/) {
-    Event operations = Event::array();
-    for (const Draw_Operation& operation : session_->graph.canvas.Take_Journal()) {
-        operations.push_back(Operation_Event(operation));
-    }
-    printer_.Print({{"canvas", std::move(operations)}});
+    printer_.Print({{"canvas", Operation_Events(session_->graph.canvas.Take_Journal())}});
 }
 
 void Script_Runner::Printer(const Words& /*words*/) {
-    printer_.Print({{"printer", Event::array()}});
+    Event documents = Event::array();
+    for (const Printed_Document& document : printers_.Take_Documents()) {
+        Event pages = Event::array();
+        for (const std::vector<Draw_Operation>& page : document.pages) {
+            pages.push_back(Operation_Events(page));
+        }
+        documents.push_back({{"device", document.device}, {"pages", std::move(pages)}});
+    }
+    printer_.Print({{"printer", std::move(documents)}});
 }
 
 void Script_Runner::Exit(const Words& /*words*/) {

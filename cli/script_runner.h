@@ -1,7 +1,9 @@
 #pragma once
 
 #include "cli/event_printer.h"
+#include "cli/graph_painter.h"
 #include "cli/headless_dialogs.h"
+#include "cli/headless_printers.h"
 #include "cli/headless_windows.h"
 #include "core/session.h"
 #include "files/rescue.h"
@@ -11,6 +13,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kestrum::cli {
 
@@ -19,7 +22,8 @@ namespace kestrum::cli {
 class Script_Runner {
 public:
     /// `out` takes one JSON object a line.
-    Script_Runner(Surroundings surroundings, std::ostream& out, bool keeps_rescue = false);
+    Script_Runner(Surroundings surroundings, std::ostream& out, bool keeps_rescue = false,
+                  std::vector<std::string> printers = {"Headless Printer"});
     ~Script_Runner();
 
     /// Runs to the end of the script. Gives the exit status: 0, or 1 when a failure that no
@@ -68,6 +72,8 @@ private:
     Event_Printer printer_;
     Headless_Dialogs dialogs_;
     Headless_Windows windows_;
+    Headless_Printers printers_;
+    Late_Painter painter_;
     std::unique_ptr<Session> session_;
     bool keeps_rescue_;
     std::unique_ptr<Rescue> rescue_;
