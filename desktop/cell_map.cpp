@@ -144,6 +144,9 @@ QString Cell_Map::Words_For(const Control& field) const {
 
 bool Cell_Map::Heads_Column(const Control& caption) const {
     const Place place = Place_Of(caption);
+    if (place.columns > 1) {
+        return false; // a line of its own
+    }
     int right = place.column;
     while (Is_Caption(right + 1, place.row)) {
         ++right;

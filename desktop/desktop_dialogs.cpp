@@ -4,6 +4,7 @@
 #include "desktop/text_bridge.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -105,6 +106,16 @@ std::optional<std::string> Desktop_Dialogs::Choose_File(const Chooser& chooser) 
         return std::nullopt;
     }
     return From_Qt(dialog.selectedFiles().constFirst());
+}
+
+std::optional<int> Desktop_Dialogs::Choose_Colour() {
+    const QColor colour = QColorDialog::getColor(Qt::black, QApplication::activeWindow(), QString(),
+                                                 QColorDialog::DontUseNativeDialog);
+    if (!colour.isValid()) {
+        return std::nullopt;
+    }
+    constexpr int byte = 256; // the system counts blue, green, red
+    return (colour.blue() * byte + colour.green()) * byte + colour.red();
 }
 
 void Desktop_Dialogs::Beep() {

@@ -14,6 +14,7 @@ public:
 
     Box_Answer Show_Box(const Box& box) override;
     std::optional<std::string> Choose_File(const Chooser& chooser) override;
+    std::optional<int> Choose_Colour() override;
     void Beep() override;
 
 private:

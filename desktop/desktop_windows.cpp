@@ -40,6 +40,9 @@ void Desktop_Windows::Hide(Screen& screen) {
 }
 
 void Desktop_Windows::Unload(Screen& screen) {
+    if (on_unload) {
+        on_unload();
+    }
     const auto found = windows_.find(&screen);
     if (found != windows_.end()) {
         found->second->Let_Go();

@@ -33,6 +33,8 @@ public:
 
     /// Runs when `Main` has gone.
     std::function<void()> on_end;
+    /// Runs before a screen's texts go.
+    std::function<void()> on_unload;
     /// Runs when a window has been made.
     std::function<void(Screen_Window&, const Screen&)> on_new_window;
 

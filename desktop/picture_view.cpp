@@ -1,33 +1,97 @@
 #include "desktop/picture_view.h"
 
+#include "painting/picture_area.h"
+#include "platform/run_time_error.h"
+
 #include <QPainter>
 
 #include <algorithm>
 
 namespace kestrum::desktop {
 
+namespace area = painting::picture_area;
+
 Picture_View::Picture_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
+    setMouseTracking(true);
+    setCursor(Qt::CrossCursor);
     Refresh();
 }
 
 void Picture_View::Refresh() {
     Show_Common_State(*this, control);
+    Load_Logo_Anew();
     update();
+}
+
+/// A file that cannot be shown by now is passed over: the session has told of it where it must.
+void Picture_View::Load_Logo_Anew() {
+    const std::optional<Placed_Logo> placed = facts.events.Logo();
+    if (!placed) {
+        logo_.reset();
+        logo_file_.clear();
+        return;
+    }
+    if (placed->file != logo_file_) {
+        logo_file_ = placed->file;
+        try {
+            logo_ = painting::Load_Logo(*placed);
+        } catch (const Run_Time_Error&) {
+            logo_.reset();
+        }
+    }
+    if (logo_) {
+        logo_->left = placed->left;
+        logo_->top = placed->top;
+    }
 }
 
 QRect Picture_View::Area_In(const QRect& cell) const {
     // As many units wide as high.
-    const int side = std::min(cell.width(), cell.height());
-    return {cell.left() + (cell.width() - side) / 2, cell.top() + (cell.height() - side) / 2, side,
-            side};
+    const double scale = std::min(static_cast<double>(cell.width()) / area::width,
+                                  static_cast<double>(cell.height()) / area::height);
+    const QSize size(static_cast<int>(area::width * scale), static_cast<int>(area::height * scale));
+    return {cell.topLeft() + QPoint((cell.width() - size.width()) / 2, 0), size};
 }
 
 void Picture_View::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    painting::Paint_Picture(facts.events.Canvas(), logo_, painter, QRectF(rect()));
     painter.setPen(QColor::fromRgb(theme::card_line));
-    painter.setBrush(QColor::fromRgb(theme::card));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+QPointF Picture_View::On_Canvas(const QPointF& place) const {
+    const double scale = static_cast<double>(area::width) / std::max(width(), 1);
+    return {place.x() * scale + area::left, place.y() * scale + area::top};
+}
+
+void Picture_View::Tell(Mouse_Action action, const QPointF& place) {
+    QPointF at = On_Canvas(place);
+    if (on_logo_ && logo_) {
+        at -= QPointF(logo_->left, logo_->top);
+    }
+    facts.events.Mouse_On(control, on_logo_, action, at.x(), at.y());
+}
+
+void Picture_View::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        const QPointF at = On_Canvas(event->position());
+        on_logo_ = logo_ && QRectF(QPointF(logo_->left, logo_->top), QSizeF(logo_->image.size()))
+                                .contains(at);
+        Tell(Mouse_Action::Down, event->position());
+    }
+}
+
+void Picture_View::mouseMoveEvent(QMouseEvent* event) {
+    Tell(Mouse_Action::Move, event->position());
+}
+
+void Picture_View::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        Tell(Mouse_Action::Up, event->position());
+        on_logo_ = false;
+    }
 }
 
 } // namespace kestrum::desktop

@@ -1,10 +1,14 @@
 #pragma once
 
 #include "desktop/control_view.h"
+#include "painting/replay.h"
+
+#include <optional>
+#include <string>
 
 namespace kestrum::desktop {
 
-/// The canvas of the graph and the place of the logo.
+/// The canvas of the graph with the logo that lies over it.
 class Picture_View : public Widget_View<QWidget> {
 public:
     Picture_View(Control& its_control, const View_Facts& its_facts, QWidget* parent);
@@ -14,6 +18,18 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    [[nodiscard]] QPointF On_Canvas(const QPointF& place) const;
+    void Tell(Mouse_Action action, const QPointF& place);
+    void Load_Logo_Anew();
+
+    std::optional<painting::Logo_Picture> logo_;
+    std::string logo_file_;
+    bool on_logo_ = false;
 };
 
 } // namespace kestrum::desktop

@@ -10,11 +10,16 @@ Program::Program(Dialogs& dialogs, const Surroundings& surroundings)
     : gate_(dialogs), session_(dialogs, windows_, surroundings), windows_(gate_) {
     windows_.Take_Session(session_);
     windows_.on_end = [this] { End(); };
-    gate_.Set_Last_Act([this] {
+    session_.painter = &painter_;
+    const auto keep = [this] {
         if (rescue_) {
             rescue_->Keep();
         }
-    });
+    };
+    gate_.Set_Last_Act(keep);
+    windows_.on_unload = keep;
+    // Not through the gate: a box may hold a routine for minutes.
+    QObject::connect(&rescue_clock_, &QTimer::timeout, &rescue_clock_, keep);
     gate_.Set_Follow_Up([this] { windows_.Refresh(); });
 }
 
@@ -23,13 +28,10 @@ bool Program::Start() {
 }
 
 void Program::Keep_Rescue_Copies() {
-    constexpr int seconds = 15;
-    const auto keep = [this] { rescue_->Keep(); };
+    constexpr int milliseconds = 1000;
     rescue_ = std::make_unique<Rescue>(session_);
     gate_.Enter([this] { rescue_->Offer(); });
-    QObject::connect(&rescue_clock_, &QTimer::timeout, &rescue_clock_,
-                     [this, keep] { gate_.Enter(keep); });
-    rescue_clock_.start(seconds * 1000);
+    rescue_clock_.start(milliseconds);
 }
 
 void Program::End() {

@@ -4,6 +4,7 @@
 #include "desktop/desktop_windows.h"
 #include "desktop/gate.h"
 #include "files/rescue.h"
+#include "painting/qt_painter.h"
 
 #include <QTimer>
 
@@ -36,6 +37,7 @@ private:
     Session session_;
     std::unique_ptr<Rescue> rescue_;
     QTimer rescue_clock_;
+    painting::Qt_Painter painter_;
     Desktop_Windows windows_; // goes first, since its windows show the session
 };
 

@@ -343,6 +343,21 @@ void Screen_Window::Mouse_Down(bool down) {
     session_.mouse_down = down;
 }
 
+void Screen_Window::Mouse_On(Control& picture, bool on_logo, Mouse_Action action, double x,
+                             double y) {
+    gate_.Enter([&] {
+        Mouse_On_Picture(session_, on_logo ? session_.Form60().Picture2 : picture, action, x, y);
+    });
+}
+
+const Drawing& Screen_Window::Canvas() {
+    return session_.graph.canvas;
+}
+
+std::optional<Placed_Logo> Screen_Window::Logo() {
+    return Shown_Logo(session_);
+}
+
 void Screen_Window::Hovered(Control& control) {
     if (screen_ == nullptr) {
         return;

@@ -24,6 +24,8 @@ inline constexpr QRgb accent_hover = 0xFF1E7F80;
 inline constexpr QRgb accent_soft = 0xFFD7EAEA;
 inline constexpr QRgb marker = 0xFF2E9E4F;
 inline constexpr QRgb information = 0xFF5B8DEF;
+inline constexpr QRgb warning = 0xFFC77A16;
+inline constexpr QRgb failure = 0xFFB3352F;
 
 /// What a cell is painted with.
 struct Cell_Colours {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QPixmap>
 #include <QPolygonF>
 #include <QStyleOption>
 
@@ -68,6 +69,29 @@ void Paint_Option(QPainter& painter, const Indicator& indicator) {
     }
 }
 
+/// The sign of a message box: a letter on a disc.
+QIcon Sign(QRgb colour, QChar letter) {
+    QIcon icon;
+    for (const int size : {32, 64, 96}) {
+        QPixmap picture(size, size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor::fromRgb(colour));
+        painter.drawEllipse(picture.rect().adjusted(1, 1, -1, -1));
+        QFont bold = theme::Text_Font();
+        bold.setBold(true);
+        bold.setPixelSize(size * 5 / 8);
+        painter.setFont(bold);
+        painter.setPen(QColor::fromRgb(theme::card));
+        painter.drawText(picture.rect(), Qt::AlignCenter, letter);
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 } // namespace
 
 Theme_Style::Theme_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -102,8 +126,29 @@ int Theme_Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
 
 int Theme_Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* details) const {
-    // The embossed letters of disabled entries read badly.
-    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, details);
+    switch (hint) {
+    case SH_EtchDisabledText:                 // embossed letters read badly
+    case SH_DialogButtonBox_ButtonsHaveIcons: // our other buttons have none
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, details);
+    }
+}
+
+QIcon Theme_Style::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                                const QWidget* widget) const {
+    switch (picture) {
+    case SP_MessageBoxInformation:
+        return Sign(theme::accent, QLatin1Char('i'));
+    case SP_MessageBoxQuestion:
+        return Sign(theme::accent, QLatin1Char('?'));
+    case SP_MessageBoxWarning:
+        return Sign(theme::warning, QLatin1Char('!'));
+    case SP_MessageBoxCritical:
+        return Sign(theme::failure, QLatin1Char('!'));
+    default:
+        return QProxyStyle::standardIcon(picture, option, widget);
+    }
 }
 
 void Apply_Theme() {

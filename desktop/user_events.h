@@ -1,11 +1,15 @@
 #pragma once
 
 #include "core/field_handlers.h"
+#include "output/graph_mouse.h"
+#include "platform/drawing.h"
+#include "platform/painter.h"
 #include "screens/control.h"
 
 #include <QFont>
 #include <QString>
 
+#include <optional>
 #include <string>
 
 namespace kestrum::desktop {
@@ -30,6 +34,13 @@ struct User_Events {
     virtual void Focus_Came(Control_View& view, Qt::FocusReason reason) = 0;
     virtual void Focus_Went() = 0;
     virtual void Mouse_Down(bool down) = 0;
+    /// The mouse on a picture, or on the logo that lies over it, in the picture's own units; the
+    /// place on a logo counts from its corner.
+    virtual void Mouse_On(Control& picture, bool on_logo, Mouse_Action action, double x,
+                          double y) = 0;
+    /// What stands on the graph's canvas, and the logo over it.
+    virtual const Drawing& Canvas() = 0;
+    virtual std::optional<Placed_Logo> Logo() = 0;
     virtual void Hovered(Control& control) = 0;
     virtual void Hovered_Form() = 0;
     /// The focus wants to the next field in a direction.
