@@ -1,0 +1,168 @@
+// What a whole graph costs beside the bare exponentials that its four curves ask for, and what
+// painting it costs. The ratio holds on every machine.
+
+#include "application/events.h"
+#include "graph/graph_set_up.h"
+#include "sheet/flow_calculation.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+#ifdef KESTRUM_PAINTS
+#include "painting/png_writer.h"
+#include "painting/replay.h"
+
+#include <QGuiApplication>
+#endif
+
+namespace kestrum {
+
+namespace {
+
+// A fit through 15 points is sampled 1498 times, each with four hyperbolic sines for X and Y and
+// two exponentials in each sine.
+constexpr int curves = 4;
+constexpr int samples = 1498;
+constexpr int exponentials = 8;
+
+class Silent_Platform : public Dialogs, public Windows {
+public:
+    Box_Answer Show_Box(const Box& /*box*/) override { return Box_Answer::Ok; }
+
+    std::optional<std::string> Choose_File(const Chooser& /*chooser*/) override {
+        return std::nullopt;
+    }
+
+    void Beep() override {}
+
+    void Show(Screen& /*screen*/) override {}
+
+    void Hide(Screen& /*screen*/) override {}
+
+    void Unload(Screen& /*screen*/) override {}
+
+    void Focus(Control& /*control*/) override {}
+};
+
+/// Two tests of 14 lifts and the zero lift, as they are stored.
+struct Bench {
+    Bench() {
+        for (const int number : {1, 2}) {
+            Calc_Flow_Test(session, session.Sheet(number));
+        }
+        Draw();
+    }
+
+    void Draw() {
+        Draw_Fresh_Graph(session);
+        static_cast<void>(session.Form50().Take_Changes());
+        static_cast<void>(session.Form60().Take_Changes());
+    }
+
+    Silent_Platform platform;
+    Session session{platform, platform, {}};
+};
+
+void Take_Exponentials() {
+    for (int at = 0; at < curves * samples; ++at) {
+        // The arguments that a sample has: the tension times what is left and right of it.
+        const double before = 50.0 / 14 * (at % 107) / 107;
+        for (int call = 0; call < exponentials / 2; ++call) {
+            benchmark::DoNotOptimize(std::exp(before));
+            benchmark::DoNotOptimize(std::exp(-before));
+        }
+    }
+}
+
+void Bare_Exponentials(benchmark::State& state) {
+    for (auto _ : state) {
+        Take_Exponentials();
+    }
+}
+
+void Whole_Graph(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state) {
+        bench.Draw();
+    }
+    state.counters["steps"] = static_cast<double>(bench.session.graph.canvas.Operations().size());
+}
+
+template <typename Routine>
+double Seconds_Of(Routine routine) {
+    const auto begin = std::chrono::steady_clock::now();
+    routine();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+/// The fastest of each, taken in turn: what another program takes from them is no cost of ours.
+void Graph_To_Exponentials(benchmark::State& state) {
+    constexpr double wanted = 1.5;
+    Bench bench;
+    double graph = 1;
+    double bare = 1;
+    for (auto _ : state) {
+        graph = std::min(graph, Seconds_Of([&] { bench.Draw(); }));
+        bare = std::min(bare, Seconds_Of(Take_Exponentials));
+    }
+    state.counters["ratio"] = graph / bare;
+    state.counters["wanted"] = wanted;
+}
+
+BENCHMARK(Bare_Exponentials)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Whole_Graph)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Graph_To_Exponentials)->Unit(benchmark::kMicrosecond);
+
+#ifdef KESTRUM_PAINTS
+
+/// Into a window of 600 by 600 dots; wanted is less than a frame of 16 ms.
+void Replay_Graph(benchmark::State& state) {
+    constexpr int size = 600;
+    Bench bench;
+    QImage image(size, size, QImage::Format_RGB32);
+    for (auto _ : state) {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painting::Replay(bench.session.graph.canvas, painter);
+    }
+}
+
+void Pack_Png(benchmark::State& state) {
+    constexpr int size = 1200;
+    Bench bench;
+    QImage image(size, size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(2, 2);
+    painting::Replay(bench.session.graph.canvas, painter);
+    painter.end();
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        bytes = painting::Png_Bytes(image).size();
+    }
+    state.counters["bytes"] = static_cast<double>(bytes);
+}
+
+BENCHMARK(Replay_Graph)->Unit(benchmark::kMillisecond);
+BENCHMARK(Pack_Png)->Unit(benchmark::kMillisecond);
+
+#endif
+
+} // namespace
+
+} // namespace kestrum
+
+int main(int count, char* values[]) {
+#ifdef KESTRUM_PAINTS
+    qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
+    const QGuiApplication application(count, values);
+#endif
+    benchmark::Initialize(&count, values);
+    if (benchmark::ReportUnrecognizedArguments(count, values)) {
+        return 1;
+    }
+    benchmark::RunSpecifiedBenchmarks();
+}
