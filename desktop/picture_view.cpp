@@ -77,8 +77,9 @@ void Picture_View::Tell(Mouse_Action action, const QPointF& place) {
 void Picture_View::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
         const QPointF at = On_Canvas(event->position());
-        on_logo_ = logo_ && QRectF(QPointF(logo_->left, logo_->top), QSizeF(logo_->image.size()))
-                                .contains(at);
+        on_logo_ =
+            logo_ &&
+            QRectF(QPointF(logo_->left, logo_->top), QSizeF(logo_->image.size())).contains(at);
         Tell(Mouse_Action::Down, event->position());
     }
 }

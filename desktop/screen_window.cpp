@@ -6,6 +6,7 @@
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
 #include "desktop/text_bridge.h"
+#include "output/graph_saving.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>

@@ -53,8 +53,7 @@ private:
     void Focus_Came(Control_View& view, Qt::FocusReason reason) override;
     void Focus_Went() override;
     void Mouse_Down(bool down) override;
-    void Mouse_On(Control& picture, bool on_logo, Mouse_Action action, double x,
-                  double y) override;
+    void Mouse_On(Control& picture, bool on_logo, Mouse_Action action, double x, double y) override;
     const Drawing& Canvas() override;
     std::optional<Placed_Logo> Logo() override;
     void Hovered(Control& control) override;

@@ -157,6 +157,7 @@ void Draw_Graph(Session& session) {
     }
     Draw_Curves(canvas);
     Draw_Markers(canvas);
+    session.Form60().Picture1.Repaint();
 }
 
 void Draw_Zero_Line(Session& session) {

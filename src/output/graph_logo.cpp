@@ -17,6 +17,7 @@ void Take_Logo_Off(Session& session) {
     screen.Logo.Set_Text("Logo -- Is OFF");
     session.logo_on = 0;
     session.logo_file.clear();
+    screen.Picture1.Repaint();
 }
 
 void Put_Logo_On(Session& session, const std::string& path) {
@@ -25,6 +26,7 @@ void Put_Logo_On(Session& session, const std::string& path) {
     screen.Logo.Set_Text("Logo -- Is ON");
     session.logo_on = 1;
     session.logo_file = path;
+    screen.Picture1.Repaint();
 }
 
 } // namespace

@@ -26,6 +26,7 @@ void Draw_To(Session& session, const Curve_Point& at) {
     graph.canvas.Line(graph.pen_at.x, graph.pen_at.y, at.x, at.y,
                       Swapped_Colour(session.draw_line_color), session.draw_line_width);
     graph.pen_at = at;
+    session.Form60().Picture1.Repaint();
 }
 
 } // namespace
@@ -57,6 +58,7 @@ void Move_Logo(Session& session, Mouse_Action action, const Position& place) {
     Graph_State& graph = session.graph;
     if (action == Mouse_Action::Move && graph.logo_moving) {
         session.Form60().Picture2.Move_To(place);
+        session.Form60().Picture1.Repaint(); // the logo lies over it
     }
     if (action != Mouse_Action::Move) {
         graph.logo_moving = action == Mouse_Action::Down;

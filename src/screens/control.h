@@ -90,6 +90,9 @@ public:
 
     void Move_To(const Position& position);
 
+    /// What a picture shows has changed.
+    void Repaint() { Mark_Changed(); }
+
     /// Entries of a combo box.
     [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
 

@@ -10,7 +10,7 @@ using enum Control_Kind;
 
 constexpr auto graph_table = std::to_array<Control_Entry>({
     Lone(Picture, "Picture1", "").Coloured(0xFFFFFF).At(0, 0, 10, 28),
-    Lone(Picture, "Picture2", "").Hidden().At(10, 22, 4, 6),
+    Lone(Picture, "Picture2", "").Hidden(), // lies over the canvas
     Lone(Label, "Label2", "Mouse Position on Graph").At(10, 0, 4),
     Lone(Label, "Label4", "<--- ").At(12, 1),
     Lone(Label, "Label8", "").At(10, 2, 4),
