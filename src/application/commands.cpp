@@ -15,6 +15,7 @@
 #include "output/graph_saving.h"
 #include "output/screen_printing.h"
 #include "presentation/alignment.h"
+#include "presentation/graph_options.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
 #include "sheet/flow_sort.h"
@@ -79,11 +80,11 @@ void Rpm_Mode(Session& session, Control& /*control*/) {
     Apply_Rpm_Mode(session);
 }
 
-template <int Mode>
+template <int mode>
 void Align(Session& session, Control& /*control*/) {
-    session.number.align_mode = Mode;
+    session.number.align_mode = mode;
     Apply_Alignment(session);
-    if (Mode == static_cast<int>(Alignment::Right)) {
+    if (mode == static_cast<int>(Alignment::Right)) {
         // The fixed decimals of this mode change the texts.
         for (int number = 1; number <= sheet_count; ++number) {
             Calc_Flow_Test(session, session.Sheet(number));
@@ -110,6 +111,23 @@ void Load_Engine(Session& session, Control& /*control*/) {
 void Save_Engine(Session& session, Control& /*control*/) {
     session.file_path.clear();
     Save_Main_File(session);
+}
+
+void Graph_Font_Colour(Session& session, Control& /*control*/) {
+    Choose_Graph_Font_Colour(session);
+}
+
+void Grid_Colour(Session& session, Control& /*control*/) {
+    Choose_Grid_Colour(session);
+}
+
+template <int style>
+void Grid_Style(Session& session, Control& /*control*/) {
+    Set_Grid_Style(session, style);
+}
+
+void No_Grid(Session& session, Control& /*control*/) {
+    Switch_Grid_Off(session);
 }
 
 void Show_Preloads(Session& session, Control& /*control*/) {
@@ -169,6 +187,12 @@ constexpr auto main_commands = std::to_array<Command>({
     {"AligRight", Align<1>},
     {"MouseP", Plain_Pointer},
     {"AspectRatio", Free_Aspect},
+    {"FontColor", Graph_Font_Colour},
+    {"Grid_Color", Grid_Colour},
+    {"Grid_Long", Grid_Style<0>},
+    {"Grid_Dash", Grid_Style<1>},
+    {"Grid_Dot", Grid_Style<2>},
+    {"Grid_None", No_Grid},
     {"Preload", Show_Preloads},
     {"Command45", Choose_Preload_File},
     {"Command46", Load_And_Hide_Preloads},
@@ -246,9 +270,9 @@ void Add_To_Graph(Session& session, Control& /*control*/) {
 }
 
 /// The four boxes are copied on every click.
-template <int Session::*Switch>
+template <int Session::*variable>
 void Copy_Switch(Session& session, Control& control) {
-    session.*Switch = control.Value();
+    session.*variable = control.Value();
 }
 
 void Switch_Logo(Session& session, Control& /*control*/) {
@@ -256,7 +280,9 @@ void Switch_Logo(Session& session, Control& /*control*/) {
 }
 
 void Pick_Line_Colour(Session& session, Control& /*control*/) {
-    Choose_Line_Colour(session);
+    if (const auto colour = Get_Color(session)) {
+        session.draw_line_color = *colour;
+    }
 }
 
 void Pick_Line_Width(Session& session, Control& control) {
