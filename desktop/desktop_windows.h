@@ -25,6 +25,8 @@ public:
     void Unload(Screen& screen) override;
     void Focus(Control& control) override;
 
+    void Show_Changes() override { Refresh(); }
+
     /// Shows what an event has changed.
     void Refresh();
 

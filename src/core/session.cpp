@@ -171,6 +171,7 @@ void Session::Unload(Screen& screen) {
 
 Box_Answer Session::Message(const Box& box) {
     mouse_down = false;
+    windows.Show_Changes();
     const Box_Answer answer = dialogs.Show_Box(box);
     box_answer = Answer_Number(answer);
     return answer;

@@ -20,6 +20,9 @@ struct Windows {
     /// The screen is about to be destroyed with all its controls.
     virtual void Unload(Screen& screen) = 0;
     virtual void Focus(Control& control) = 0;
+
+    /// A box is about to hold a routine: what it has changed so far should show behind the box.
+    virtual void Show_Changes() {}
 };
 
 } // namespace kestrum
