@@ -35,7 +35,7 @@ void Show_Value(Button& button, const Control& control) {
 Button_View::Button_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent), is_primary_(Is_Primary(its_control)) {
     setAttribute(Qt::WA_Hover);
-    Refresh();
+    Button_View::Refresh();
     connect(this, &QAbstractButton::clicked, this, [this] { facts.events.Clicked(control); });
 }
 
@@ -112,7 +112,7 @@ void Button_View::paintEvent(QPaintEvent* /*event*/) {
 
 Check_View::Check_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
-    Refresh();
+    Check_View::Refresh();
     connect(this, &QCheckBox::clicked, this, [this] { facts.events.Clicked(control); });
 }
 
@@ -126,7 +126,7 @@ QRect Check_View::Area_In(const QRect& cell) const {
 
 Option_View::Option_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
-    Refresh();
+    Option_View::Refresh();
     connect(this, &QRadioButton::clicked, this, [this] { facts.events.Clicked(control); });
 }
 
@@ -140,7 +140,7 @@ QRect Option_View::Area_In(const QRect& cell) const {
 
 Combo_View::Combo_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
-    Refresh();
+    Combo_View::Refresh();
     connect(this, &QComboBox::activated, this,
             [this](int item) { facts.events.Picked(control, From_Qt(itemText(item))); });
 }

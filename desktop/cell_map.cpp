@@ -60,16 +60,21 @@ Cell_Map::Cell_Map(const Screen& screen, std::string_view holder) {
     for (const Control& control : screen.Controls()) {
         if (belongs(control) && control.Entry().use != Cell_Use::Blank) {
             const Place place = Place_Of(control);
-            cells_[static_cast<std::size_t>(place.row * columns_ + place.column)] = &control;
+            cells_[Slot_Of(place.column, place.row)] = &control;
         }
     }
+}
+
+std::size_t Cell_Map::Slot_Of(int column, int row) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+           static_cast<std::size_t>(column);
 }
 
 const Control* Cell_Map::At(int column, int row) const {
     if (column < 0 || row < 0 || column >= columns_ || row >= rows_) {
         return nullptr;
     }
-    return cells_[static_cast<std::size_t>(row * columns_ + column)];
+    return cells_[Slot_Of(column, row)];
 }
 
 bool Cell_Map::Is_Caption(int column, int row) const {

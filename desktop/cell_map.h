@@ -31,6 +31,7 @@ public:
     [[nodiscard]] bool Has_Cell(int column, int row) const { return At(column, row) != nullptr; }
 
 private:
+    [[nodiscard]] std::size_t Slot_Of(int column, int row) const;
     /// Null outside of the map and for a blank cell.
     [[nodiscard]] const Control* At(int column, int row) const;
     [[nodiscard]] bool Is_Caption(int column, int row) const;

@@ -53,8 +53,8 @@ Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWid
     : Widget_View(its_control, its_facts, parent) {
     setFrame(false);
     setTextMargins(theme::text_padding - 2, 0, 0, 0);
-    Take_Words(facts.words);
-    Refresh();
+    Entry_Field::Take_Words(facts.words);
+    Entry_Field::Refresh();
     connect(this, &QLineEdit::textChanged, this, &Entry_Field::Take_Typed);
 }
 
@@ -255,7 +255,7 @@ void Entry_Field::Insert_Filtered(const QString& text) {
 void Entry_Field::focusInEvent(QFocusEvent* event) {
     // The base would select the text by a rule of its own when the Tab key brings the focus.
     QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
-    QLineEdit::focusInEvent(&plain);
+    QLineEdit::focusInEvent(&plain); // NOLINT(bugprone-parent-virtual-call)
     facts.events.Focus_Came(*this, event->reason());
     update();
 }

@@ -37,7 +37,7 @@ Frame_View::Frame_View(const Page_Context& context, Control& its_control,
       floats_(its_control.Entry().starts_hidden) {
     setMouseTracking(true);
     setAccessibleName(To_Qt(its_control.Text()));
-    Refresh();
+    Frame_View::Refresh();
 }
 
 void Frame_View::Refresh() {

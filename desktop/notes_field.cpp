@@ -19,8 +19,8 @@ Notes_Field::Notes_Field(Control& its_control, const View_Facts& its_facts, QWid
     : Widget_View(its_control, its_facts, parent) {
     setTabChangesFocus(true);
     document()->setDocumentMargin(theme::text_padding);
-    Take_Words(facts.words);
-    Refresh();
+    Notes_Field::Take_Words(facts.words);
+    Notes_Field::Refresh();
     connect(this, &QPlainTextEdit::textChanged, this, &Notes_Field::Take_Typed);
 }
 

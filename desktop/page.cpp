@@ -87,16 +87,16 @@ void Page::Add_View(Control& control) {
         return;
     }
     const Place place = Place_Of(control);
-    Control_View* const view = kestrum::desktop::Make_View(control, Facts_Of(control), this,
-                                                           map_.Has_Cell(place.column, place.row));
-    if (dynamic_cast<const Text_View*>(view) == nullptr) {
-        Give_Description(*view->Widget()); // light cells tell it when they are asked
+    Control_View& view =
+        Make_View(control, Facts_Of(control), this, map_.Has_Cell(place.column, place.row));
+    if (dynamic_cast<const Text_View*>(&view) == nullptr) {
+        Give_Description(*view.Widget()); // light cells tell it when they are asked
     }
-    context_.made(*view);
-    items_.push_back({view, place});
+    context_.made(view);
+    items_.push_back({&view, place});
     if (isVisible()) {
         Place_Item(items_.back());
-        view->Widget()->show();
+        view.Widget()->show();
     }
 }
 

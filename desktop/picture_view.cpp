@@ -15,7 +15,7 @@ Picture_View::Picture_View(Control& its_control, const View_Facts& its_facts, QW
     : Widget_View(its_control, its_facts, parent) {
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
-    Refresh();
+    Picture_View::Refresh();
 }
 
 void Picture_View::Refresh() {

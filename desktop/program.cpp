@@ -7,10 +7,17 @@
 namespace kestrum::desktop {
 
 Program::Program(Dialogs& dialogs, const Surroundings& surroundings)
-    : gate_(dialogs), session_(dialogs, windows_, surroundings), windows_(gate_) {
+    : gate_(dialogs),
+      session_(dialogs, windows_, surroundings),
+      printers_([this](const std::string& screen) {
+          QWidget* const window = windows_.Window_Of(*session_.Screen_Named(screen));
+          return window == nullptr ? QPixmap() : window->grab();
+      }),
+      windows_(gate_) {
     windows_.Take_Session(session_);
     windows_.on_end = [this] { End(); };
     session_.painter = &painter_;
+    session_.printers = &printers_;
     const auto keep = [this] {
         if (rescue_) {
             rescue_->Keep();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session.h"
+#include "desktop/desktop_printers.h"
 #include "desktop/desktop_windows.h"
 #include "desktop/gate.h"
 #include "files/rescue.h"
@@ -38,6 +39,7 @@ private:
     std::unique_ptr<Rescue> rescue_;
     QTimer rescue_clock_;
     painting::Qt_Painter painter_;
+    Desktop_Printers printers_;
     Desktop_Windows windows_; // goes first, since its windows show the session
 };
 

@@ -31,11 +31,11 @@ QString Wanted_Folder(const Start_Options& options) {
     if (!options.folder.empty()) {
         return To_Qt(options.folder);
     }
-    const QString from_environment = qEnvironmentVariable("KESTRUM_FOLDER");
+    QString from_environment = qEnvironmentVariable("KESTRUM_FOLDER");
     if (!from_environment.isEmpty()) {
         return from_environment;
     }
-    const QString own = QCoreApplication::applicationDirPath();
+    QString own = QCoreApplication::applicationDirPath();
     if (Is_Portable(own)) {
         return own;
     }

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 
 #include <algorithm>
+#include <cmath>
 
 namespace kestrum::desktop::theme {
 
@@ -84,7 +85,8 @@ QPalette Palette() {
 
 QFont Text_Font(double scale) {
     QFont font = QGuiApplication::font();
-    font.setPixelSize(std::max(smallest_pixels, static_cast<int>(text_pixels * scale + 0.5)));
+    font.setPixelSize(
+        std::max(smallest_pixels, static_cast<int>(std::lround(text_pixels * scale))));
     return font;
 }
 
