@@ -259,7 +259,7 @@ constexpr auto sheet_table = std::to_array<Control_Entry>({
 
     Lone(Label, "Label38", "Comments:").In("Frame1").At(5, 3),
     Lone_Field("Text38", Cell_Use::Input, "").Many_Lines().Selects().In("Frame1").At(5, 4, 6, 8),
-    Push_Button("Exit", "E&xit Page 2").In("Frame1").At(0, 9, 2, 2),
+    Push_Button("Exit", "E&xit Page 2").In("Frame1").At(0, 8, 2, 2),
 
     Push_Button("Command1", "&Calculate").At(12, 0, 3, 2).Tip(tips::calculate),
     Push_Button("Sort", "Sort Data").At(12, 2, 3, 2).Tip(tips::sort),
