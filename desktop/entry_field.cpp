@@ -70,6 +70,9 @@ void Entry_Field::Show_Text() {
     if (present != text()) {
         const QSignalBlocker quiet(this);
         setText(present);
+        if (!hasFocus()) {
+            setCursorPosition(0); // a long text shows its beginning
+        }
         // A text that is longer than the editor takes must not come back cut.
         setReadOnly(control.Present_Look().locked || text() != present);
     }

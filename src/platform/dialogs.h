@@ -40,9 +40,11 @@ struct Dialogs {
     virtual Box_Answer Show_Box(const Box& box) = 0;
     /// The chosen path, or nothing when the user cancels.
     virtual std::optional<std::string> Choose_File(const Chooser& chooser) = 0;
+
     /// The chosen colour as a blue-green-red number, or nothing when the user cancels. A face
     /// without such a dialog cancels.
     virtual std::optional<int> Choose_Colour() { return std::nullopt; }
+
     virtual void Beep() = 0;
 };
 

@@ -24,31 +24,31 @@ void Drawing::Clear() {
 void Drawing::Line(double x1, double y1, double x2, double y2, int colour, double width,
                    Line_Style style) {
     Add({.kind = Draw_Kind::Line,
-                           .x1 = x1,
-                           .y1 = y1,
-                           .x2 = x2,
-                           .y2 = y2,
-                           .width = width,
-                           .colour = colour,
-                           .style = style});
+         .x1 = x1,
+         .y1 = y1,
+         .x2 = x2,
+         .y2 = y2,
+         .width = width,
+         .colour = colour,
+         .style = style});
 }
 
 void Drawing::Circle(double x, double y, double radius, int colour, double width) {
     Add({.kind = Draw_Kind::Circle,
-                           .x1 = x,
-                           .y1 = y,
-                           .radius = radius,
-                           .width = width,
-                           .colour = colour});
+         .x1 = x,
+         .y1 = y,
+         .radius = radius,
+         .width = width,
+         .colour = colour});
 }
 
 void Drawing::Text(double x, double y, std::string_view text, double size, int colour) {
     Add({.kind = Draw_Kind::Text,
-                           .x1 = x,
-                           .y1 = y,
-                           .size = size,
-                           .colour = colour,
-                           .text = std::string(text)});
+         .x1 = x,
+         .y1 = y,
+         .size = size,
+         .colour = colour,
+         .text = std::string(text)});
 }
 
 double Canvas_Text_Width(std::string_view text, double size) {

@@ -40,6 +40,7 @@ public:
 
     /// From now on every operation is also noted for a face that reports what is drawn.
     void Keep_Journal() { keeps_journal_ = true; }
+
     /// Hands out and forgets what was noted.
     [[nodiscard]] std::vector<Draw_Operation> Take_Journal();
 

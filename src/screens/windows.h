@@ -13,6 +13,7 @@ struct Windows {
     virtual ~Windows() = default;
 
     virtual void Show(Screen& screen) = 0;
+
     /// A screen that shows already is asked for again.
     virtual void Raise(Screen& /*screen*/) {}
 

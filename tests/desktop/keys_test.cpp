@@ -93,8 +93,7 @@ TEST(Keys, what_an_input_method_or_a_drop_brings_passes_the_filter) {
 
     QMimeData dragged;
     dragged.setText(QStringLiteral("x3"));
-    QDragEnterEvent enter(QPoint(100, 8), Qt::CopyAction, &dragged, Qt::LeftButton,
-                          Qt::NoModifier);
+    QDragEnterEvent enter(QPoint(100, 8), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&bench.Widget("Form1.Text104(6)"), &enter);
     QDropEvent drop(QPointF(100, 8), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&bench.Widget("Form1.Text104(6)"), &drop);

@@ -102,16 +102,14 @@ TEST(Windows, a_test_is_saved_and_loaded_through_the_choosers) {
     bench.Enter("Form1.Text102(0)", "GT40P");
     bench.dialogs.Choose(path);
     bench.Press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(bench.Take_Events(),
-              (Events{"chooser to save", "plain box: 124 Records Written"}));
+    EXPECT_EQ(bench.Take_Events(), (Events{"chooser to save", "plain box: 124 Records Written"}));
     bench.Enter("Form1.Text102(0)", "other");
     bench.dialogs.Choose(path);
     bench.Press(Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(bench.Edit("Form1.Text102(0)").text(), QStringLiteral("GT40P"));
     EXPECT_EQ(bench.Text("Form1.Text39"), path);
     EXPECT_EQ(bench.Focus(), "Form1.Text101(16)");
-    EXPECT_EQ(bench.Take_Events(),
-              (Events{"chooser to open", "plain box: 124 Records Read"}));
+    EXPECT_EQ(bench.Take_Events(), (Events{"chooser to open", "plain box: 124 Records Read"}));
 }
 
 TEST(Windows, the_frame_of_a_sheet_unloads_it_and_quit_does_not) {
