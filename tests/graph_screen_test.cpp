@@ -1,0 +1,215 @@
+#include "application/events.h"
+#include "platform/painter.h"
+#include "platform/printer.h"
+#include "tests/graph_test_bench.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kestrum {
+
+namespace {
+
+const std::string not_saved = "exclamation box: Graph has Not been Saved";
+
+/// Paints what was asked for as words.
+struct Word_Painter : Painter {
+    std::string Picture_Of(const Drawing& drawing, Picture_Format format,
+                           const std::optional<Placed_Logo>& logo) override {
+        constexpr std::array names{"BMP", "PNG", "SVG", "PDF"};
+        steps = drawing.Operations().size();
+        last_logo = logo;
+        if (fails) {
+            Fail(error::invalid_picture);
+        }
+        return names.at(static_cast<std::size_t>(format)) + std::string(padding, '.');
+    }
+
+    std::size_t steps = 0;
+    std::size_t padding = 0;
+    std::optional<Placed_Logo> last_logo;
+    bool fails = false;
+};
+
+class Graph_Screen_Test : public ::testing::Test {
+protected:
+    Graph_Screen_Test() { bench_.session.painter = &painter_; }
+
+    Events Save(std::optional<std::string> path) {
+        bench_.platform.Choose(std::move(path));
+        return bench_.Click("Form60.Command3");
+    }
+
+    void Mouse(std::string_view picture, Mouse_Action action, double x, double y) {
+        Mouse_On_Picture(bench_.session, bench_.At(picture), action, x, y);
+    }
+
+    /// The smallest picture that has a header: a GIF of one dot.
+    [[nodiscard]] std::string Logo_File(std::string_view name) {
+        return bench_.folder.Write(
+            name, std::string_view("GIF89a\1\0\1\0\x80\0\0\xff\0\0\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1"
+                                   "\0;",
+                                   35));
+    }
+
+    Word_Painter painter_;
+    Graph_Bench bench_;
+};
+
+TEST_F(Graph_Screen_Test, Reads_Values_Under_The_Mouse) {
+    Mouse("Form60.Picture1", Mouse_Action::Move, 100, 100);
+    Expect_Texts(bench_, {{"Form60.Label18", "0.0"}, {"Form60.Label19", "0.0"}});
+    bench_.Draw(0); // to 290 and 1400
+    Mouse("Form60.Picture1", Mouse_Action::Move, 0, 0);
+    Expect_Texts(bench_, {{"Form60.Label18", "290.0"}, {"Form60.Label19", "0.0"}});
+    Mouse("Form60.Picture1", Mouse_Action::Move, 600, 600);
+    Expect_Texts(bench_, {{"Form60.Label18", "0.0"}, {"Form60.Label19", "1400.0"}});
+    Mouse("Form60.Picture1", Mouse_Action::Move, 150, 450);
+    Expect_Texts(bench_, {{"Form60.Label18", "72.5"}, {"Form60.Label19", "350.0"}});
+}
+
+TEST_F(Graph_Screen_Test, Draws_By_Hand_Where_The_Box_Is_Set) {
+    bench_.Draw(0);
+    const std::size_t before = bench_.Steps().size();
+    Mouse("Form60.Picture1", Mouse_Action::Down, 10, 20);
+    Mouse("Form60.Picture1", Mouse_Action::Move, 30, 40);
+    Mouse("Form60.Picture1", Mouse_Action::Up, 30, 40);
+    EXPECT_EQ(bench_.Steps().size(), before) << "the box is off";
+    bench_.Click("Form60.Check1");
+    Mouse("Form60.Picture1", Mouse_Action::Down, 10, 20);
+    Mouse("Form60.Picture1", Mouse_Action::Move, 30, 40);
+    Mouse("Form60.Picture1", Mouse_Action::Up, 900, 40);
+    Mouse("Form60.Picture1", Mouse_Action::Move, 50, 60);
+    ASSERT_EQ(bench_.Steps().size(), before + 2);
+    const Draw_Operation& dot = bench_.Steps()[before];
+    EXPECT_EQ(dot.x1, dot.x2);
+    EXPECT_EQ(dot.colour, 0x9F8601) << "99999 is red 159, green 134, blue 1";
+    EXPECT_EQ(dot.width, 3);
+    const Draw_Operation& line = bench_.Steps()[before + 1];
+    EXPECT_EQ(line.x1, 10);
+    EXPECT_EQ(line.y2, 40);
+    bench_.Draw(0);
+    EXPECT_EQ(bench_.Steps().size(), before) << "a fresh graph clears what was drawn";
+}
+
+TEST_F(Graph_Screen_Test, A_Hidden_Graph_Keeps_Its_Picture) {
+    bench_.Draw(0);
+    const std::size_t before = bench_.Steps().size();
+    EXPECT_EQ(bench_.Click("Form60.Command1"), Events{"hide Form60"});
+    EXPECT_EQ(bench_.Click("Form50.Graph_Plus"), Events{"show Form60"});
+    EXPECT_GT(bench_.Steps().size(), before);
+}
+
+TEST_F(Graph_Screen_Test, Takes_A_Logo_And_Moves_It) {
+    const std::string path = Logo_File("shop.gif");
+    bench_.platform.Choose(path);
+    EXPECT_EQ(bench_.Click("Form60.Logo"), Events{"chooser to open"});
+    EXPECT_EQ(bench_.Get("Form60.Logo"), "Logo -- Is ON");
+    EXPECT_TRUE(bench_.session.Form60().Picture2.Present_Look().visible);
+    Mouse("Form60.Picture2", Mouse_Action::Move, 7, 8); // not held
+    Mouse("Form60.Picture2", Mouse_Action::Down, 1, 1);
+    Mouse("Form60.Picture2", Mouse_Action::Move, 40, 50);
+    Mouse("Form60.Picture2", Mouse_Action::Up, 40, 50);
+    Mouse("Form60.Picture2", Mouse_Action::Move, 70, 80);
+    EXPECT_EQ(Save(bench_.folder.File("a.bmp")), Events{"chooser to save"});
+    ASSERT_TRUE(painter_.last_logo);
+    EXPECT_EQ(painter_.last_logo->file, path);
+    EXPECT_EQ(painter_.last_logo->left, 40);
+    EXPECT_EQ(painter_.last_logo->top, 50);
+    EXPECT_EQ(bench_.Click("Form60.Logo"), Events{});
+    EXPECT_EQ(bench_.session.logo_file, "");
+    EXPECT_EQ(bench_.Get("Form60.Logo"), "Logo -- Is OFF");
+    EXPECT_EQ(Save(bench_.folder.File("a.bmp")), Events{"chooser to save"});
+    EXPECT_FALSE(painter_.last_logo);
+}
+
+TEST_F(Graph_Screen_Test, Refuses_Logos_That_Are_No_Pictures) {
+    const Events refused{"chooser to open", "plain box: No Logo File has been Seleted"};
+    for (const std::optional<std::string>& path :
+         {std::optional(bench_.folder.Write("words.bmp", "words")),
+          std::optional(bench_.folder.Write("empty.jpg", "")),
+          std::optional(bench_.folder.File("none.gif")), std::optional(bench_.folder.Path()),
+          std::optional<std::string>()}) {
+        bench_.platform.Choose(path);
+        EXPECT_EQ(bench_.Click("Form60.Logo"), refused) << path.value_or("a cancel");
+        EXPECT_EQ(bench_.session.logo_on, 0);
+        EXPECT_EQ(bench_.session.logo_file, "");
+    }
+}
+
+TEST_F(Graph_Screen_Test, The_Name_Tells_The_Format) {
+    bench_.Draw(0);
+    for (const auto& [name, bytes] :
+         {std::pair("a.png", "PNG"), std::pair("B.PNG", "PNG"), std::pair("a.Svg", "SVG"),
+          std::pair("a.pdf", "PDF"), std::pair("a.bmp", "BMP"), std::pair("a", "BMP"),
+          std::pair("a.jpg", "BMP"), std::pair("png", "BMP"), std::pair("a.png.old", "BMP")}) {
+        EXPECT_EQ(Save(bench_.folder.File(name)), Events{"chooser to save"});
+        EXPECT_EQ(bench_.folder.Read(name), bytes) << name;
+    }
+    EXPECT_EQ(painter_.steps, bench_.Steps().size());
+}
+
+TEST_F(Graph_Screen_Test, Tells_Of_Every_Save_That_Fails) {
+    const Events failed{"chooser to save", not_saved};
+    EXPECT_EQ(Save(std::nullopt), failed);
+    EXPECT_EQ(Save(bench_.folder.File("no/such/folder.png")), failed);
+    EXPECT_EQ(Save(bench_.folder.Path()), failed);
+    bench_.folder.Write("a.png", "the last one");
+    painter_.fails = true;
+    EXPECT_EQ(Save(bench_.folder.File("a.png")), failed);
+    bench_.session.painter = nullptr;
+    EXPECT_EQ(Save(bench_.folder.File("a.png")), failed);
+    EXPECT_EQ(bench_.folder.Read("a.png"), "the last one");
+    EXPECT_EQ(bench_.folder.Names(), Events{"a.png"});
+}
+
+TEST_F(Graph_Screen_Test, A_Full_Disk_Leaves_The_Old_Picture_Whole) {
+    const std::string path = bench_.folder.Write("a.png", "the last one");
+    painter_.padding = 100000;
+    const pid_t child = ::fork();
+    if (child == 0) {
+        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+        const rlimit limit{4096, 4096};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        ::_exit(Save(path) == Events{"chooser to save", not_saved} ? 0 : 1);
+    }
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(bench_.folder.Read("a.png"), "the last one");
+    EXPECT_EQ(bench_.folder.Names(), Events{"a.png"});
+}
+
+/// Printers that note what they print.
+struct Noting_Printers : Printers {
+    [[nodiscard]] std::vector<std::string> Devices() const override { return devices; }
+
+    void Print_Screen(const std::string& device, const Screen_Picture& picture) override {
+        EXPECT_GT(picture.width, 0);
+        EXPECT_GT(picture.height, 0);
+        printed.push_back(picture.screen + " on " + device);
+    }
+
+    std::vector<std::string> devices{"Laser", "Plotter"};
+    std::vector<std::string> printed;
+};
+
+TEST_F(Graph_Screen_Test, Prints_Itself_On_The_Default_Printer) {
+    Noting_Printers printers;
+    bench_.session.printers = &printers;
+    EXPECT_EQ(bench_.Click("Form60.Command2"), Events{});
+    EXPECT_EQ(printers.printed, Events{"Form60 on Laser"});
+    const Events failed{"exclamation box: Printer error"};
+    printers.devices.clear();
+    EXPECT_EQ(bench_.Click("Form60.Command2"), failed);
+    bench_.session.printers = nullptr;
+    EXPECT_EQ(bench_.Click("Form60.Command2"), failed) << "and the program goes on";
+}
+
+} // namespace
+
+} // namespace kestrum
