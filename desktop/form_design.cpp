@@ -36,7 +36,8 @@ constexpr std::array graph_cards{
 };
 
 constexpr Form_Design main_design{.column_width = 104,
-                                  .row_height = 31,
+                                  .row_height = 29,
+                                  .opening_scale = 1, // painting it is what a start waits for
                                   .cards = main_cards,
                                   .information_sample = Place{6, 22, 1, 1}};
 constexpr Form_Design sheet_design{.column_width = 66, .row_height = 20, .cards = sheet_cards};

@@ -14,6 +14,8 @@ struct Form_Design {
     /// Least sizes at the theme's own letter size.
     int column_width = 60;
     int row_height = 20;
+    /// How much larger the window opens where the display has the room.
+    double opening_scale = 1.2;
     /// Parts of the grid that belong together and lie on a card.
     std::span<const Place> cards{};
     /// Stands beside the legend of the fields with a help text.

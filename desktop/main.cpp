@@ -10,7 +10,6 @@
 #include "platform/run_time_error.h"
 
 #include <QApplication>
-#include <QTimer>
 
 #include <cstdio>
 #include <exception>
@@ -43,6 +42,18 @@ bool Answers_At_Once(const Start_Options& options) {
     return options.wants_help || options.wants_version || !options.fault.empty();
 }
 
+/// What can wait until `Main` is to be seen.
+void Do_The_Rest_When_Painted(Program& program) {
+    Screen_Window& window = *program.Its_Windows().Window_Of(program.Its_Session().Main());
+    window.on_first_paint = [&program, before = window.on_first_paint] {
+        if (before) {
+            before();
+        }
+        QApplication::setWindowIcon(Program_Icon());
+        program.Keep_Rescue_Copies();
+    };
+}
+
 int Run(const Start_Options& options) {
     Desktop_Dialogs dialogs;
     std::string folder;
@@ -56,11 +67,7 @@ int Run(const Start_Options& options) {
     dialogs.Set_Title(program.Its_Session().title_text);
     Measure_If_Asked(program);
     if (program.Start()) {
-        // The window shows before its icon is drawn.
-        QTimer::singleShot(0, [&program] {
-            QApplication::setWindowIcon(Program_Icon());
-            program.Keep_Rescue_Copies();
-        });
+        Do_The_Rest_When_Painted(program);
         QApplication::exec();
     }
     return program.Exit_Status();

@@ -111,18 +111,18 @@ void Page::Name_Fields_Anew() {
 /// A column is as wide as its widest caption. Captions that stand alone in their place count only.
 void Page::Measure_Columns() {
     widths_.assign(static_cast<std::size_t>(columns_), design_.column_width);
-    const QFont usual = theme::Text_Font();
-    QFont bold = usual;
-    bold.setBold(true);
-    const QFontMetrics usual_metrics(usual);
-    const QFontMetrics bold_metrics(bold);
+    // Bold letters are that much wider. To measure them would load a font that only the display at
+    // its present scale needs, which takes longer than to paint the page.
+    constexpr double of_bold = 1.15;
+    const QFontMetrics metrics(theme::Text_Font());
     for (const Item& item : items_) {
         const Control& control = item.view->control;
         if (control.Entry().use == Cell_Use::Caption && item.place.columns == 1) {
-            const QFontMetrics& metrics = map_.Heads_Column(control) ? bold_metrics : usual_metrics;
+            const double letters = map_.Heads_Column(control) ? of_bold : 1;
+            const int words =
+                static_cast<int>(letters * metrics.horizontalAdvance(To_Qt(control.Text())));
             int& width = widths_[static_cast<std::size_t>(item.place.column)];
-            width = std::max(width, metrics.horizontalAdvance(To_Qt(control.Text())) +
-                                        2 * theme::text_padding + 1);
+            width = std::max(width, words + 2 * theme::text_padding + 1);
         }
     }
 }

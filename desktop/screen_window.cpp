@@ -180,9 +180,8 @@ void Screen_Window::Set_Pointer() {
 // Opening and closing
 
 QSize Screen_Window::Usual_Size() const {
-    constexpr double most = 1.2; // of the design, on a display that has the room
     const QSize room = screen()->availableSize() - window_frame;
-    return (sizeHint() * most).boundedTo(room);
+    return (sizeHint() * Design_Of(*screen_, "").opening_scale).boundedTo(room);
 }
 
 void Screen_Window::Open() {
