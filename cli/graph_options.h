@@ -24,7 +24,7 @@ struct Graph_Options {
     bool metric = false;
     bool csv = false;
     /// File of the picture.
-    std::string output;
+    std::string output{};
 };
 
 /// Read the arguments behind "graph" and behind "compare". Raise `Script_Error` for one that
