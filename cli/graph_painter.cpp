@@ -3,6 +3,8 @@
 #include "platform/run_time_error.h"
 
 #include <dlfcn.h>
+#include <filesystem>
+#include <system_error>
 
 namespace kestrum::cli {
 
@@ -10,8 +12,11 @@ namespace {
 
 Painter* Load_Painter() {
     using Maker = Painter* (*)();
-    // Looked for beside the program, by the run path that the program is linked with.
-    void* const module = ::dlopen("kestrum-painting.so", RTLD_NOW | RTLD_LOCAL);
+    // By its whole path: a bare name is looked for in the system's folders.
+    std::error_code ignored;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", ignored);
+    const std::filesystem::path path = program.parent_path() / "kestrum-painting.so";
+    void* const module = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     void* const maker = module == nullptr ? nullptr : ::dlsym(module, "Kestrum_Painter");
     if (maker == nullptr) {
         throw Run_Time_Error(error::invalid_picture,

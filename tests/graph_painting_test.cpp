@@ -19,19 +19,18 @@ namespace kestrum::painting {
 namespace {
 
 /// The part of Qt that sets texts, once for all tests.
-const QGuiApplication& Application() {
+void Start_Qt() {
     static std::array<char, 6> name{"tests"};
     static std::array<char, 10> option{"-platform"};
     static std::array<char, 21> platform{"minimal:enable_fonts"};
     static std::array<char*, 4> arguments{name.data(), option.data(), platform.data(), nullptr};
     static int count = 3;
     static const QGuiApplication application(count, arguments.data());
-    return application;
 }
 
 class Painting : public ::testing::Test {
 protected:
-    Painting() { static_cast<void>(Application()); }
+    Painting() { Start_Qt(); }
 
     [[nodiscard]] std::string Bytes(Picture_Format format) {
         return painter_.Picture_Of(drawing_, format, logo_);
