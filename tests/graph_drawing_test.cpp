@@ -107,13 +107,13 @@ TEST(Graph_Drawing, Lays_Grid_And_Frame) {
     EXPECT_EQ(frame[0].y1, 600);
     EXPECT_EQ(frame[0].y2, 600);
     EXPECT_EQ(frame[1].x2, 0);
-    bench.session.Form60().draw_style = 1;
+    bench.session.graph.grid_style = 1;
     bench.session.grid_colour = 0x0000FF; // blue-green-red: red
     bench.Draw(0);
     EXPECT_EQ(bench.Lines(red, 1).size(), 18U);
     EXPECT_EQ(bench.Lines(red, 1)[0].style, Line_Style::Dash);
     EXPECT_EQ(bench.Lines(black, 3)[0].style, Line_Style::Solid);
-    bench.session.Form60().draw_style = 0;
+    bench.session.graph.grid_style = 0;
     bench.Draw(0);
     EXPECT_EQ(bench.Lines(red, 2).size() - bench.Lines(red, thin).size(), 0U);
     EXPECT_EQ(bench.Lines(red, 2).size(), 1498U + 18U) << "a wider pen for a colour of one's own";

@@ -42,6 +42,8 @@ struct Graph_State {
     int plot_left = 0;
     int plot_right = 599;
     int plot_bottom = 599;
+    /// Lines of the grid: 0 long, 1 dash, 2 dot. It outlives the window.
+    int grid_style = 0;
     /// What stands on the canvas of `Form60`, hand drawing included.
     Drawing canvas;
     /// The mouse draws on the canvas, from this point on.

@@ -197,7 +197,7 @@ bool Put_Grid(Session& session, const Record& record) {
     } else if (Begins(record, "grid_color")) {
         session.grid_colour = session.number.Read_Long(record.Value());
     } else if (Begins(record, "grid_drawstyle")) {
-        session.Form60().draw_style = session.number.Read_Integer(record.Value());
+        session.graph.grid_style = session.number.Read_Integer(record.Value());
     } else {
         return false;
     }
@@ -217,7 +217,7 @@ void Write_Look(Session& session, Record_Writer& writer) {
     }
     writer.Write_Line("Grid_SW", number.Plain(session.grid_on));
     writer.Write_Line("Grid_Color", number.Plain(session.grid_colour));
-    writer.Write_Line("Grid_DrawStyle", number.Plain(session.Form60().draw_style));
+    writer.Write_Line("Grid_DrawStyle", number.Plain(session.graph.grid_style));
 }
 
 void Write_Fields(Session& session, Record_Writer& writer) {

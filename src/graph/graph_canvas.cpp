@@ -15,7 +15,7 @@ void Graph_Canvas::Line(double x1, double y1, double x2, double y2, int colour) 
 
 void Graph_Canvas::Grid_Line(double x1, double y1, double x2, double y2) const {
     State().canvas.Line(x1, y1, x2, y2, Swapped_Colour(session_.grid_colour), pen_width,
-                        static_cast<Line_Style>(session_.Form60().draw_style));
+                        static_cast<Line_Style>(session_.graph.grid_style));
 }
 
 void Graph_Canvas::Vertical_Line(double x, int colour) const {

@@ -61,7 +61,7 @@ void Draw_Grid(Graph_Canvas& canvas) {
 
 double Grid_Pen(Session& session) {
     constexpr int usual_colour = 0x909090;
-    const bool solid = session.Form60().draw_style == 0;
+    const bool solid = session.graph.grid_style == 0;
     return solid && session.grid_colour != usual_colour ? 2 : 1;
 }
 

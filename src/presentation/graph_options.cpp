@@ -26,12 +26,12 @@ void Choose_Grid_Colour(Session& session) {
 }
 
 void Set_Grid_Style(Session& session, int style) {
-    session.Form60().draw_style = style;
+    session.graph.grid_style = style;
     session.grid_on = 1;
 }
 
 void Switch_Grid_Off(Session& session) {
-    session.Form60().draw_style = 0;
+    session.graph.grid_style = 0;
     session.grid_on = 0;
 }
 

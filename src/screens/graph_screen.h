@@ -20,9 +20,6 @@ public:
     Control& Label18 = The("Label18"); // Y under the mouse
     Control& Label19 = The("Label19"); // X under the mouse
     Control& Check1 = The("Check1");   // drawing with the mouse
-
-    /// Style of the canvas's grid lines: 0 long, 1 dash, 2 dot.
-    int draw_style = 0;
 };
 
 } // namespace kestrum
