@@ -217,6 +217,11 @@ void Screen_Window::Let_Go() {
     deleteLater(); // one of its own widgets may be calling
 }
 
+Screen_Window::~Screen_Window() {
+    screen_ = nullptr;
+    hide();
+}
+
 void Screen_Window::closeEvent(QCloseEvent* event) {
     event->ignore(); // the session hides or unloads the screen, or does nothing
     gate_.Enter([this] {

@@ -20,6 +20,10 @@ class Help_Line;
 class Screen_Window : public QWidget, private User_Events {
 public:
     Screen_Window(Session& session, Gate& gate, Screen& screen);
+    Screen_Window(const Screen_Window&) = delete;
+    Screen_Window& operator=(const Screen_Window&) = delete;
+    /// A visible window gives the focus up here, while it can still be told of it.
+    ~Screen_Window() override;
 
     void Open();
     void Close();
