@@ -82,7 +82,7 @@ std::optional<Event> Property_Of(const Control& control, std::string_view name) 
     if (name == "ToolTip") {
         return Tool_Tip(control);
     }
-    if (const auto place = Place_Property(Place_In_Twips(control), name)) {
+    if (auto place = Place_Property(Place_In_Twips(control), name)) {
         return place;
     }
     return Look_Property(control.Present_Look(), name);
