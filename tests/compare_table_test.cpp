@@ -259,7 +259,10 @@ TEST(Compare_Table, The_Gates_Of_Port_Energy_Are_Crossed_On_The_To_Side) {
     bench.Set("Form1.Text115(20)", "0"); // the From exhaust shuts the To exhaust
     bench.Pick(3);
     bench.Click("Form50.Command1");
-    Expect_Texts(bench, {{"Form50.Text109(20)", "6.1283"}, {"Form50.Text110(20)", ""}});
+    Expect_Texts(bench, {{"Form50.Text107(20)", "6.1283"}, // straight on the From side
+                         {"Form50.Text108(20)", ""},
+                         {"Form50.Text109(20)", "6.1283"},
+                         {"Form50.Text110(20)", ""}});
     bench.Set("Form1.Text115(20)", "0.0"); // the text "0" alone does
     bench.Click("Form50.Command1");
     Expect_Texts(bench, {{"Form50.Text108(20)", "0.0"}, {"Form50.Text110(20)", "1.4491"}});

@@ -16,6 +16,10 @@ struct Number_Case {
 
 TEST(Axis_Number, Is_Cut_Not_Rounded) {
     const Number_Case cases[] = {
+        {10.001, "10"},
+        {1.0001, "1"},
+        {-10.001, "-10"},
+        {100.04, "100"},
         {12.345678, "12.34"},
         {99.999, "99.99"},
         {999.95, "999.9"},

@@ -120,6 +120,10 @@ TEST_F(Graph_Screen_Test, Takes_A_Logo_And_Moves_It) {
     EXPECT_EQ(painter_.last_logo->file, path);
     EXPECT_EQ(painter_.last_logo->left, 40);
     EXPECT_EQ(painter_.last_logo->top, 50);
+    bench_.session.logo_on = 0; // as after a file that names a logo and switches it off
+    EXPECT_EQ(Save(bench_.folder.File("a.bmp")), Events{"chooser to save"});
+    EXPECT_FALSE(painter_.last_logo);
+    bench_.session.logo_on = 1;
     EXPECT_EQ(bench_.Click("Form60.Logo"), Events{});
     EXPECT_EQ(bench_.session.logo_file, "");
     EXPECT_EQ(bench_.Get("Form60.Logo"), "Logo -- Is OFF");

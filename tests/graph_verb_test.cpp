@@ -94,6 +94,12 @@ TEST_F(Graph_Verbs, Lay_Further_Pairs_Over_The_First) {
     EXPECT_TRUE(painter_.Wrote("Intake Valve Lift as L/D"));
 }
 
+TEST_F(Graph_Verbs, No_Test_Depends_On_The_One_Before_It) {
+    const std::string few = bench_.folder.Write("few.dat", "Text106_26 = 230\r\n");
+    EXPECT_EQ(Graph({.pairs = {{stock_, ported_}, {few, ported_}}, .output = output_}), 0);
+    EXPECT_TRUE(painter_.Wrote("Thin Graph Lines Test 1 - E7TE")) << "the stored part number";
+}
+
 TEST_F(Graph_Verbs, Tell_Of_Curves_That_Are_Too_Short) {
     EXPECT_EQ(Graph({.pairs = {{stock_, stock_}}, .type = 9, .output = output_}), 0);
     EXPECT_TRUE(errors_.starts_with("kestrum-cli: There is a Problem Generating your Graph There"))
