@@ -9,12 +9,17 @@ namespace kestrum::painting {
 
 namespace {
 
-/// Height of the letters to the size of a text. At this one the letters of the usual font are about
-/// as wide as the measure, and the two captions, whose rows overlap, are clear of each other.
-constexpr double letter_height = 0.8;
+/// Height of the letters to the size of a text. At these the letters of the usual font are about as
+/// wide as the measure, and the two captions, whose rows overlap, are clear of each other.
+double Letter_Height(double size) {
+    constexpr double largest_small = 18;
+    return size < largest_small ? 0.84 : 0.8;
+}
 
 /// Narrow letters are widened no further than this; the rest goes between them.
-constexpr double most_stretch = 1.12;
+constexpr double most_stretch = 1.08;
+/// Letters are squeezed no further than this; from there on they become smaller.
+constexpr double least_stretch = 0.65;
 
 QFont Text_Font() {
     QFont font;
@@ -30,19 +35,31 @@ constexpr int design_size = 100;
 
 } // namespace
 
-Fitted_Text Fitted(const Draw_Operation& operation) {
+QRectF Fitted_Text::Box() const {
+    constexpr double above = 0.76; // the line, to the height of the font: the highest letters
+    constexpr double below = 0.24;
+    const double height = font.pixelSize() * scale;
+    return {left, baseline - above * height, width, (above + below) * height};
+}
+
+Fitted_Text Fitted(const Draw_Operation& operation, double left, double width) {
+    constexpr double halo_to_height = 0.25;
     Fitted_Text fitted;
     fitted.text = QString::fromStdString(operation.text);
     fitted.font = Text_Font();
     fitted.font.setPixelSize(design_size);
+    fitted.colour = operation.colour;
     const QFontMetricsF metrics(fitted.font);
-    fitted.scale = operation.size * letter_height / design_size;
-    fitted.left = operation.x1;
-    fitted.width = Canvas_Text_Width(operation.text, operation.size);
-    const double natural = metrics.horizontalAdvance(fitted.text) * fitted.scale;
+    fitted.scale = operation.size * Letter_Height(operation.size) / design_size;
+    fitted.left = left;
+    fitted.width = width;
+    double natural = metrics.horizontalAdvance(fitted.text) * fitted.scale;
     if (natural > 0) {
-        fitted.stretch = std::min(fitted.width / natural, most_stretch);
-        const double wanted = fitted.width / fitted.stretch;
+        const double shrink = std::min(width / natural / least_stretch, 1.0);
+        fitted.scale *= shrink;
+        natural *= shrink;
+        fitted.stretch = std::min(width / natural, most_stretch);
+        const double wanted = width / fitted.stretch;
         constexpr double percent = 100; // a spacing in dots would depend on the device
         fitted.font.setLetterSpacing(QFont::PercentageSpacing, percent * wanted / natural);
         fitted.spacing = (wanted - natural) / static_cast<double>(fitted.text.size());
@@ -50,6 +67,7 @@ Fitted_Text Fitted(const Draw_Operation& operation) {
     const double height = (metrics.ascent() + metrics.descent()) * fitted.scale;
     fitted.baseline = operation.y1 + (Canvas_Text_Height(operation.size) - height) / 2 +
                       metrics.ascent() * fitted.scale;
+    fitted.halo = design_size * fitted.scale * halo_to_height;
     return fitted;
 }
 

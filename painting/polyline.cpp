@@ -10,7 +10,8 @@ namespace {
 
 bool Goes_On(const Draw_Operation& line, const Draw_Operation& next) {
     return next.kind == Draw_Kind::Line && next.x1 == line.x2 && next.y1 == line.y2 &&
-           next.colour == line.colour && next.width == line.width && next.style == line.style;
+           next.colour == line.colour && next.width == line.width && next.style == line.style &&
+           next.by_hand == line.by_hand;
 }
 
 /// The directions that a straight line from one point may take to pass by all points since then.

@@ -1,13 +1,12 @@
 #include "painting/svg_writer.h"
 
-#include "painting/fitted_text.h"
+#include "painting/layers.h"
 #include "painting/picture_area.h"
 #include "painting/polyline.h"
 
 #include <QBuffer>
 #include <QByteArray>
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -73,32 +72,46 @@ std::string Stroke(const Draw_Operation& line) {
     return text;
 }
 
-std::string Lines(std::span<const Draw_Operation> lines) {
-    std::string points;
-    for (const QPointF& point : Points_Of(lines)) {
-        points += (points.empty() ? "" : " ") + Number(point.x()) + "," + Number(point.y());
+class Svg_Step_Painter : public Step_Painter {
+public:
+    explicit Svg_Step_Painter(std::string& file) : file_(file) {}
+
+    void Lines(std::span<const Draw_Operation> lines) override {
+        std::string points;
+        for (const QPointF& point : Points_Of(lines)) {
+            points += (points.empty() ? "" : " ") + Number(point.x()) + "," + Number(point.y());
+        }
+        file_ += "<polyline" + Stroke(lines.front()) + Attribute("points", points) + "/>\n";
     }
-    return "<polyline" + Stroke(lines.front()) + Attribute("points", points) + "/>\n";
-}
 
-std::string Circle(const Draw_Operation& circle) {
-    return "<circle" + Attribute("cx", circle.x1) + Attribute("cy", circle.y1) +
-           Attribute("r", circle.radius) + Stroke(circle) + "/>\n";
-}
+    void Circle(const Draw_Operation& circle) override {
+        file_ += "<circle" + Attribute("cx", circle.x1) + Attribute("cy", circle.y1) +
+                 Attribute("r", circle.radius) + Stroke(circle) + "/>\n";
+    }
 
-std::string Text(const Draw_Operation& operation) {
-    const Fitted_Text fitted = Fitted(operation);
-    // The length holds with any font. Readers that know no length do as well with the usual font.
-    return "<text" +
-           Attribute("transform", "translate(" + Number(fitted.left) + "," +
-                                      Number(fitted.baseline) + ") scale(" +
-                                      Number(fitted.stretch, 4) + ",1)") +
-           Attribute("font-size", fitted.font.pixelSize() * fitted.scale) +
-           Attribute("letter-spacing", Number(fitted.spacing, 4)) +
-           Attribute("textLength", fitted.width / fitted.stretch) +
-           Attribute("lengthAdjust", "spacingAndGlyphs") +
-           Attribute("fill", Colour(operation.colour)) + ">" + Escaped(fitted.text) + "</text>\n";
-}
+    void Text(const Fitted_Text& text) override {
+        // Twice, for readers that know no order of painting within a text.
+        file_ += Set(text, Attribute("stroke", "#ffffff") + Attribute("stroke-width", text.halo) +
+                               Attribute("aria-hidden", "true"));
+        file_ += Set(text, Attribute("fill", Colour(text.colour)));
+    }
+
+private:
+    /// The length holds with any font. Readers that know no length do as well with the usual font.
+    static std::string Set(const Fitted_Text& text, const std::string& look) {
+        return "<text" +
+               Attribute("transform", "translate(" + Number(text.left) + "," +
+                                          Number(text.baseline) + ") scale(" +
+                                          Number(text.stretch, 4) + ",1)") +
+               Attribute("font-size", text.font.pixelSize() * text.scale) +
+               Attribute("letter-spacing", Number(text.spacing, 4)) +
+               Attribute("textLength", text.width / text.stretch) +
+               Attribute("lengthAdjust", "spacingAndGlyphs") + look + ">" + Escaped(text.text) +
+               "</text>\n";
+    }
+
+    std::string& file_;
+};
 
 /// The dots themselves, so that the file needs no other.
 std::string Logo(const Logo_Picture& picture) {
@@ -131,18 +144,8 @@ std::string Head() {
 
 std::string Svg_Bytes(const Drawing& drawing, const std::optional<Logo_Picture>& logo) {
     std::string text = Head();
-    std::span<const Draw_Operation> rest = drawing.Operations();
-    while (!rest.empty()) {
-        const std::size_t lines = Joined_Lines(rest);
-        if (lines > 0) {
-            text += Lines(rest.first(lines));
-        } else if (rest.front().kind == Draw_Kind::Circle) {
-            text += Circle(rest.front());
-        } else if (rest.front().kind == Draw_Kind::Text) {
-            text += Text(rest.front());
-        }
-        rest = rest.subspan(std::max<std::size_t>(lines, 1));
-    }
+    Svg_Step_Painter steps(text);
+    Paint_In_Layers(drawing, steps);
     text += "</g>\n";
     if (logo) {
         text += Logo(*logo);

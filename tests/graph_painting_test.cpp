@@ -4,6 +4,7 @@
 #include "painting/polyline.h"
 #include "painting/qt_painter.h"
 #include "painting/replay.h"
+#include "painting/text_layout.h"
 #include "tests/graph_test_bench.h"
 
 #include <QGuiApplication>
@@ -153,6 +154,46 @@ TEST_F(Painting, The_Two_Captions_Do_Not_Touch) {
     EXPECT_LE(second.bottom(), picture_area::top + picture_area::height);
 }
 
+TEST_F(Painting, No_Text_Lies_Over_Another_Or_Leaves_The_Frame) {
+    drawing_.Text(5, 300, " -12.5", 12, 0);                     // a number of the Y axis
+    drawing_.Text(5, 296, "0.0 - Zero Line ", 12, 0);           // close to it
+    drawing_.Text(62, 300, "Thick Graph Lines Test 1", 12, 0);  // where that one moved to
+    drawing_.Text(62, 400, std::string(150, 'M'), 12, 0);       // a long name
+    drawing_.Text(5, 602, " 0", 12, 0);                         // the lowest number
+    drawing_.Text(2, 601, std::string(64, 'x'), 24 / 1.331, 0); // a caption as wide as the graph
+    drawing_.Text(0, 584, "0", 12, 0);                          // at the side of the frame
+    const std::vector<Fitted_Text> texts = Laid_Out_Texts(drawing_.Operations());
+    ASSERT_EQ(texts.size(), 7U);
+    for (const Fitted_Text& text : texts) {
+        SCOPED_TRACE(text.text.toStdString());
+        EXPECT_GE(text.Box().left(), 3);
+        EXPECT_LE(text.Box().right(), 597);
+        for (const Fitted_Text& other : texts) {
+            EXPECT_TRUE(&text == &other || !text.Box().intersects(other.Box()))
+                << other.text.toStdString();
+        }
+    }
+    EXPECT_EQ(texts[0].left, 5) << "the first one stays";
+    EXPECT_LT(texts[3].scale, texts[2].scale) << "rather smaller than without any width";
+}
+
+TEST_F(Painting, Curves_Run_Under_Texts_And_The_Users_Lines_Over_Them) {
+    drawing_.Text(100, 100, "MMMM", 24, 0);
+    drawing_.Line(100, 115, 148, 115, 0x0000FF, 40); // all over the text
+    EXPECT_EQ(At(Picture(Picture_Format::Png), 98, 115), 0x0000FFU) << "beside the text";
+    const auto letters = [&] {
+        const QImage picture = Picture(Picture_Format::Png);
+        int black = 0;
+        for (double x = 100; x < 148; x += 0.5) {
+            black += At(picture, x, 115) == 0 ? 1 : 0;
+        }
+        return black;
+    };
+    EXPECT_GT(letters(), 10);
+    drawing_.Line_By_Hand(100, 115, 148, 115, 0xFF0000, 40);
+    EXPECT_EQ(letters(), 0);
+}
+
 TEST_F(Painting, Joins_Lines_Of_One_Pen_Alone) {
     drawing_.Clear();
     drawing_.Line(0, 0, 1, 1, 0, 1);
@@ -267,9 +308,12 @@ TEST_F(Painting, An_Svg_Is_Well_Formed_And_Tells_The_Width_Of_Its_Texts) {
     while (!reader.atEnd()) {
         reader.readNext();
         if (reader.isStartElement() && reader.name() == QLatin1String("text")) {
-            EXPECT_EQ(reader.attributes().value(QLatin1String("fill")), QLatin1String("#123456"));
+            const bool is_halo = reader.attributes().hasAttribute(QLatin1String("stroke"));
+            EXPECT_EQ(reader.attributes().value(QLatin1String(is_halo ? "stroke" : "fill")),
+                      QLatin1String(is_halo ? "#ffffff" : "#123456"));
             EXPECT_FALSE(reader.attributes().value(QLatin1String("textLength")).isEmpty());
-            texts += reader.readElementText();
+            const QString text = reader.readElementText();
+            texts += is_halo ? QString() : text; // the white around the letters
         }
     }
     EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();

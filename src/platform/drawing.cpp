@@ -33,6 +33,17 @@ void Drawing::Line(double x1, double y1, double x2, double y2, int colour, doubl
          .style = style});
 }
 
+void Drawing::Line_By_Hand(double x1, double y1, double x2, double y2, int colour, double width) {
+    Add({.kind = Draw_Kind::Line,
+         .x1 = x1,
+         .y1 = y1,
+         .x2 = x2,
+         .y2 = y2,
+         .width = width,
+         .colour = colour,
+         .by_hand = true});
+}
+
 void Drawing::Circle(double x, double y, double radius, int colour, double width) {
     Add({.kind = Draw_Kind::Circle,
          .x1 = x,

@@ -23,6 +23,7 @@ struct Draw_Operation {
     double size = 0;  // of a text
     int colour = 0;
     Line_Style style = Line_Style::Solid;
+    bool by_hand = false; // drawn by the user over what stands there
     std::string text{};
 };
 
@@ -32,6 +33,8 @@ public:
     void Clear();
     void Line(double x1, double y1, double x2, double y2, int colour, double width,
               Line_Style style = Line_Style::Solid);
+    /// A line of the user's own, which lies over the texts as well.
+    void Line_By_Hand(double x1, double y1, double x2, double y2, int colour, double width);
     void Circle(double x, double y, double radius, int colour, double width);
     void Text(double x, double y, std::string_view text, double size, int colour);
 
