@@ -35,12 +35,14 @@ QString Joined(const QStringList& words) {
     return words.join(QLatin1Char(' ')).simplified();
 }
 
-QString With_Side(const QString& words, theme::Side side) {
-    if (words.isEmpty() || side == theme::Side::Neutral || Side_In(words) == side) {
-        return words;
-    }
+QString Told_Side(const QString& words, theme::Side side) {
     return words +
            (side == theme::Side::Intake ? QLatin1String(", Intake") : QLatin1String(", Exhaust"));
+}
+
+QString With_Side(const QString& words, theme::Side side) {
+    const bool is_told = side == theme::Side::Neutral || Side_In(words) == side;
+    return words.isEmpty() || is_told ? words : Told_Side(words, side);
 }
 
 } // namespace
@@ -98,9 +100,40 @@ QString Cell_Map::Captions_Above(int column, int row) const {
     constexpr int most_lines = 3; // above a heading there may be a unit
     QStringList words;
     while (Is_Caption(column, --row) && words.size() < most_lines) {
-        words.prepend(To_Qt(At(column, row)->Text()));
+        const Control& caption = *At(column, row);
+        if (!caption.Text().empty() && Place_Of(caption).columns == 1) {
+            words.prepend(To_Qt(caption.Text()));
+        }
     }
     return Joined(words);
+}
+
+const Control* Cell_Map::Label_Over(int column, int row) const {
+    while (Is_Caption(column, row - 1)) {
+        --row;
+    }
+    // The topmost caption may be the label, or the label lies over the column from the left.
+    for (const Control* const label : {At(column, row), At(column - 1, row - 1)}) {
+        if (label != nullptr && label->Entry().use == Cell_Use::Caption &&
+            Place_Of(*label).columns > 1 && !label->Text().empty()) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
+QString Cell_Map::Heading_Of(int column, int first_row) const {
+    const QString words = Captions_Above(column, first_row);
+    const Control* const label = Label_Over(column, first_row);
+    if (label == nullptr) {
+        return words;
+    }
+    // Of two columns under one label the intake is the first.
+    const theme::Side side =
+        column == Place_Of(*label).column ? theme::Side::Intake : theme::Side::Exhaust;
+    const QString both =
+        To_Qt(label->Text()) + (words.isEmpty() ? words : QLatin1String(", ") + words);
+    return Side_In(words) == theme::Side::Neutral ? Told_Side(both, side) : both;
 }
 
 int Cell_Map::First_Figure_Row(int column, int row) const {
@@ -118,7 +151,7 @@ QString Cell_Map::Bare_Words(int column, int row) const {
         return words;
     }
     const int first = First_Figure_Row(column, row);
-    words = Captions_Above(column, first);
+    words = Heading_Of(column, first);
     if (!words.isEmpty()) {
         const bool is_alone = first == row && !Is_Figure(column, row + 1);
         return is_alone ? words : words + QLatin1String(", row ") + Digits_Of(row);
@@ -182,7 +215,7 @@ theme::Side Cell_Map::Side_Of(const Control& cell) const {
     while (Is_Caption(place.column, last + 1)) {
         ++last;
     }
-    return Side_In(To_Qt(At(place.column, last)->Text()));
+    return Side_In(Heading_Of(place.column, last + 1));
 }
 
 } // namespace kestrum::desktop

@@ -40,6 +40,10 @@ private:
     [[nodiscard]] QString Captions_Left_Of(int column, int row) const;
     /// Caption texts that stand one below the other and end above a cell, joined.
     [[nodiscard]] QString Captions_Above(int column, int row) const;
+    /// The caption that lies over several columns, this one included, and tells something.
+    [[nodiscard]] const Control* Label_Over(int column, int row) const;
+    /// All that stands above the first figure of a column.
+    [[nodiscard]] QString Heading_Of(int column, int first_row) const;
     /// Row of the topmost of the figures that stand above a cell without a gap, or its own.
     [[nodiscard]] int First_Figure_Row(int column, int row) const;
     [[nodiscard]] QString Bare_Words(int column, int row) const;

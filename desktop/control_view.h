@@ -46,6 +46,13 @@ public:
     /// The captions around the field have changed.
     virtual void Take_Words(const QString& words) { facts.words = words; }
 
+    void Take_Side(theme::Side side) {
+        if (facts.side != side) {
+            facts.side = side;
+            Widget()->update();
+        }
+    }
+
     Control& control;
 
 protected:

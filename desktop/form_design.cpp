@@ -26,9 +26,9 @@ constexpr std::array page_2_cards{
     Place{0, 13, 11, 18},
 };
 constexpr std::array compare_cards{
-    Place{0, 10, 10, 21},
-    Place{10, 6, 4, 4},
-    Place{10, 12, 4, 4},
+    Place{0, 10, 3, 21}, // the From test
+    Place{3, 10, 3, 21}, // the To test
+    Place{6, 10, 4, 21}, Place{10, 7, 4, 4}, Place{10, 12, 4, 4},
 };
 constexpr std::array graph_cards{
     Place{10, 0, 4, 5},

@@ -104,6 +104,7 @@ void Page::Name_Fields_Anew() {
     for (const Item& item : items_) {
         if (item.view->control.Is_Text_Box()) {
             item.view->Take_Words(map_.Words_For(item.view->control));
+            item.view->Take_Side(map_.Side_Of(item.view->control));
         }
     }
 }

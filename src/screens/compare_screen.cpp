@@ -152,26 +152,26 @@ constexpr auto compare_table = std::to_array<Control_Entry>({
     Lone(Label, "Label4", "Valve Lift 2").At(10, 15, 2),
     Axis_Limit("Text4", 15, marker_tip),
     Lone_Field("Text71", Cell_Use::Input, "User Supplied Text for Graph Caption Line 1 -- ADD HERE")
-        .At(10, 18, 4),
+        .At(10, 17, 4),
     Lone_Field("Text72", Cell_Use::Input, "User Supplied Text for Graph Caption Line 2 -- ADD HERE")
-        .At(10, 19, 4),
+        .At(10, 18, 4),
 
     Lone(Check_Box, "Check1", "Show a Line on the Graph @ .25 Valve Diameter")
-        .At(10, 6, 4)
+        .At(10, 7, 4)
         .Tip("When Checked a Line will be drawn @ .25 Valve Diameter for both the Intake and "
              "Exhasut for both Flow Tests."),
     Lone(Check_Box, "Check2", "Calculate the Number of Lines on the X-Axis")
-        .At(10, 7, 4)
+        .At(10, 8, 4)
         .Tip("The Program Default is to have 10 Horizontal Lines on the X-Axis. When Checked this "
              "will cause the Program Calculate how many Horizontal Lines to use on the X-Axis. "
              "Depending on Max lift this could be every 0.025\", every 0.050\" or every 0.100\"."
              "\r\nNotes: This also working in Metric mode.\r\nThis only work for Valve Lift and "
              "not for L/D Ratio Graphs."),
     Lone(Check_Box, "Check3", "Show Data Points on Graph.")
-        .At(10, 8, 4)
+        .At(10, 9, 4)
         .Tip("When Checked this will cause the Program to Mark Each Data Point on the Graph."),
     Lone(Check_Box, "Check4", "Show Big")
-        .At(10, 9, 4)
+        .At(10, 10, 4)
         .Tip("When Checked this will cause the Program to Calculate the Low Y_Axis on the Graph "
              "instead of Using Zero for Effective Velocity, and Swirl."),
 
