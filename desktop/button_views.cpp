@@ -113,7 +113,8 @@ void Button_View::paintEvent(QPaintEvent* /*event*/) {
 Check_View::Check_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
     Check_View::Refresh();
-    connect(this, &QCheckBox::clicked, this, [this] { facts.events.Clicked(control); });
+    // Not `clicked`: a screen reader toggles without a click.
+    connect(this, &QCheckBox::toggled, this, [this] { facts.events.Clicked(control); });
 }
 
 void Check_View::Refresh() {
@@ -127,7 +128,11 @@ QRect Check_View::Area_In(const QRect& cell) const {
 Option_View::Option_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
     Option_View::Refresh();
-    connect(this, &QRadioButton::clicked, this, [this] { facts.events.Clicked(control); });
+    connect(this, &QRadioButton::toggled, this, [this](bool chosen) {
+        if (chosen) {
+            facts.events.Clicked(control);
+        }
+    });
 }
 
 void Option_View::Refresh() {

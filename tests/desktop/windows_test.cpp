@@ -84,6 +84,19 @@ TEST(Windows, choices_that_are_pure_state_work) {
     EXPECT_EQ(bench.At("Form50.Check3").Value(), 1);
 }
 
+TEST(Windows, a_screen_reader_chooses_as_the_mouse_does) {
+    Desktop_Bench bench;
+    bench.Click("Main.Command50");
+    for (const char* const address : {"Form50.Option3(9)", "Form50.Check2"}) {
+        QAccessibleInterface* const button =
+            QAccessible::queryAccessibleInterface(&bench.Widget(address));
+        button->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        EXPECT_EQ(bench.At(address).Value(), 1) << address;
+    }
+    EXPECT_EQ(bench.At("Form50.Option3(0)").Value(), 0);
+    EXPECT_EQ(bench.program.Its_Session().auto_x_lines, 1);
+}
+
 TEST(Windows, a_failure_that_nobody_handles_is_shown_and_ends_the_program) {
     Desktop_Bench bench;
     bench.Open_Sheet();
@@ -160,9 +173,16 @@ TEST(Windows, every_field_is_called_what_the_trade_calls_it) {
         {"Main.Text103(8)", "CFM @ Peak Lift"},
         {"Main.Text102(9)", "Port cc's"},
         {"Main.Text33", "Name of test"},
+        {"Form50.Text102(17)", "Test 1 - E7TE, Mean Port Vel In., row 17"},
+        {"Form50.Text105(17)", "Test 2 - E7TE, Mean Port Vel Ex., row 17"},
+        {"Form50.Text107(17)", "Test 1 - E7TE, Intake, row 17"},
+        {"Form50.Text110(17)", "Test 2 - E7TE, Ft-lbs, Exhaust, row 17"},
     };
     Desktop_Bench bench;
     bench.Open_Sheet();
+    bench.Click("Main.Command50");
+    bench.Click("Form50.Option3(3)"); // its energies have no word for the side in their headings
+    bench.Click("Form50.Command1");
     for (const Named& line : cases) {
         QAccessibleInterface* const field =
             QAccessible::queryAccessibleInterface(&bench.Widget(line.address));
