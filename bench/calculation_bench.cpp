@@ -1,18 +1,17 @@
 // What a calculation costs beside the bare conversions between texts and numbers that it cannot do
-// without, and what loading a file costs beside its calculation. Ratios of one run hold on every
-// machine; the last lines print them.
+// without, and what loading a file or switching the units costs beside calculations. Ratios of one
+// run hold on every machine; the last lines print them.
 
-#include "core/session.h"
+#include "bench/fastest_reporter.h"
+#include "bench/silent_platform.h"
+#include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
 #include "sheet/flow_calculation.h"
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdio>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -28,25 +27,6 @@ constexpr int texts_read = 824;
 constexpr int numbers_written = 300;
 
 constexpr int repetitions = 5;
-
-class Silent_Platform : public Dialogs, public Windows {
-public:
-    Box_Answer Show_Box(const Box& /*box*/) override { return Box_Answer::Ok; }
-
-    std::optional<std::string> Choose_File(const Chooser& /*chooser*/) override {
-        return std::nullopt;
-    }
-
-    void Beep() override {}
-
-    void Show(Screen& /*screen*/) override {}
-
-    void Hide(Screen& /*screen*/) override {}
-
-    void Unload(Screen& /*screen*/) override {}
-
-    void Focus(Control& /*control*/) override {}
-};
 
 struct Bench {
     Silent_Platform platform;
@@ -105,35 +85,41 @@ void Load(benchmark::State& state) {
     }
 }
 
+void Calculate_All(Bench& bench) {
+    for (int number = 1; number <= sheet_count; ++number) {
+        Calc_Flow_Test(bench.session, bench.session.Sheet(number));
+        static_cast<void>(bench.session.Sheet(number).Take_Changes());
+    }
+}
+
+/// What switching the units of all five tests and back may take.
+void Four_Calculations_Of_All(benchmark::State& state) {
+    Bench bench;
+    for (auto _ : state) {
+        for (int run = 0; run < 4; ++run) {
+            Calculate_All(bench);
+        }
+    }
+}
+
+void Metric_And_Back(benchmark::State& state) {
+    Bench bench;
+    Calculate_All(bench);
+    for (auto _ : state) {
+        Set_Metric(bench.session, true);
+        Set_Metric(bench.session, false);
+        for (int number = 1; number <= sheet_count; ++number) {
+            static_cast<void>(bench.session.Sheet(number).Take_Changes());
+        }
+        static_cast<void>(bench.session.Main().Take_Changes());
+    }
+}
+
 BENCHMARK(Bare_Conversions)->Repetitions(repetitions);
 BENCHMARK(Calculation)->Repetitions(repetitions);
 BENCHMARK(Load)->Repetitions(repetitions);
-
-/// Keeps the fastest repetition of each: what another program takes from it is no cost of ours.
-class Fastest : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs) {
-            if (run.run_type == Run::RT_Iteration) {
-                double& best =
-                    times_.try_emplace(run.run_name.function_name, run.GetAdjustedCPUTime())
-                        .first->second;
-                best = std::min(best, run.GetAdjustedCPUTime());
-            }
-        }
-    }
-
-    void Print_Ratio(const char* words, const char* over, const char* under, double wanted) const {
-        if (times_.contains(over) && times_.contains(under)) {
-            std::printf("%s: %.2f (wanted at most %g)\n", words, times_.at(over) / times_.at(under),
-                        wanted);
-        }
-    }
-
-private:
-    std::map<std::string, double> times_;
-};
+BENCHMARK(Four_Calculations_Of_All)->Repetitions(repetitions);
+BENCHMARK(Metric_And_Back)->Repetitions(repetitions);
 
 } // namespace
 
@@ -144,8 +130,10 @@ int main(int count, char* values[]) {
     if (benchmark::ReportUnrecognizedArguments(count, values)) {
         return 1;
     }
-    kestrum::Fastest reporter;
+    kestrum::Fastest_Reporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     reporter.Print_Ratio("calculation / bare conversions", "Calculation", "Bare_Conversions", 2);
     reporter.Print_Ratio("load / calculation", "Load", "Calculation", 3);
+    reporter.Print_Ratio("switch of units / two calculations of all", "Metric_And_Back",
+                         "Four_Calculations_Of_All", 1);
 }
