@@ -78,10 +78,7 @@ Graph_Screen& Session::Form60() {
         form60_ = std::make_unique<Graph_Screen>();
         form60_->caption = title_text + " -- Graph and Annotate";
         form60_->Combo1.Set_Items(Line_Widths());
-        if (logo_on == 1 && !logo_file.empty()) {
-            form60_->Picture2.Set_Visible(true);
-            form60_->Logo.Set_Text("Logo -- Is ON");
-        }
+        form60_->Show_Logo(logo_on == 1 && !logo_file.empty());
     }
     return *form60_;
 }

@@ -13,8 +13,7 @@ void Show_Logo(Session& session) {
         session.Message("No Logo File has been Seleted");
         return;
     }
-    session.Form60().Picture2.Set_Visible(true);
-    session.Form60().Logo.Set_Text("Logo -- Is ON");
+    session.Form60().Show_Logo(true);
 }
 
 } // namespace kestrum

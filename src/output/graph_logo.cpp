@@ -11,21 +11,12 @@ constexpr std::string_view filter =
     "Bit Map Image Files (*.bmp)|*.bmp|GIF Files (*.gif)|*.gif|JPG Files (*.jpg)|*.jpg|All Files "
     "(*.*)|*.*";
 
-void Take_Logo_Off(Session& session) {
+/// No path takes it off.
+void Put_Logo(Session& session, const std::string& path) {
     const Graph_Screen& screen = session.Form60();
-    screen.Picture2.Set_Visible(false);
-    screen.Logo.Set_Text("Logo -- Is OFF");
-    session.logo_on = 0;
-    session.logo_file.clear();
-    screen.Picture1.Repaint();
-}
-
-void Put_Logo_On(Session& session, const std::string& path) {
-    const Graph_Screen& screen = session.Form60();
-    screen.Picture2.Set_Visible(true);
-    screen.Logo.Set_Text("Logo -- Is ON");
-    session.logo_on = 1;
+    session.logo_on = path.empty() ? 0 : 1;
     session.logo_file = path;
+    screen.Show_Logo(!path.empty());
     screen.Picture1.Repaint();
 }
 
@@ -33,14 +24,14 @@ void Put_Logo_On(Session& session, const std::string& path) {
 
 void Toggle_Logo(Session& session) {
     if (session.logo_on == 1) {
-        return Take_Logo_Off(session);
+        return Put_Logo(session, {});
     }
     try {
         const std::string path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
         if (!Is_Picture_File(path)) {
             Fail(error::invalid_picture);
         }
-        Put_Logo_On(session, path);
+        Put_Logo(session, path);
     } catch (const Run_Time_Error&) {
         session.Message("No Logo File has been Seleted");
     }

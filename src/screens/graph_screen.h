@@ -20,6 +20,9 @@ public:
     Control& Label18 = The("Label18"); // Y under the mouse
     Control& Label19 = The("Label19"); // X under the mouse
     Control& Check1 = The("Check1");   // drawing with the mouse
+
+    /// Shows or hides the logo, and what the button says of it.
+    void Show_Logo(bool shown) const;
 };
 
 } // namespace kestrum
