@@ -19,8 +19,10 @@ namespace {
 
 QPen Pen_Of(const Draw_Operation& operation) {
     static constexpr std::array styles{Qt::SolidLine, Qt::DashLine, Qt::DotLine};
+    // The pieces of a curve bend so little that a round joint shows as a knot on it.
+    const Qt::PenJoinStyle joint = operation.by_hand ? Qt::RoundJoin : Qt::BevelJoin;
     return {QColor::fromRgb(static_cast<QRgb>(operation.colour)), operation.width,
-            styles.at(static_cast<std::size_t>(operation.style)), Qt::RoundCap, Qt::RoundJoin};
+            styles.at(static_cast<std::size_t>(operation.style)), Qt::RoundCap, joint};
 }
 
 class Qt_Step_Painter : public Step_Painter {
