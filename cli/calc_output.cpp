@@ -1,6 +1,7 @@
 #include "cli/calc_output.h"
 
 #include "cli/calc_tables.h"
+#include "cli/line_text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -9,19 +10,6 @@
 namespace kestrum::cli {
 
 namespace {
-
-/// A field of a comma-separated line; one that holds a mark of the format stands in quotes.
-void Append_Field(std::string& out, std::string_view text) {
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
-        out += text;
-        return;
-    }
-    out += '"';
-    for (const char letter : text) {
-        out.append(letter == '"' ? 2U : 1U, letter);
-    }
-    out += '"';
-}
 
 void Append_Csv(std::string& out, const Calc_Result& result) {
     if (!result.loaded) {

@@ -2,27 +2,12 @@
 
 #include "cli/calc_output.h"
 #include "cli/calc_sheet.h"
+#include "cli/line_text.h"
 #include "cli/script_error.h"
 
 namespace kestrum::cli {
 
 namespace {
-
-/// A box's text in one line: what is no letter there, line breaks above all, becomes a blank.
-std::string One_Line(std::string_view text) {
-    constexpr unsigned char first_letter = 32;
-    constexpr unsigned char rubout = 127;
-    std::string line;
-    for (const char letter : text) {
-        const auto code = static_cast<unsigned char>(letter);
-        if (code >= first_letter && code != rubout) {
-            line += letter;
-        } else if (!line.ends_with(' ')) {
-            line += ' ';
-        }
-    }
-    return line;
-}
 
 /// The run over the files. What it writes is gathered, so that the system is asked once for many
 /// lines.

@@ -1,5 +1,6 @@
 #include "cli/compare_output.h"
 
+#include "cli/line_text.h"
 #include "core/text.h"
 #include "screens/flow_sheet.h"
 
@@ -36,19 +37,6 @@ void Append_Row(std::string& out, const Compare_Screen& table, int row) {
     }
     out.erase(out.find_last_not_of(' ') + 1);
     out += '\n';
-}
-
-/// A field of a comma-separated line; one that holds a mark of the format stands in quotes.
-void Append_Field(std::string& out, std::string_view text) {
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
-        out += text;
-        return;
-    }
-    out += '"';
-    for (const char letter : text) {
-        out.append(letter == '"' ? 2U : 1U, letter);
-    }
-    out += '"';
 }
 
 } // namespace

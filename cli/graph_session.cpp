@@ -1,6 +1,7 @@
 #include "cli/graph_session.h"
 
 #include "application/events.h"
+#include "cli/line_text.h"
 #include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
 #include "output/graph_saving.h"
@@ -13,23 +14,6 @@ namespace {
 
 constexpr int from_sheet = 1;
 constexpr int to_sheet = 2;
-
-/// A box's text in one line: what is no letter there, line breaks above all, becomes a blank.
-std::string One_Line(std::string_view text) {
-    constexpr unsigned char first_letter = 32;
-    constexpr unsigned char rubout = 127;
-    std::string line;
-    for (const char letter : text) {
-        const auto code = static_cast<unsigned char>(letter);
-        if (code >= first_letter && code != rubout) {
-            line += letter;
-        } else if (!line.ends_with(' ')) {
-            line += ' ';
-        }
-    }
-    line.erase(line.find_last_not_of(' ') + 1);
-    return line;
-}
 
 } // namespace
 

@@ -175,22 +175,18 @@ void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
 }
 
 void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) {
-    std::string path;
     std::string bytes;
     try {
-        path = name.empty() ? Chosen_File(session, Chooser_Mode::Open, filter, 3)
-                            : Path_Of_Named_File(session, name);
-        bytes = Read_Whole_File(path);
+        bytes = Bytes_Of_File(session, name, filter);
     } catch (const Run_Time_Error&) {
         session.Message("Flow Data File has Not been Loaded", Box_Icon::Exclamation);
         return;
     }
-    session.file_path = path;
     if (Read_Flow_Records(session, sheet, bytes) && name.empty()) {
         session.Message(session.number.Fmt_Thousands(session.records_read) + " Records Read");
     }
     // Behind the decimal switch, which would make ".dat" ",dat".
-    sheet.Text39.Set_Text(path);
+    sheet.Text39.Set_Text(session.file_path);
 }
 
 bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes) {

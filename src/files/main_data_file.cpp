@@ -53,17 +53,13 @@ void Save_Main_File(Session& session) {
 }
 
 bool Load_Main_File(Session& session, std::string_view name) {
-    std::string path;
     std::string bytes;
     try {
-        path = name.empty() ? Chosen_File(session, Chooser_Mode::Open, filter, 3)
-                            : Path_Of_Named_File(session, name);
-        bytes = Read_Whole_File(path);
+        bytes = Bytes_Of_File(session, name, filter);
     } catch (const Run_Time_Error&) {
         session.Message("MAIN Data File has Not been Loaded");
         return false;
     }
-    session.file_path = path;
     return Read_Main_Records(session, bytes);
 }
 

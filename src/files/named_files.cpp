@@ -1,5 +1,6 @@
 #include "files/named_files.h"
 
+#include "core/chosen_file.h"
 #include "core/text.h"
 #include "platform/file_store.h"
 
@@ -18,6 +19,16 @@ std::string Path_Of_Named_File(const Session& session, std::string_view name) {
     dotted[comma] = '.';
     dotted = Find_Case_Blind(dotted);
     return File_Exists(dotted) ? dotted : path;
+}
+
+std::string Bytes_Of_File(Session& session, std::string_view name, std::string_view filter) {
+    constexpr int own_files = 3; // in the filters of both kinds
+    const std::string path = name.empty()
+                                 ? Chosen_File(session, Chooser_Mode::Open, filter, own_files)
+                                 : Path_Of_Named_File(session, name);
+    std::string bytes = Read_Whole_File(path);
+    session.file_path = path;
+    return bytes;
 }
 
 } // namespace kestrum
