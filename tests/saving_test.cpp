@@ -64,7 +64,8 @@ TEST(Saving, A_Full_Disk_Leaves_The_Old_File_Whole) {
         EXPECT_TRUE(Holds_In_Child([&] {
             Limit_File_Size(bytes);
             bench.platform.Choose(path);
-            return bench.Click("Form1.Save_Data") == Events{"chooser to save", not_saved} &&
+            return Error_Of([&] { Write_Whole_File(path, std::string(4000, 'x')); }) == 61 &&
+                   bench.Click("Form1.Save_Data") == Events{"chooser to save", not_saved} &&
                    bench.Get("Form1.Text39").empty();
         })) << bytes;
         EXPECT_EQ(bench.folder.Read("head.dat"), old) << bytes;

@@ -28,6 +28,10 @@ namespace fs = std::filesystem;
     case EPERM:
     case EROFS:
         Fail(error::permission_denied);
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        Fail(error::disk_full);
     default:
         Fail(error::path_or_file_access);
     }

@@ -36,7 +36,7 @@ void Move_File(const std::string& from, const std::string& to);
 
 /// Puts a content under a name in one step: a new file beside the target is written, flushed to
 /// the disk and renamed over it. When anything fails, the old file stays whole and the new one is
-/// removed. Raises 70, 75 or 76.
+/// removed. Raises 61, 70, 75 or 76.
 void Write_Whole_File(const std::string& path, std::string_view content);
 
 } // namespace kestrum

@@ -14,13 +14,14 @@ struct Known_Error {
     std::string_view description;
 };
 
-constexpr std::array<Known_Error, 13> known_errors{{
+constexpr std::array<Known_Error, 14> known_errors{{
     {error::invalid_call, "Invalid procedure call or argument"},
     {error::overflow, "Overflow"},
     {error::subscript_out_of_range, "Subscript out of range"},
     {error::division_by_zero, "Division by zero"},
     {error::type_mismatch, "Type mismatch"},
     {error::file_not_found, "File not found"},
+    {error::disk_full, "Disk full"},
     {error::input_past_end, "Input past end of file"},
     {error::permission_denied, "Permission denied"},
     {error::path_or_file_access, "Path/File access error"},

@@ -28,6 +28,7 @@ inline constexpr int subscript_out_of_range = 9;
 inline constexpr int division_by_zero = 11;
 inline constexpr int type_mismatch = 13;
 inline constexpr int file_not_found = 53;
+inline constexpr int disk_full = 61;
 inline constexpr int input_past_end = 62;
 inline constexpr int permission_denied = 70;
 inline constexpr int path_or_file_access = 75;
