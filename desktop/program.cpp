@@ -10,8 +10,7 @@ Program::Program(Dialogs& dialogs, const Surroundings& surroundings)
     : gate_(dialogs),
       session_(dialogs, windows_, surroundings),
       printers_([this](const std::string& screen) {
-          QWidget* const window = windows_.Window_Of(*session_.Screen_Named(screen));
-          return window == nullptr ? QPixmap() : window->grab();
+          return windows_.Window_Of(*session_.Screen_Named(screen));
       }),
       windows_(gate_) {
     windows_.Take_Session(session_);
