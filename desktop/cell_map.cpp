@@ -123,7 +123,7 @@ const Control* Cell_Map::Label_Over(int column, int row) const {
 }
 
 QString Cell_Map::Heading_Of(int column, int first_row) const {
-    const QString words = Captions_Above(column, first_row);
+    QString words = Captions_Above(column, first_row);
     const Control* const label = Label_Over(column, first_row);
     if (label == nullptr) {
         return words;

@@ -30,6 +30,12 @@ QFont Text_Font() {
     return font;
 }
 
+/// A file may bring a name of megabytes; what is behind this could not be read anyway.
+QString Without_Endless_End(const QString& text) {
+    constexpr qsizetype most_letters = 200;
+    return text.size() <= most_letters ? text : text.left(most_letters) + QChar(0x2026);
+}
+
 /// Fonts have whole sizes, so one of this size is scaled.
 constexpr int design_size = 100;
 
@@ -45,7 +51,7 @@ QRectF Fitted_Text::Box() const {
 Fitted_Text Fitted(const Draw_Operation& operation, double left, double width) {
     constexpr double halo_to_height = 0.25;
     Fitted_Text fitted;
-    fitted.text = QString::fromStdString(operation.text);
+    fitted.text = Without_Endless_End(QString::fromStdString(operation.text));
     fitted.font = Text_Font();
     fitted.font.setPixelSize(design_size);
     fitted.colour = operation.colour;
