@@ -324,6 +324,10 @@ TEST(Compare_Table, Both_Halves_Name_The_From_Test) {
         "stop box: Error Number 11 -- Division by zero" + last_words +
         "\r\n\r\nCheck for a Field that has a Value of Zero that should not be Zero";
     EXPECT_EQ(bench.Click("Form50.Command1"), (Events{box, box}));
+    bench.Set("Form1.Text102(2)", "x"); // of two faults the one that is read first counts
+    bench.Set("Form1.Text102(8)", "0");
+    EXPECT_EQ(bench.Click("Form50.Command1"),
+              (Events{"stop box: Error Number 13 -- Type mismatch" + last_words, box}));
 }
 
 } // namespace

@@ -1,3 +1,5 @@
+#include "application/events.h"
+#include "application/variables.h"
 #include "graph/curve_fit.h"
 #include "tests/graph_test_bench.h"
 
@@ -39,6 +41,32 @@ TEST(Curve_Fit, Gives_A_Value_Worked_By_Hand) {
     EXPECT_NEAR(bends[1].y, -104.1666667, 1e-6);
     EXPECT_EQ(bends[0].y, 0);
     EXPECT_EQ(bends[2].y, 0);
+}
+
+TEST(Graph_Drawing, Tells_What_It_Drew_With) {
+    Graph_Bench bench;
+    const auto told = [&](std::string_view name) {
+        return Variable_Named(bench.session, name).value();
+    };
+    EXPECT_EQ(told("Y_Label_Text(0)"), Variable_Value(""));
+    bench.Draw(0); // to 290
+    bench.Click("Form60.Check1");
+    Mouse_On_Picture(bench.session, bench.At("Form60.Picture1"), Mouse_Action::Down, 10, 20);
+    EXPECT_EQ(told("Y_Label_Text(0)"), Variable_Value("261"));
+    EXPECT_EQ(told("Y_Label_Text(9)"), Variable_Value("0"));
+    EXPECT_EQ(told("X_Label_Text(128)"), Variable_Value(""));
+    EXPECT_EQ(Error_Of([&] { static_cast<void>(told("X_Label_Text(129)")); }), 9);
+    const std::pair<const char*, double> numbers[] = {
+        {"Curve_Sample_Count_From", 1500},
+        {"Curve_Point_Count", 15},
+        {"Curve_Red", 255},
+        {"Curve_Blue", 0},
+        {"Saved_Draw_Width", 4},
+        {"Curve_Tension", 50},
+    };
+    for (const auto& [name, value] : numbers) {
+        EXPECT_EQ(told(name), Variable_Value(value)) << name;
+    }
 }
 
 TEST(Graph_Drawing, Draws_A_Curve_In_1498_Pieces) {

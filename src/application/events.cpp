@@ -160,6 +160,7 @@ void Close_Window(Session& session, Screen& screen) {
     } else {
         if (name == "Form60") {
             session.graph.plus_count = no_graph; // the picture is gone
+            session.graph.draw_width = 1;
         }
         session.Unload(screen);
     }

@@ -39,6 +39,13 @@ Variable_Value Graph(const Session& session) {
     return static_cast<double>(session.graph.*member);
 }
 
+/// One byte of the colour of the curve that was drawn last.
+template <unsigned shift>
+Variable_Value Curve_Colour(const Session& session) {
+    constexpr unsigned byte = 0xFF;
+    return double(static_cast<unsigned>(session.graph.curve_colour) >> shift & byte);
+}
+
 /// Scratch of other days: counters are locals now, and work texts are empty between operations.
 Variable_Value Zero(const Session& /*session*/) {
     return 0.0;
@@ -99,12 +106,21 @@ const auto variables = std::to_array<Variable>({
     {"X_Line_Count", Number<&S::x_line_count>},
     {"Draw_Line_Color", Number<&S::draw_line_color>},
     {"Draw_Line_Width", Number<&S::draw_line_width>},
+    {"Saved_Draw_Width", Graph<&Graph_State::saved_draw_width>},
+    {"Picked_Color", Text<&S::picked_color>},
     {"Compare_From_Label", Text<&S::compare_from_label>},
     {"Compare_To_Label", Text<&S::compare_to_label>},
     {"Graph_Plus_Count", Graph<&Graph_State::plus_count>},
     {"From_Point_Count", Graph<&Graph_State::from_point_count>},
     {"To_Point_Count", Graph<&Graph_State::to_point_count>},
     {"Graph_Tension", Graph<&Graph_State::tension>},
+    {"Curve_Tension", Graph<&Graph_State::tension>}, // every curve is drawn with it
+    {"Curve_Sample_Count_From", Graph<&Graph_State::from_sample_count>},
+    {"Curve_Sample_Count_To", Graph<&Graph_State::to_sample_count>},
+    {"Curve_Point_Count", Graph<&Graph_State::curve_point_count>},
+    {"Curve_Red", Curve_Colour<16>},
+    {"Curve_Green", Curve_Colour<8>},
+    {"Curve_Blue", Curve_Colour<0>},
     {"X_Low", Graph<&Graph_State::x_low>},
     {"X_High", Graph<&Graph_State::x_high>},
     {"Y_Low", Graph<&Graph_State::y_low>},
@@ -153,27 +169,38 @@ const auto variables = std::to_array<Variable>({
     {"Throat_Limit_Ex", Seat<&S::exhaust_seat, &G::throat_limit>},
 });
 
-/// The arrays of the graph's points, as "From_X(3)".
-struct Series_Variable {
+/// A member of an array of the graph. Raises 9 for an index outside of it.
+template <auto array>
+Variable_Value Member(const Session& session, std::size_t index) {
+    const auto& members = session.graph.*array;
+    if (index >= members.size()) {
+        Fail(error::subscript_out_of_range);
+    }
+    return members[index];
+}
+
+/// The arrays of the graph, as "From_X(3)".
+struct Array_Variable {
     std::string_view name;
-    Series Graph_State::*series;
+    Variable_Value (*read)(const Session& session, std::size_t index);
 };
 
-constexpr std::array<Series_Variable, 6> series_variables{{
-    {"From_X", &Graph_State::from_x},
-    {"To_X", &Graph_State::to_x},
-    {"From_Intake", &Graph_State::from_intake},
-    {"From_Exhaust", &Graph_State::from_exhaust},
-    {"To_Intake", &Graph_State::to_intake},
-    {"To_Exhaust", &Graph_State::to_exhaust},
+constexpr std::array<Array_Variable, 8> array_variables{{
+    {"From_X", Member<&Graph_State::from_x>},
+    {"To_X", Member<&Graph_State::to_x>},
+    {"From_Intake", Member<&Graph_State::from_intake>},
+    {"From_Exhaust", Member<&Graph_State::from_exhaust>},
+    {"To_Intake", Member<&Graph_State::to_intake>},
+    {"To_Exhaust", Member<&Graph_State::to_exhaust>},
+    {"X_Label_Text", Member<&Graph_State::x_label_text>},
+    {"Y_Label_Text", Member<&Graph_State::y_label_text>},
 }};
 
-/// Raises 9 for an index outside of the array.
-std::optional<Variable_Value> Series_Member(const Session& session, std::string_view name) {
+std::optional<Variable_Value> Array_Member(const Session& session, std::string_view name) {
     const std::size_t bracket = name.find('(');
     const auto* const found =
-        std::ranges::find(series_variables, name.substr(0, bracket), &Series_Variable::name);
-    if (found == series_variables.end() || bracket == std::string_view::npos) {
+        std::ranges::find(array_variables, name.substr(0, bracket), &Array_Variable::name);
+    if (found == array_variables.end() || bracket == std::string_view::npos) {
         return std::nullopt;
     }
     std::size_t index = 0;
@@ -182,11 +209,7 @@ std::optional<Variable_Value> Series_Member(const Session& session, std::string_
     if (failure != std::errc() || std::string_view(end, name.data() + name.size()) != ")") {
         return std::nullopt;
     }
-    const Series& series = session.graph.*found->series;
-    if (index >= series.size()) {
-        Fail(error::subscript_out_of_range);
-    }
-    return series.at(index);
+    return found->read(session, index);
 }
 
 } // namespace
@@ -194,7 +217,7 @@ std::optional<Variable_Value> Series_Member(const Session& session, std::string_
 std::optional<Variable_Value> Variable_Named(const Session& session, std::string_view name) {
     const auto* const found = std::ranges::find(variables, name, &Variable::name);
     if (found == variables.end()) {
-        return Series_Member(session, name);
+        return Array_Member(session, name);
     }
     return found->read(session);
 }

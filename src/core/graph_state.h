@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace kestrum {
 
@@ -15,6 +16,8 @@ struct Curve_Point {
 
 inline constexpr int most_curve_points = 15;
 using Series = std::array<double, most_curve_points>;
+
+inline constexpr int usual_axis_labels = 129;
 
 /// Overlay count while there is no graph to lay over.
 inline constexpr int no_graph = 999;
@@ -39,6 +42,18 @@ struct Graph_State {
     double x_per_unit = 0;
     double y_per_unit = 0;
     double legend_offset = 0;
+    /// Numbers of the axes from the high end down. They only grow, as more lines are asked for.
+    std::vector<std::string> x_label_text = std::vector<std::string>(usual_axis_labels);
+    std::vector<std::string> y_label_text = std::vector<std::string>(usual_axis_labels);
+    /// Samples of a curve of each test.
+    int from_sample_count = 0;
+    int to_sample_count = 0;
+    /// Points and colour, 0xRRGGBB, of the last curve that was tried.
+    int curve_point_count = 0;
+    int curve_colour = 0;
+    /// Pen of the canvas, and what it was before a line by hand took it.
+    double draw_width = 1;
+    double saved_draw_width = 0;
     int plot_left = 0;
     int plot_right = 599;
     int plot_bottom = 599;

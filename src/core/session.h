@@ -108,6 +108,8 @@ public:
     int y_line_count = 10;
     int x_line_count = 10;
     int draw_line_color = 99999;
+    /// What the colour dialog gave, as decimal digits; empty after a cancel.
+    std::string picked_color;
     int draw_line_width = 3;
     int flow_filter_index = 1;
     /// Labels of the two compared tests: number and part number.

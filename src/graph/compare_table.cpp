@@ -137,7 +137,8 @@ void Fill_Differences(Session& session, const Flow_Sheet& sheet, const Compare_T
         return;
     }
     const auto difference = [&](const Control& to, const Control& from) {
-        return (number.*type.format)(number(to) - number(from));
+        const Real minuend = number(to); // read first
+        return (number.*type.format)(minuend - number(from));
     };
     table.Text107(row).Set_Text(difference(table.Text104(row), table.Text102(row)));
     if (type.comparison == Comparison::Difference) {

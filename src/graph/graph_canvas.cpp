@@ -7,7 +7,7 @@
 namespace kestrum {
 
 Graph_Canvas::Graph_Canvas(Session& session)
-    : font_size(12 * session.scale_font), session_(session) {}
+    : pen_width(session.graph.draw_width), font_size(12 * session.scale_font), session_(session) {}
 
 void Graph_Canvas::Line(double x1, double y1, double x2, double y2, int colour) const {
     State().canvas.Line(x1, y1, x2, y2, colour, pen_width);

@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] Graph_State& State() const { return session_.graph; }
 
-    double pen_width = 1;
+    double& pen_width;
     double font_size = 12;
 
     void Line(double x1, double y1, double x2, double y2, int colour) const;

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int black = 0x000000;
 constexpr std::size_t fewest_points = 3;
+constexpr int samples_per_point = 100;
 
 /// Colours of a graph and of its overlays, 0xRRGGBB.
 struct Scheme {
@@ -54,7 +55,6 @@ void Draw_Curve(Graph_Canvas& canvas, const Curve& curve, const std::vector<Curv
     if (session.Form50().Check1.Value() != 0) {
         canvas.Vertical_Line(session.number(curve.quarter_diameter).Value(), curve.colour);
     }
-    constexpr int samples_per_point = 100;
     const int samples = curve.point_count * samples_per_point - 1;
     canvas.State().canvas.Reserve(static_cast<std::size_t>(samples));
     Curve_Point present = canvas.Mapped(points.front());
@@ -73,9 +73,11 @@ void Draw_Curve(Graph_Canvas& canvas, const Curve& curve, const std::vector<Curv
 /// Draws a curve unless it has too few points.
 bool Try_Curve(Graph_Canvas& canvas, const Curve& curve) {
     const std::vector<Curve_Point> points = Points_Of(curve);
+    canvas.State().curve_point_count = static_cast<int>(points.size());
     if (points.size() < fewest_points) {
         return false;
     }
+    canvas.State().curve_colour = curve.colour;
     Draw_Curve(canvas, curve, points);
     return true;
 }
@@ -146,6 +148,8 @@ double Legend_Offset_For(const Session& session) {
 void Draw_Graph(Session& session) {
     Graph_State& graph = session.graph;
     Graph_Canvas canvas(session);
+    graph.from_sample_count = graph.from_point_count * samples_per_point;
+    graph.to_sample_count = graph.to_point_count * samples_per_point;
     if (graph.plus_count == 0) {
         graph.legend_offset = 0;
         graph.canvas.Clear();

@@ -3,6 +3,7 @@
 #include "graph/axis_number.h"
 #include "graph/compare_types.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <span>
@@ -65,24 +66,26 @@ double Grid_Pen(Session& session) {
     return solid && session.grid_colour != usual_colour ? 2 : 1;
 }
 
-/// Axis numbers from the high end down to the low end.
-std::vector<std::string> Axis_Numbers(const Numeric_Text& number, double high, double low,
-                                      int count) {
-    std::vector<std::string> texts;
-    for (int line = 0; line + 1 < count; ++line) {
-        texts.push_back(Format_Axis_Number(number, high - (high - low) / count * (line + 1)));
+/// Writes the axis numbers from the high end down to the low end; gives those of this graph.
+std::span<const std::string> Axis_Numbers(const Numeric_Text& number, double high, double low,
+                                          int count, std::vector<std::string>& texts) {
+    const auto last = static_cast<std::size_t>(std::max(count - 1, 0));
+    texts.resize(std::max(texts.size(), last + 1));
+    for (std::size_t line = 0; line < last; ++line) {
+        texts[line] =
+            Format_Axis_Number(number, high - (high - low) / count * static_cast<double>(line + 1));
     }
-    texts.push_back(Format_Axis_Number(number, low));
-    return texts;
+    texts[last] = Format_Axis_Number(number, low);
+    return std::span(texts).first(last + 1);
 }
 
 void Draw_Y_Numbers(const Graph_Canvas& canvas) {
     const Session& session = canvas.Owner();
-    const Graph_State& graph = canvas.State();
+    Graph_State& graph = canvas.State();
     const double step = session.canvas_y_size / session.y_line_count;
     double y = 2;
-    for (const std::string& text :
-         Axis_Numbers(session.number, graph.y_high, graph.y_low, session.y_line_count)) {
+    for (const std::string& text : Axis_Numbers(session.number, graph.y_high, graph.y_low,
+                                                session.y_line_count, graph.y_label_text)) {
         y += step; // under its own grid line
         canvas.Text_In_Span(" " + text, std::floor(graph.plot_left + 5),
                             std::floor(session.canvas_x_size), y, Span_Mode::Left);
@@ -97,11 +100,11 @@ double X_Number_Row(const Graph_Canvas& canvas) {
 void Draw_X_Numbers(const Graph_Canvas& canvas) {
     constexpr double gap = 2;
     const Session& session = canvas.Owner();
-    const Graph_State& graph = canvas.State();
+    Graph_State& graph = canvas.State();
     const double step = session.canvas_x_size / session.x_line_count;
     double line = session.canvas_x_size;
-    for (const std::string& text :
-         Axis_Numbers(session.number, graph.x_high, graph.x_low, session.x_line_count)) {
+    for (const std::string& text : Axis_Numbers(session.number, graph.x_high, graph.x_low,
+                                                session.x_line_count, graph.x_label_text)) {
         line -= step;
         canvas.Text(std::max(line - (canvas.Text_Width(text) + gap), 0.0), X_Number_Row(canvas),
                     text);

@@ -43,8 +43,10 @@ Real Energy(const Numeric_Text& number, const Port& port, const Control& velocit
 
 Real Density(const Numeric_Text& number, const Port& port, const Control& velocity,
              const Units& units) {
-    return Energy(number, port, velocity, units) / (number(port.area) / units.square_inch) *
-           (12 / (number(port.length) / units.inch));
+    // In steps, so that of two failures the first one counts.
+    const Real energy = Energy(number, port, velocity, units);
+    const Real per_area = energy / (number(port.area) / units.square_inch);
+    return per_area * (12 / (number(port.length) / units.inch));
 }
 
 using Formula = Real (*)(const Numeric_Text&, const Port&, const Control&, const Units&);

@@ -23,6 +23,7 @@ void Show_Values(Session& session, const Curve_Point& at) {
 /// else.
 void Draw_To(Session& session, const Curve_Point& at) {
     Graph_State& graph = session.graph;
+    graph.saved_draw_width = graph.draw_width;
     graph.canvas.Line_By_Hand(graph.pen_at.x, graph.pen_at.y, at.x, at.y,
                               Swapped_Colour(session.draw_line_color), session.draw_line_width);
     graph.pen_at = at;

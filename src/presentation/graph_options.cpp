@@ -3,8 +3,11 @@
 namespace kestrum {
 
 std::optional<int> Get_Color(Session& session) {
+    session.picked_color.clear();
     const auto colour = session.dialogs.Choose_Colour();
-    if (!colour) {
+    if (colour) {
+        session.picked_color = session.number.Plain(*colour);
+    } else {
         session.Message("No Color Selected");
     }
     return colour;

@@ -40,10 +40,9 @@ void Correct_Flow(const Row_Side& at) {
     const Control& correction = at.context.sheet.Text110(8);
     Control& swirl = at.context.sheet.Text207(at.row);
     if (Holds_Text(observed) && Holds_Text(depression) && at.Number(depression) > 0) {
-        at.Put(at.Corrected(),
-               at.Number(observed) *
-                   Power(at.Number(at.context.sheet.Text108(8)) / at.Number(depression), 0.5),
-               at.context.units.corrected_flow);
+        const Real flow = at.Number(observed); // read before the pressures
+        const Real pressures = at.Number(at.context.sheet.Text108(8)) / at.Number(depression);
+        at.Put(at.Corrected(), flow * Power(pressures, 0.5), at.context.units.corrected_flow);
         if (at.Number(at.Corrected()) == 0) {
             if (at.Is_Intake()) { // swirl is measured on the intake
                 swirl.Set_Text("0");
