@@ -4,8 +4,12 @@
 #include "desktop/text_bridge.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -55,6 +59,41 @@ Box_Answer Answer_Of(int button) {
     }
 }
 
+/// A question is answered by one of its buttons; Escape is none of them.
+class Question_Box : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() != Qt::Key_Escape || !(standardButtons() & QMessageBox::No)) {
+            QMessageBox::keyPressEvent(event);
+        }
+    }
+
+    void closeEvent(QCloseEvent* event) override {
+        if (standardButtons() & QMessageBox::No) {
+            event->ignore();
+        } else {
+            QMessageBox::closeEvent(event);
+        }
+    }
+};
+
+/// Tells folders from files by nothing else: a look into each file would hang on a slow one.
+class Plain_Icons : public QFileIconProvider {
+public:
+    using QFileIconProvider::icon;
+
+    [[nodiscard]] QIcon icon(const QFileInfo& file) const override {
+        return icon(file.isDir() ? QFileIconProvider::Folder : QFileIconProvider::File);
+    }
+
+    [[nodiscard]] QString type(const QFileInfo& file) const override {
+        return file.isDir() ? QStringLiteral("Folder") : file.suffix();
+    }
+};
+
 } // namespace
 
 QString Text_For_Box(std::string_view text) {
@@ -78,7 +117,7 @@ QString Text_For_Box(std::string_view text) {
 }
 
 Box_Answer Desktop_Dialogs::Show_Box(const Box& box) {
-    QMessageBox dialog(QApplication::activeWindow());
+    Question_Box dialog(QApplication::activeWindow());
     dialog.setTextFormat(Qt::PlainText);
     dialog.setWindowTitle(To_Qt(box.title.empty() ? title_ : box.title));
     dialog.setText(Text_For_Box(box.text));
@@ -88,12 +127,14 @@ Box_Answer Desktop_Dialogs::Show_Box(const Box& box) {
 }
 
 std::optional<std::string> Desktop_Dialogs::Choose_File(const Chooser& chooser) {
+    Plain_Icons icons;
     const bool saves = chooser.mode == Chooser_Mode::Save;
     QFileDialog dialog(QApplication::activeWindow(),
                        saves ? QStringLiteral("Save") : QStringLiteral("Open"),
                        To_Qt(chooser.folder));
     // The toolkit's own chooser keeps the filters in their words and order everywhere.
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
+    dialog.setIconProvider(&icons);
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     const QStringList filters = Name_Filters(chooser.filter);

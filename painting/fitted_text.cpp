@@ -42,8 +42,8 @@ constexpr int design_size = 100;
 } // namespace
 
 QRectF Fitted_Text::Box() const {
-    constexpr double above = 0.76; // the line, to the height of the font: the highest letters
-    constexpr double below = 0.24;
+    constexpr double above = 0.75; // of the font's height, to the top of the highest letters
+    constexpr double below = 0.23;
     const double height = font.pixelSize() * scale;
     return {left, baseline - above * height, width, (above + below) * height};
 }

@@ -72,11 +72,23 @@ std::string Pdf(const Subject& subject) {
 
 } // namespace
 
+void Qt_Painter::Take_Logo(const std::string& file) {
+    logo_ = Load_Logo({.file = file}).image;
+    logo_file_ = file;
+}
+
+Logo_Picture Qt_Painter::Picture_Of_Logo(const Placed_Logo& logo) const {
+    if (logo.file != logo_file_) {
+        return Load_Logo(logo);
+    }
+    return {.image = logo_, .left = logo.left, .top = logo.top};
+}
+
 std::string Qt_Painter::Picture_Of(const Drawing& drawing, Picture_Format format,
                                    const std::optional<Placed_Logo>& logo) {
     Subject subject{.drawing = drawing, .logo = {}};
     if (logo) {
-        subject.logo = Load_Logo(*logo);
+        subject.logo = Picture_Of_Logo(*logo);
     }
     switch (format) {
     case Picture_Format::Png:

@@ -83,7 +83,9 @@ private:
 } // namespace
 
 Logo_Picture Load_Logo(const Placed_Logo& logo) {
-    constexpr int most = 600; // units of the canvas, one for each dot of a logo
+    constexpr int most = 600;           // units of the canvas, one for each dot of a logo
+    constexpr int most_megabytes = 512; // a photograph of a hundred million dots
+    QImageReader::setAllocationLimit(most_megabytes);
     QImageReader reader(QString::fromStdString(logo.file));
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);

@@ -34,7 +34,7 @@ Fitted_Text Placed(const std::vector<Fitted_Text>& texts, const Draw_Operation& 
     Fitted_Text text = at(std::max(step.x1, least_left));
     const double left = Free_Left(texts, text.Box());
     // Where too little room is left it stays.
-    if (left > text.left && most_right - left > measure / 2) {
+    if (left > text.left && most_right - left > text.width / 2) {
         text = at(left);
     }
     return text;

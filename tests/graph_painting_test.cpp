@@ -179,6 +179,22 @@ TEST_F(Painting, No_Text_Lies_Over_Another_Or_Leaves_The_Frame) {
     EXPECT_LT(texts[3].scale, texts[2].scale) << "rather smaller than without any width";
 }
 
+TEST_F(Painting, Captions_Keep_Their_Places) {
+    drawing_.Text(5, 602, " 0", 12, 0);
+    drawing_.Text(220, 601, "Port job 12", 24, 0);
+    drawing_.Text(250, 620, "Bench 2", 24, 0);
+    drawing_.Text(62, 50, "Intake = Blue / Exhaust = Red", 12, 0);
+    drawing_.Text(62, 69, "Thin Graph Lines Test 1 - (gj)", 12, 0);
+    const std::vector<Fitted_Text> texts = Laid_Out_Texts(drawing_.Operations());
+    EXPECT_EQ(texts[1].left, 220);
+    EXPECT_EQ(texts[2].left, 250) << "below the other, not beside it";
+    EXPECT_EQ(texts[4].left, 62);
+    drawing_.Clear();
+    drawing_.Text(5, 602, " 0", 12, 0);
+    drawing_.Text(2, 601, std::string(300, 'x'), 24 / 1.331, 0); // wider than the picture
+    EXPECT_GT(Laid_Out_Texts(drawing_.Operations())[1].left, texts[0].left + texts[0].width);
+}
+
 TEST_F(Painting, Curves_Run_Under_Texts_And_The_Users_Lines_Over_Them) {
     drawing_.Text(100, 100, "MMMM", 24, 0);
     drawing_.Line(100, 115, 148, 115, 0x0000FF, 40); // all over the text
@@ -293,10 +309,15 @@ TEST_F(Painting, A_Large_Logo_Is_Taken_Smaller_And_A_Bad_One_Refused) {
     const Logo_Picture logo = Load_Logo({.file = path, .left = 1, .top = 2});
     EXPECT_EQ(logo.image.size(), QSize(600, 300));
     EXPECT_EQ(logo.top, 2);
+    painter_.Take_Logo(path);
+    logo_ = Placed_Logo{.file = path};
+    ASSERT_EQ(std::remove(path.c_str()), 0);
+    EXPECT_LT(At(Picture(Picture_Format::Bmp), 20, 20) & 0xFFU, 9U) << "it outlives its file";
     for (const std::string& bad :
          {folder_.Write("words.bmp", "BM and nothing else"), folder_.File("none.png")}) {
         logo_ = Placed_Logo{.file = bad};
         EXPECT_EQ(Error_Of([&] { static_cast<void>(Bytes(Picture_Format::Png)); }), 481) << bad;
+        EXPECT_EQ(Error_Of([&] { painter_.Take_Logo(bad); }), 481) << bad;
     }
 }
 

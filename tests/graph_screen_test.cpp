@@ -29,6 +29,14 @@ struct Word_Painter : Painter {
         return names.at(static_cast<std::size_t>(format)) + std::string(padding, '.');
     }
 
+    void Take_Logo(const std::string& file) override {
+        if (fails) {
+            Fail(error::invalid_picture);
+        }
+        taken_logo = file;
+    }
+
+    std::string taken_logo;
     std::size_t steps = 0;
     std::size_t padding = 0;
     std::optional<Placed_Logo> last_logo;
@@ -109,6 +117,7 @@ TEST_F(Graph_Screen_Test, Takes_A_Logo_And_Moves_It) {
     bench_.platform.Choose(path);
     EXPECT_EQ(bench_.Click("Form60.Logo"), Events{"chooser to open"});
     EXPECT_EQ(bench_.Get("Form60.Logo"), "Logo -- Is ON");
+    EXPECT_EQ(painter_.taken_logo, path);
     EXPECT_TRUE(bench_.session.Form60().Picture2.Present_Look().visible);
     Mouse("Form60.Picture2", Mouse_Action::Move, 7, 8); // not held
     Mouse("Form60.Picture2", Mouse_Action::Down, 1, 1);
@@ -143,6 +152,10 @@ TEST_F(Graph_Screen_Test, Refuses_Logos_That_Are_No_Pictures) {
         EXPECT_EQ(bench_.session.logo_on, 0);
         EXPECT_EQ(bench_.session.logo_file, "");
     }
+    painter_.fails = true; // its header is fine, what follows is not
+    bench_.platform.Choose(Logo_File("cut.gif"));
+    EXPECT_EQ(bench_.Click("Form60.Logo"), refused);
+    EXPECT_EQ(bench_.session.logo_on, 0);
 }
 
 TEST_F(Graph_Screen_Test, The_Name_Tells_The_Format) {

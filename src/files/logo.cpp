@@ -1,6 +1,6 @@
 #include "files/logo.h"
 
-#include "platform/picture_file.h"
+#include "core/logo_picture.h"
 
 namespace kestrum {
 
@@ -8,12 +8,13 @@ void Show_Logo(Session& session) {
     if (session.logo_on == 0 || session.logo_file.empty()) {
         return;
     }
-    if (!Is_Picture_File(session.logo_file)) {
+    try {
+        Take_Logo(session, session.logo_file);
+        session.Form60().Show_Logo(true);
+    } catch (const Run_Time_Error&) {
         session.logo_on = 0;
         session.Message("No Logo File has been Seleted");
-        return;
     }
-    session.Form60().Show_Logo(true);
 }
 
 } // namespace kestrum

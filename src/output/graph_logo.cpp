@@ -1,7 +1,7 @@
 #include "output/graph_logo.h"
 
 #include "core/chosen_file.h"
-#include "platform/picture_file.h"
+#include "core/logo_picture.h"
 
 namespace kestrum {
 
@@ -28,9 +28,7 @@ void Toggle_Logo(Session& session) {
     }
     try {
         const std::string path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
-        if (!Is_Picture_File(path)) {
-            Fail(error::invalid_picture);
-        }
+        Take_Logo(session, path);
         Put_Logo(session, path);
     } catch (const Run_Time_Error&) {
         session.Message("No Logo File has been Seleted");

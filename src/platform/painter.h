@@ -23,6 +23,10 @@ struct Painter {
     Painter& operator=(const Painter&) = delete;
     virtual ~Painter() = default;
 
+    /// Keeps the picture of a logo that is to be shown, so that it outlives its file. Raises 481
+    /// when it cannot be painted. A painter that is not there yet looks at it later.
+    virtual void Take_Logo(const std::string& /*file*/) {}
+
     /// The bytes of a picture file of a drawing of the graph's canvas. Raises 481 for a logo that
     /// cannot be shown and 75 for a picture that cannot be made.
     [[nodiscard]] virtual std::string Picture_Of(const Drawing& drawing, Picture_Format format,
