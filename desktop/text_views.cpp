@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPolygonF>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -108,6 +109,10 @@ QString Cell_View::Spoken_Name() const {
     return is_result_ ? facts.words : Shown_Text();
 }
 
+QRect Cell_View::Text_Area() const {
+    return rect().adjusted(theme::text_padding, 0, -2, 0);
+}
+
 QRgb Cell_View::Ink() const {
     return is_result_ ? theme::Colours_Of(control, facts.side).text
                       : theme::Caption_Ink(facts.side);
@@ -127,11 +132,23 @@ void Cell_View::paintEvent(QPaintEvent* /*event*/) {
     }
     painter.setFont(theme::Font_Of(control, usual));
     painter.setPen(QColor::fromRgb(Ink()));
-    Paint_Fitted(painter, rect().adjusted(theme::text_padding, 0, -2, 0), Present_Alignment(),
-                 Shown_Text());
+    Paint_Fitted(painter, Text_Area(), Present_Alignment(), Shown_Text());
     if (control.Entry().hover == Hover::Shows) {
         Paint_Information_Mark(painter, rect());
     }
+}
+
+/// A text that even small letters do not get into its cell is shown whole under the mouse.
+bool Cell_View::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return Text_View::event(event);
+    }
+    QFont smallest = font();
+    smallest.setPixelSize(theme::smallest_pixels);
+    const QString line = Shown_Text().left(longest_line);
+    const bool fits = QFontMetrics(smallest).horizontalAdvance(line) <= Text_Area().width();
+    QToolTip::showText(mapToGlobal(QPoint(0, height())), fits ? QString() : line, this);
+    return true;
 }
 
 void Cell_View::keyPressEvent(QKeyEvent* event) {

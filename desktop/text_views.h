@@ -43,12 +43,14 @@ public:
     [[nodiscard]] bool Is_Figure() const override { return is_result_; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    [[nodiscard]] QRect Text_Area() const;
     [[nodiscard]] QRgb Ink() const;
     void Copy() const;
 
