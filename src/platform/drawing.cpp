@@ -5,6 +5,20 @@
 
 namespace kestrum {
 
+namespace {
+
+Draw_Operation Solid_Line(double x1, double y1, double x2, double y2, int colour, double width) {
+    return {.kind = Draw_Kind::Line,
+            .x1 = x1,
+            .y1 = y1,
+            .x2 = x2,
+            .y2 = y2,
+            .width = width,
+            .colour = colour};
+}
+
+} // namespace
+
 void Drawing::Add(Draw_Operation operation) {
     if (keeps_journal_) {
         journal_.push_back(operation);
@@ -23,25 +37,15 @@ void Drawing::Clear() {
 
 void Drawing::Line(double x1, double y1, double x2, double y2, int colour, double width,
                    Line_Style style) {
-    Add({.kind = Draw_Kind::Line,
-         .x1 = x1,
-         .y1 = y1,
-         .x2 = x2,
-         .y2 = y2,
-         .width = width,
-         .colour = colour,
-         .style = style});
+    Draw_Operation line = Solid_Line(x1, y1, x2, y2, colour, width);
+    line.style = style;
+    Add(std::move(line));
 }
 
 void Drawing::Line_By_Hand(double x1, double y1, double x2, double y2, int colour, double width) {
-    Add({.kind = Draw_Kind::Line,
-         .x1 = x1,
-         .y1 = y1,
-         .x2 = x2,
-         .y2 = y2,
-         .width = width,
-         .colour = colour,
-         .by_hand = true});
+    Draw_Operation line = Solid_Line(x1, y1, x2, y2, colour, width);
+    line.by_hand = true;
+    Add(std::move(line));
 }
 
 void Drawing::Circle(double x, double y, double radius, int colour, double width) {
