@@ -3,7 +3,8 @@
 // run hold on every machine; the last lines print them.
 
 #include "bench/fastest_reporter.h"
-#include "bench/silent_platform.h"
+#include "core/null_platform.h"
+#include "core/session_snapshot.h"
 #include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
 #include "sheet/flow_calculation.h"
@@ -29,7 +30,7 @@ constexpr int numbers_written = 300;
 constexpr int repetitions = 5;
 
 struct Bench {
-    Silent_Platform platform;
+    Null_Platform platform;
     Session session{platform, platform, {}};
     Flow_Sheet& sheet = session.Sheet(1);
 
@@ -48,7 +49,7 @@ void Bare_Conversions(benchmark::State& state) {
         if (control.Index() >= first_test_row &&
             (use == Cell_Use::Result || use == Cell_Use::Input)) {
             texts.push_back(control.Text());
-            values.push_back(bench.session.number(control).Value() / 3); // all digits in use
+            values.push_back(bench.session.numbers(control).Value() / 3); // all digits in use
         }
     }
     std::array<char, 32> buffer{};
@@ -115,6 +116,27 @@ void Metric_And_Back(benchmark::State& state) {
     }
 }
 
+/// What stands before every command of the desktop, when each screen has changed since the last.
+void Snapshot_Of_All(benchmark::State& state) {
+    Bench bench;
+    for (const char* const name :
+         {"Main", "Form1", "Form2", "Form3", "Form4", "Form5", "Form50", "Form60", "Form70"}) {
+        static_cast<void>(bench.session.Screen_Named(name));
+    }
+    Calculate_All(bench);
+    int value = 0;
+    for (auto _ : state) {
+        ++value;
+        bench.session.For_Each_Loaded([value](Screen& screen) {
+            screen.Controls().front().Set_Value(value);
+            static_cast<void>(screen.Take_Changes());
+        });
+        const Session_Snapshot snapshot(bench.session);
+        benchmark::DoNotOptimize(&snapshot);
+    }
+}
+
+BENCHMARK(Snapshot_Of_All)->Repetitions(repetitions);
 BENCHMARK(Bare_Conversions)->Repetitions(repetitions);
 BENCHMARK(Calculation)->Repetitions(repetitions);
 BENCHMARK(Load)->Repetitions(repetitions);

@@ -16,7 +16,7 @@ import time
 
 BUILD = pathlib.Path(__file__).resolve().parent.parent / "build" / "release"
 BARE = BUILD / "bench" / "bare_window"
-KESTRUM = BUILD / "kestrum"
+KESTRUM = BUILD / "bench" / "desktop_measured"
 SECONDS = 60
 
 

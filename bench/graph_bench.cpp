@@ -2,7 +2,7 @@
 // painting it costs. The ratio holds on every machine.
 
 #include "bench/fastest_reporter.h"
-#include "bench/silent_platform.h"
+#include "core/null_platform.h"
 #include "graph/graph_set_up.h"
 #include "sheet/flow_calculation.h"
 
@@ -42,7 +42,7 @@ struct Bench {
         static_cast<void>(session.Form60().Take_Changes());
     }
 
-    Silent_Platform platform;
+    Null_Platform platform;
     Session session{platform, platform, {}};
 };
 
@@ -86,7 +86,7 @@ void Replay_Graph(benchmark::State& state) {
     for (auto _ : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
-        painting::Replay(bench.session.graph.canvas, painter);
+        painting::Replay(bench.session.graph.canvas, std::nullopt, painter);
     }
 }
 
@@ -97,7 +97,7 @@ void Pack_Png(benchmark::State& state) {
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(2, 2);
-    painting::Replay(bench.session.graph.canvas, painter);
+    painting::Replay(bench.session.graph.canvas, std::nullopt, painter);
     painter.end();
     std::size_t bytes = 0;
     for (auto _ : state) {

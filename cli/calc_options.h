@@ -16,9 +16,11 @@ struct Calc_Options {
     /// Whether further file names come from standard input, one a line.
     bool names_from_input = false;
     std::vector<std::string> files;
+    /// Whether control characters in what is printed have to be spelled.
+    bool to_terminal = false;
 };
 
-/// Reads the arguments behind "calc". Raises `Script_Error` for one that cannot be used.
+/// Reads the arguments behind "calc". Raises `Usage_Error` for one that cannot be used.
 [[nodiscard]] Calc_Options Calc_Options_From(std::span<const char* const> arguments);
 
 } // namespace kestrum::cli

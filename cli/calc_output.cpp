@@ -11,106 +11,147 @@ namespace kestrum::cli {
 
 namespace {
 
-void Append_Csv(std::string& out, const Calc_Result& result) {
-    if (!result.loaded) {
-        return;
-    }
-    for (const Flow_Figure& figure : result.sheet.Figures()) {
-        Append_Field(out, result.file);
-        out += ',';
-        out += figure.field;
-        out += ',';
-        Append_Field(out, figure.Caption());
-        out += ',';
-        out += figure.unit;
-        out += ',';
-        Append_Field(out, figure.cell->Text());
-        out += '\n';
-    }
-}
+constexpr std::string_view before_lift = ", lift ";
 
-bool Needs_Escapes(std::string_view text) {
-    return std::ranges::any_of(text, [](char letter) {
-        return letter < ' ' || letter > '~' || letter == '"' || letter == '\\';
+/// Adds a text as it stands between the quotes of JSON. Texts are nearly always plain, and the
+/// thousands of a long run need not be built as objects.
+void Append_Json_Letters(std::string& out, std::string_view text) {
+    const bool is_plain = std::ranges::all_of(text, [](char letter) {
+        return letter >= ' ' && letter <= '~' && letter != '"' && letter != '\\';
     });
-}
-
-/// Texts are nearly always plain, and the thousands of a long run need not be built as objects.
-void Append_Json_Text(std::string& out, std::string_view text) {
-    if (Needs_Escapes(text)) {
-        constexpr int one_line = -1;
-        out += nlohmann::json(text).dump(one_line, ' ', false,
-                                         nlohmann::json::error_handler_t::replace);
+    if (is_plain) {
+        out += text;
         return;
     }
-    out += '"';
-    out += text;
-    out += '"';
+    constexpr int one_line = -1;
+    const std::string quoted =
+        nlohmann::json(text).dump(one_line, ' ', false, nlohmann::json::error_handler_t::replace);
+    out.append(quoted, 1, quoted.size() - 2);
 }
 
 void Append_Member(std::string& out, std::string_view key, std::string_view text) {
     out += '"';
     out += key;
-    out += "\":";
-    Append_Json_Text(out, text);
-}
-
-void Append_Json_Figures(std::string& out, const std::vector<Flow_Figure>& figures) {
-    for (const Flow_Figure& figure : figures) {
-        out += &figure == &figures.front() ? "{" : ",{";
-        Append_Member(out, "field", figure.field);
-        out += ',';
-        Append_Member(out, "caption", figure.Caption());
-        out += ',';
-        Append_Member(out, "unit", figure.unit);
-        out += ',';
-        Append_Member(out, "value", figure.cell->Text());
-        out += '}';
-    }
-}
-
-void Append_Json(std::string& out, const Calc_Result& result) {
-    out += '{';
-    Append_Member(out, "file", result.file);
-    out += result.loaded ? R"(,"loaded":true)" : R"(,"loaded":false)";
-    out += result.sheet.Is_Metric() ? R"(,"metric":true)" : R"(,"metric":false)";
-    out += R"(,"figures":[)";
-    if (result.loaded) {
-        Append_Json_Figures(out, result.sheet.Figures());
-    }
-    out += R"(],"boxes":[)";
-    for (const std::string& box : result.sheet.Boxes()) {
-        out += &box == &result.sheet.Boxes().front() ? "" : ",";
-        Append_Json_Text(out, box);
-    }
-    out += "]}\n";
-}
-
-void Append_Text(std::string& out, const Calc_Result& result) {
-    out += result.file;
-    out += result.loaded ? "\n\n" : ": not loaded\n\n";
-    if (result.loaded) {
-        Append_Tables(out, result.sheet.Figures());
-    }
+    out += "\":\"";
+    Append_Json_Letters(out, text);
+    out += '"';
 }
 
 } // namespace
 
-void Append_Head(std::string& out, Calc_Format format) {
-    if (format == Calc_Format::Csv) {
+Calc_Output::Calc_Output(Calc_Format format, const Calc_Sheet& sheet, bool to_terminal)
+    : format_(format), sheet_(sheet), to_terminal_(to_terminal) {
+    for (const Flow_Figure& figure : sheet.Figures()) {
+        words_.push_back(format == Calc_Format::Json ? Json_Words(figure) : Csv_Words(figure));
+    }
+}
+
+Calc_Output::Figure_Words Calc_Output::Csv_Words(const Flow_Figure& figure) const {
+    Figure_Words words;
+    words.before_lift = "," + figure.field + ",";
+    if (figure.lift == nullptr) {
+        Append_Field(words.before_lift, figure.name);
+    } else { // always in quotes, for the comma before the lift
+        words.before_lift += '"';
+        Append_Doubling_Quotes(words.before_lift, figure.name);
+        words.before_lift += before_lift;
+        words.before_value += '"';
+    }
+    words.before_value += ",";
+    words.before_value += figure.unit;
+    words.before_value += ",";
+    return words;
+}
+
+Calc_Output::Figure_Words Calc_Output::Json_Words(const Flow_Figure& figure) const {
+    Figure_Words words;
+    words.before_lift = &figure == &sheet_.Figures().front() ? "{" : ",{";
+    Append_Member(words.before_lift, "field", figure.field);
+    words.before_lift += R"(,"caption":")";
+    Append_Json_Letters(words.before_lift, figure.name);
+    words.before_lift += figure.lift == nullptr ? "" : before_lift;
+    words.before_value = "\",";
+    Append_Member(words.before_value, "unit", figure.unit);
+    words.before_value += R"(,"value":")";
+    return words;
+}
+
+void Calc_Output::Append_Head(std::string& out) const {
+    if (format_ == Calc_Format::Csv) {
         out += "file,field,caption,unit,value\n";
     }
 }
 
-void Append_Result(std::string& out, Calc_Format format, const Calc_Result& result) {
-    switch (format) {
-    case Calc_Format::Text:
-        return Append_Text(out, result);
-    case Calc_Format::Csv:
-        return Append_Csv(out, result);
-    case Calc_Format::Json:
-        return Append_Json(out, result);
+void Calc_Output::Append_Result(std::string& out, std::string_view file, bool loaded) const {
+    if (format_ == Calc_Format::Json) {
+        Append_Json(out, file, loaded);
+        return;
     }
+    const std::string shown = to_terminal_ ? Escaped(file) : std::string(file);
+    if (format_ == Calc_Format::Text) {
+        Append_Text(out, shown, loaded);
+    } else if (loaded) {
+        Append_Csv(out, shown);
+    }
+}
+
+void Calc_Output::Append_Text(std::string& out, std::string_view file, bool loaded) const {
+    out += file;
+    out += loaded ? "\n\n" : ": not loaded\n\n";
+    if (loaded) {
+        Append_Tables(out, sheet_.Figures());
+    }
+}
+
+void Calc_Output::Append_Csv(std::string& out, std::string_view file) const {
+    std::string name;
+    Append_Field(name, file);
+    std::size_t place = 0;
+    for (const Flow_Figure& figure : sheet_.Figures()) {
+        const Figure_Words& words = words_[place];
+        ++place;
+        out += name;
+        out += words.before_lift;
+        if (figure.lift != nullptr) {
+            Append_Doubling_Quotes(out, figure.lift->Text());
+        }
+        out += words.before_value;
+        Append_Field(out, figure.cell->Text());
+        out += '\n';
+    }
+}
+
+void Calc_Output::Append_Json_Figures(std::string& out) const {
+    std::size_t place = 0;
+    for (const Flow_Figure& figure : sheet_.Figures()) {
+        const Figure_Words& words = words_[place];
+        ++place;
+        out += words.before_lift;
+        if (figure.lift != nullptr) {
+            Append_Json_Letters(out, figure.lift->Text());
+        }
+        out += words.before_value;
+        Append_Json_Letters(out, figure.cell->Text());
+        out += "\"}";
+    }
+}
+
+void Calc_Output::Append_Json(std::string& out, std::string_view file, bool loaded) const {
+    out += '{';
+    Append_Member(out, "file", file);
+    out += loaded ? R"(,"loaded":true)" : R"(,"loaded":false)";
+    out += sheet_.Is_Metric() ? R"(,"metric":true)" : R"(,"metric":false)";
+    out += R"(,"figures":[)";
+    if (loaded) {
+        Append_Json_Figures(out);
+    }
+    out += R"(],"boxes":[)";
+    for (const std::string& box : sheet_.Boxes()) {
+        out += &box == &sheet_.Boxes().front() ? "\"" : ",\"";
+        Append_Json_Letters(out, box);
+        out += '"';
+    }
+    out += "]}\n";
 }
 
 } // namespace kestrum::cli

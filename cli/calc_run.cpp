@@ -3,7 +3,7 @@
 #include "cli/calc_output.h"
 #include "cli/calc_sheet.h"
 #include "cli/line_text.h"
-#include "cli/script_error.h"
+#include "cli/standard_streams.h"
 
 namespace kestrum::cli {
 
@@ -14,17 +14,21 @@ namespace {
 class Calc_Run {
 public:
     Calc_Run(const Calc_Options& options, std::ostream& out, std::ostream& errors)
-        : format_(options.format), sheet_(options.metric), out_(out), errors_(errors) {
-        Append_Head(lines_, format_);
+        : sheet_(options.metric),
+          output_(options.format, sheet_, options.to_terminal),
+          spells_(options.to_terminal && options.format != Calc_Format::Json),
+          out_(out),
+          errors_(errors) {
+        output_.Append_Head(lines_);
     }
 
     void Take(const std::string& file) {
         const bool loaded = sheet_.Load(file);
         all_loaded_ = all_loaded_ && loaded;
         for (const std::string& box : sheet_.Boxes()) {
-            errors_ << One_Line(file) + ": " + One_Line(box) + "\n";
+            errors_ << Escaped(file) + ": " + One_Line(box) + "\n";
         }
-        Append_Result(lines_, format_, {file, loaded, sheet_});
+        output_.Append_Result(lines_, file, loaded);
         constexpr std::size_t enough = 65536;
         if (lines_.size() >= enough) {
             Write_Out();
@@ -32,23 +36,40 @@ public:
     }
 
     void Write_Out() {
-        out_.write(lines_.data(), static_cast<std::streamsize>(lines_.size())).flush();
-        if (!out_) {
-            throw Script_Error("calc: the figures cannot be written");
+        if (spells_) {
+            lines_ = Escaped(lines_, "\n");
         }
+        out_ << lines_;
+        Finish(out_, "calc: the figures cannot be written");
         lines_.clear();
     }
 
     [[nodiscard]] bool All_Loaded() const { return all_loaded_; }
 
 private:
-    Calc_Format format_;
     Calc_Sheet sheet_;
+    Calc_Output output_;
+    bool spells_;
     std::ostream& out_;
     std::ostream& errors_;
     std::string lines_;
     bool all_loaded_ = true;
 };
+
+void Take_Names(Calc_Run& run, std::istream& names) {
+    Line_Source lines(names, "calc: the names of the files cannot be read");
+    std::string name;
+    try {
+        while (lines.Next(name)) {
+            if (!name.empty()) {
+                run.Take(name);
+            }
+        }
+    } catch (const Stream_Error&) {
+        run.Write_Out(); // the figures up to here hold
+        throw;
+    }
+}
 
 } // namespace
 
@@ -58,14 +79,8 @@ int Run_Calc(const Calc_Options& options, std::istream& names, std::ostream& out
     for (const std::string& file : options.files) {
         run.Take(file);
     }
-    std::string name;
-    while (options.names_from_input && std::getline(names, name)) {
-        if (name.ends_with('\r')) {
-            name.pop_back();
-        }
-        if (!name.empty()) {
-            run.Take(name);
-        }
+    if (options.names_from_input) {
+        Take_Names(run, names);
     }
     run.Write_Out();
     return run.All_Loaded() ? 0 : 1;

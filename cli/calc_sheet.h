@@ -1,6 +1,7 @@
 #pragma once
 
-#include "cli/calc_boxes.h"
+#include "cli/start_texts.h"
+#include "core/null_platform.h"
 #include "core/session.h"
 #include "output/flow_figures.h"
 
@@ -28,18 +29,14 @@ public:
     [[nodiscard]] const std::vector<Flow_Figure>& Figures() const { return figures_; }
 
     /// What the boxes said while it was loaded.
-    [[nodiscard]] const std::vector<std::string>& Boxes() const { return boxes_.Texts(); }
+    [[nodiscard]] const std::vector<std::string>& Boxes() const { return platform_.Texts(); }
 
 private:
-    void Start_Over();
-
     bool metric_;
-    Calc_Boxes boxes_;
-    Calc_Windows windows_;
+    Null_Platform platform_;
     Session session_;
     Flow_Sheet& sheet_;
-    /// The texts of the sheet's controls after a start.
-    std::vector<std::string> start_texts_;
+    Start_Texts start_texts_;
     std::vector<Flow_Figure> figures_;
 };
 

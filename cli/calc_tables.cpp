@@ -1,6 +1,6 @@
 #include "cli/calc_tables.h"
 
-#include "core/text.h"
+#include "base/text.h"
 
 #include <algorithm>
 

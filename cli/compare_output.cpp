@@ -1,7 +1,7 @@
 #include "cli/compare_output.h"
 
+#include "base/text.h"
 #include "cli/line_text.h"
-#include "core/text.h"
 #include "screens/flow_sheet.h"
 
 #include <algorithm>

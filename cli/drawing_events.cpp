@@ -24,6 +24,21 @@ const char* Style_Name(Line_Style style) {
     return names.at(static_cast<std::size_t>(style));
 }
 
+/// The canvas has one font, so only the printer's texts name theirs.
+Event Text_Event(const Draw_Operation& operation) {
+    Event event{{"op", "text"},
+                {"x", operation.x1},
+                {"y", operation.y1},
+                {"text", operation.text},
+                {"size", operation.size},
+                {"bold", operation.bold},
+                {"colour", Colour_Text(operation.colour)}};
+    if (!operation.font.empty()) {
+        event["font"] = operation.font;
+    }
+    return event;
+}
+
 } // namespace
 
 Event Operation_Event(const Draw_Operation& operation) {
@@ -47,13 +62,7 @@ Event Operation_Event(const Draw_Operation& operation) {
                 {"colour", Colour_Text(operation.colour)},
                 {"width", operation.width}};
     case Draw_Kind::Text:
-        return {{"op", "text"},
-                {"x", operation.x1},
-                {"y", operation.y1},
-                {"text", operation.text},
-                {"size", operation.size},
-                {"bold", false},
-                {"colour", Colour_Text(operation.colour)}};
+        return Text_Event(operation);
     case Draw_Kind::Picture:
         return {{"op", "picture"},
                 {"x", operation.x1},
@@ -62,6 +71,14 @@ Event Operation_Event(const Draw_Operation& operation) {
                 {"h", operation.y2}};
     }
     return {};
+}
+
+Event Operation_Events(std::span<const Draw_Operation> operations) {
+    Event events = Event::array();
+    for (const Draw_Operation& operation : operations) {
+        events.push_back(Operation_Event(operation));
+    }
+    return events;
 }
 
 } // namespace kestrum::cli

@@ -2,9 +2,13 @@
 
 namespace kestrum::cli {
 
-void Event_Printer::Print(const Event& event) {
+std::string Json_Of(const Event& event) {
     constexpr int one_line = -1;
-    out_ << event.dump(one_line, ' ', false, Event::error_handler_t::replace) << '\n';
+    return event.dump(one_line, ' ', false, Event::error_handler_t::replace);
+}
+
+void Event_Printer::Print(const Event& event) {
+    out_ << Json_Of(event) << '\n';
 }
 
 } // namespace kestrum::cli

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/graph_extras.h"
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,9 +27,12 @@ struct Graph_Options {
     bool csv = false;
     /// File of the picture.
     std::string output{};
+    /// Whether control characters in what is printed have to be spelled.
+    bool to_terminal = false;
+    Graph_Extras extras{};
 };
 
-/// Read the arguments behind "graph" and behind "compare". Raise `Script_Error` for one that
+/// Read the arguments behind "graph" and behind "compare". Raise `Usage_Error` for one that
 /// cannot be used.
 [[nodiscard]] Graph_Options Graph_Options_From(std::span<const char* const> arguments);
 [[nodiscard]] Graph_Options Compare_Options_From(std::span<const char* const> arguments);

@@ -1,6 +1,6 @@
 #include "cli/graph_painter.h"
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 
 #include <dlfcn.h>
 #include <filesystem>
@@ -27,12 +27,24 @@ Painter* Load_Painter() {
 
 } // namespace
 
-std::string Late_Painter::Picture_Of(const Drawing& drawing, Picture_Format format,
-                                     const std::optional<Placed_Logo>& logo) {
+Painter& Late_Painter::Loaded() {
     if (painter_ == nullptr) {
         painter_ = Load_Painter();
     }
-    return painter_->Picture_Of(drawing, format, logo);
+    return *painter_;
+}
+
+std::string Late_Painter::Picture_Of(const Drawing& drawing, Picture_Format format,
+                                     const std::optional<Placed_Logo>& logo) {
+    return Loaded().Picture_Of(drawing, format, logo);
+}
+
+void Late_Painter::Use(const Picture_Settings& settings) {
+    Loaded().Use(settings);
+}
+
+std::string Late_Painter::Pdf_Of(const Document& document, Paper_Size paper) {
+    return Loaded().Pdf_Of(document, paper);
 }
 
 } // namespace kestrum::cli

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/painter.h"
+#include "drawing/painter.h"
 
 namespace kestrum::cli {
 
@@ -8,9 +8,14 @@ namespace kestrum::cli {
 /// verbs paint nothing and would start several times slower with it.
 class Late_Painter : public Painter {
 public:
-    /// Raises 481 also when there is no such module, as in a build without Qt.
+    /// All raise 481 also when there is no such module, as in a build without Qt.
     [[nodiscard]] std::string Picture_Of(const Drawing& drawing, Picture_Format format,
                                          const std::optional<Placed_Logo>& logo) override;
+    void Use(const Picture_Settings& settings) override;
+    [[nodiscard]] std::string Pdf_Of(const Document& document, Paper_Size paper) override;
+
+    /// The painter of the module. Raises 481 when there is none.
+    [[nodiscard]] Painter& Loaded();
 
 private:
     Painter* painter_ = nullptr;

@@ -2,9 +2,24 @@
 
 #include "cli/compare_output.h"
 #include "cli/graph_session.h"
-#include "cli/script_error.h"
+#include "cli/line_text.h"
+#include "cli/standard_streams.h"
 
 namespace kestrum::cli {
+
+namespace {
+
+/// The curves of two tests stand over one axis, whose numbers are those of the first.
+bool X_Columns_Differ(const Compare_Screen& table) {
+    for (int row = zero_lift_row; row <= last_lift_row; ++row) {
+        if (table.Text101(row).Text() != table.Text106(row).Text()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 int Run_Graph(const Graph_Options& options, Painter& painter, std::ostream& errors) {
     Graph_Session session(options, errors);
@@ -13,6 +28,13 @@ int Run_Graph(const Graph_Options& options, Painter& painter, std::ostream& erro
             !session.Press(at == 0 ? "Command2" : "Graph_Plus")) {
             return 1;
         }
+        if (X_Columns_Differ(session.Table())) {
+            session.Tell(options.pairs[at].to,
+                         "its X column differs from that of " + options.pairs[at].from);
+        }
+    }
+    if (options.extras.settings.dots_per_inch || options.extras.settings.paper) {
+        painter.Use(options.extras.settings);
     }
     return session.Save(painter, options.output) ? 0 : 1;
 }
@@ -22,11 +44,10 @@ int Run_Compare(const Graph_Options& options, std::ostream& out, std::ostream& e
     if (!session.Load(options.pairs.front()) || !session.Press("Command1")) {
         return 1;
     }
-    out << (options.csv ? Compare_Csv(session.Table()) : Compare_Text(session.Table()));
-    out.flush();
-    if (!out) {
-        throw Script_Error("compare: the table cannot be written");
-    }
+    const std::string table =
+        options.csv ? Compare_Csv(session.Table()) : Compare_Text(session.Table());
+    out << (options.to_terminal ? Escaped(table, "\n") : table);
+    Finish(out, "compare: the table cannot be written");
     return 0;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/graph_options.h"
-#include "platform/painter.h"
+#include "drawing/painter.h"
 
 #include <ostream>
 
@@ -12,7 +12,7 @@ namespace kestrum::cli {
 [[nodiscard]] int Run_Graph(const Graph_Options& options, Painter& painter, std::ostream& errors);
 
 /// Fills the compare table from the two files and writes it to `out`. Gives the exit status, as
-/// above. Raises `Script_Error` when the table cannot be written.
+/// above. Raises `Stream_Error` when the table cannot be written.
 [[nodiscard]] int Run_Compare(const Graph_Options& options, std::ostream& out,
                               std::ostream& errors);
 

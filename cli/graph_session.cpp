@@ -1,12 +1,17 @@
 #include "cli/graph_session.h"
 
 #include "application/events.h"
+#include "application/version.h"
 #include "cli/line_text.h"
+#include "core/logo_picture.h"
 #include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
 #include "output/graph_saving.h"
 #include "platform/file_store.h"
 #include "sheet/flow_calculation.h"
+
+#include <array>
+#include <utility>
 
 namespace kestrum::cli {
 
@@ -15,10 +20,17 @@ namespace {
 constexpr int from_sheet = 1;
 constexpr int to_sheet = 2;
 
+Surroundings Around(const Clock& clock) {
+    Surroundings around;
+    around.version = Program_Version();
+    around.clock = clock;
+    return around;
+}
+
 } // namespace
 
-Graph_Session::Graph_Session(const Graph_Options& options, std::ostream& errors)
-    : errors_(errors), session_(boxes_, windows_, Surroundings{}) {
+Graph_Session::Graph_Session(const Graph_Options& options, std::ostream& errors, const Clock& clock)
+    : errors_(errors), session_(platform_, platform_, Around(clock)) {
     // As at a start: the stored tests are calculated in US units, then the metric box is set.
     for (const int number : {from_sheet, to_sheet}) {
         Calc_Flow_Test(session_, session_.Sheet(number));
@@ -27,12 +39,49 @@ Graph_Session::Graph_Session(const Graph_Options& options, std::ostream& errors)
     for (const Control& control : session_.Sheet(from_sheet).Controls()) {
         start_texts_.push_back(control.Text());
     }
-    boxes_.Clear();
+    platform_.Clear();
     const Compare_Screen& table = session_.Form50();
     Click(session_, table.Option1(from_sheet - 1));
     Click(session_, table.Option2(to_sheet - 1));
     Click(session_, table.Option3(options.type));
     Click(session_, table.Option4(options.x_column));
+    Set_Extras(options.extras);
+}
+
+void Graph_Session::Set_Extras(const Graph_Extras& extras) {
+    const Compare_Screen& table = session_.Form50();
+    const std::array<std::pair<Control*, bool>, 3> boxes{{{&table.Check1, extras.quarter},
+                                                          {&table.Check2, extras.auto_lines},
+                                                          {&table.Check3, extras.points}}};
+    for (const auto& [box, wanted] : boxes) {
+        if (wanted && box->Value() == 0) {
+            Click(session_, *box);
+        }
+    }
+    if (!extras.y_low.empty()) {
+        table.Text1.Set_Text(extras.y_low);
+    }
+    if (!extras.y_high.empty()) {
+        table.Text2.Set_Text(extras.y_high);
+    }
+    const std::array captions{&table.Text71, &table.Text72};
+    for (std::size_t line = 0; line < extras.captions.size(); ++line) {
+        captions.at(line)->Set_Text(extras.captions[line]);
+    }
+    if (!extras.logo.empty()) {
+        Take_Logo(extras.logo);
+    }
+}
+
+void Graph_Session::Take_Logo(const std::string& path) {
+    try {
+        kestrum::Take_Logo(session_, path);
+        session_.logo_on = 1;
+        session_.logo_file = path;
+        session_.Form60().Show_Logo(session_.logo_size.value_or(Extent{}));
+    } catch (const Run_Time_Error& failure) {
+        Tell(path, "No logo -- " + failure.Description());
+    }
 }
 
 /// No test may depend on the one that was in the sheet before it.
@@ -90,14 +139,14 @@ bool Graph_Session::Save(Painter& painter, const std::string& path) {
 }
 
 void Graph_Session::Pass_On_Boxes(const std::string& source) {
-    for (const std::string& text : boxes_.Texts()) {
+    for (const std::string& text : platform_.Texts()) {
         Tell(source, text);
     }
-    boxes_.Clear();
+    platform_.Clear();
 }
 
 void Graph_Session::Tell(const std::string& source, const std::string& what) {
-    errors_ << One_Line(source) + ": " + One_Line(what) + "\n";
+    errors_ << Escaped(source) + ": " + One_Line(what) + "\n";
 }
 
 } // namespace kestrum::cli

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/calc_boxes.h"
 #include "cli/graph_options.h"
+#include "core/null_platform.h"
 #include "core/session.h"
 
 #include <array>
@@ -15,7 +15,7 @@ namespace kestrum::cli {
 class Graph_Session {
 public:
     /// What its boxes say goes to `errors`, a line each.
-    Graph_Session(const Graph_Options& options, std::ostream& errors);
+    Graph_Session(const Graph_Options& options, std::ostream& errors, const Clock& clock = {});
     Graph_Session(const Graph_Session&) = delete;
     Graph_Session& operator=(const Graph_Session&) = delete;
     ~Graph_Session() = default;
@@ -32,15 +32,22 @@ public:
 
     [[nodiscard]] const Compare_Screen& Table() { return session_.Form50(); }
 
-private:
+    [[nodiscard]] Session& Its_Session() { return session_; }
+
+    /// Loads a test into a sheet. False when it is not there or could not be read to its end.
     [[nodiscard]] bool Load_Sheet(int number, const std::string& path);
-    void Start_Over(Flow_Sheet& sheet) const;
+    /// Shows a logo; a file that is no picture is told of and changes nothing.
+    void Take_Logo(const std::string& path);
+    /// Says what the boxes said, under the name of what they speak of.
     void Pass_On_Boxes(const std::string& source);
     void Tell(const std::string& source, const std::string& what);
 
+private:
+    void Set_Extras(const Graph_Extras& extras);
+    void Start_Over(Flow_Sheet& sheet) const;
+
     std::ostream& errors_;
-    Calc_Boxes boxes_;
-    Calc_Windows windows_;
+    Null_Platform platform_;
     Session session_;
     /// The texts of a sheet after a start.
     std::vector<std::string> start_texts_;

@@ -58,7 +58,7 @@ Box_Answer Headless_Dialogs::Show_Box(const Box& box) {
     return answer;
 }
 
-std::optional<std::string> Headless_Dialogs::Choose_File(const Chooser& chooser) {
+std::optional<Chosen_Path> Headless_Dialogs::Choose_File(const Chooser& chooser) {
     std::optional<std::string> path;
     if (!files_.empty()) {
         path = files_.front();
@@ -70,7 +70,10 @@ std::optional<std::string> Headless_Dialogs::Choose_File(const Chooser& chooser)
                       {"filter_index", chooser.filter_index},
                       {"overwrite_prompt", chooser.Overwrite_Prompt()},
                       {"path", path ? Event(*path) : Event()}}}});
-    return path;
+    if (!path) {
+        return std::nullopt;
+    }
+    return Chosen_Path{.path = *std::move(path), .filter_index = chooser.filter_index};
 }
 
 std::optional<int> Headless_Dialogs::Choose_Colour() {

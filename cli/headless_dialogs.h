@@ -15,7 +15,7 @@ public:
     explicit Headless_Dialogs(Event_Printer& printer) : printer_(printer) {}
 
     Box_Answer Show_Box(const Box& box) override;
-    std::optional<std::string> Choose_File(const Chooser& chooser) override;
+    std::optional<Chosen_Path> Choose_File(const Chooser& chooser) override;
     std::optional<int> Choose_Colour() override;
     void Beep() override;
 

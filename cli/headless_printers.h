@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/drawing.h"
-#include "platform/printer.h"
+#include "drawing/drawing.h"
+#include "drawing/printer.h"
 
 namespace kestrum::cli {
 
-/// A document as it would lie in a printer: its pages, each a list of what stands on it.
+/// A document as it would lie in a printer.
 struct Printed_Document {
     std::string device;
-    std::vector<std::vector<Draw_Operation>> pages;
+    Pages pages;
 };
 
 /// Printers that keep what is printed.
@@ -18,6 +18,7 @@ public:
 
     [[nodiscard]] std::vector<std::string> Devices() const override { return devices_; }
 
+    void Print(const std::string& device, const Document& document) override;
     void Print_Screen(const std::string& device, const Screen_Picture& picture) override;
 
     /// Hands out and forgets what was printed.

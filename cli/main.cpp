@@ -1,16 +1,25 @@
 #include "application/version.h"
 #include "cli/calc_run.h"
+#include "cli/convert_run.h"
 #include "cli/graph_painter.h"
 #include "cli/graph_run.h"
-#include "cli/script_error.h"
+#include "cli/line_text.h"
+#include "cli/print_run.h"
+#include "cli/report_run.h"
 #include "cli/script_options.h"
 #include "cli/script_runner.h"
+#include "cli/standard_streams.h"
+#include "cli/usage_error.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <span>
 #include <string_view>
+#include <system_error>
 
 namespace {
 
@@ -19,49 +28,97 @@ using namespace kestrum::cli;
 int Run_Script(std::span<const char* const> arguments) {
     const Script_Options options = Options_From(arguments);
     Script_Runner runner(options.surroundings, std::cout, options.rescue, options.printers);
+    const std::string failure = "cannot read " + Quoted(options.file);
     if (options.file == "-") {
-        return runner.Run(std::cin);
+        return runner.Run(std::cin, failure);
     }
     std::ifstream script(options.file);
-    if (!script) {
-        throw Script_Error("cannot read '" + options.file + "'");
+    std::error_code ignored;
+    if (!script || std::filesystem::is_directory(options.file, ignored)) {
+        throw Stream_Error(failure);
     }
-    return runner.Run(script);
+    return runner.Run(script, failure);
 }
 
+int Calculate(std::span<const char* const> arguments) {
+    Calc_Options options = Calc_Options_From(arguments);
+    options.to_terminal = Prints_To_Terminal();
+    return Run_Calc(options, std::cin, std::cout, std::cerr);
+}
+
+int Convert(std::span<const char* const> arguments) {
+    return Run_Convert(Convert_Options_From(arguments), std::cin, std::cerr);
+}
+
+int Compare(std::span<const char* const> arguments) {
+    Graph_Options options = Compare_Options_From(arguments);
+    options.to_terminal = Prints_To_Terminal();
+    return Run_Compare(options, std::cout, std::cerr);
+}
+
+int Draw(std::span<const char* const> arguments) {
+    Late_Painter painter;
+    return Run_Graph(Graph_Options_From(arguments), painter, std::cerr);
+}
+
+int Print(std::span<const char* const> arguments) {
+    Late_Painter painter;
+    return Run_Print(
+        Print_Options_From(arguments),
+        [&painter]() -> kestrum::Painter& { return painter.Loaded(); }, std::cerr);
+}
+
+int Report(std::span<const char* const> arguments) {
+    return Run_Report(Report_Options_From(arguments), std::filesystem::current_path().string(),
+                      std::cout, std::cerr);
+}
+
+int Tell_Version(std::span<const char* const> /*arguments*/) {
+    std::cout << "kestrum-cli " << kestrum::Program_Version() << '\n';
+    return 0;
+}
+
+struct Verb {
+    std::string_view name;
+    int (*run)(std::span<const char* const> arguments);
+};
+
+constexpr auto verbs = std::to_array<Verb>({{"script", Run_Script},
+                                            {"calc", Calculate},
+                                            {"convert", Convert},
+                                            {"compare", Compare},
+                                            {"graph", Draw},
+                                            {"print", Print},
+                                            {"report", Report},
+                                            {"--version", Tell_Version}});
+
 int Run_Verb(std::span<const char* const> arguments) {
-    const std::string_view verb = arguments.empty() ? std::string_view() : arguments.front();
-    if (verb == "script") {
-        return Run_Script(arguments.subspan(1));
+    const std::string_view name = arguments.empty() ? std::string_view() : arguments.front();
+    const auto* const verb = std::ranges::find(verbs, name, &Verb::name);
+    if (verb != verbs.end()) {
+        return verb->run(arguments.subspan(1));
     }
-    if (verb == "calc") {
-        return Run_Calc(Calc_Options_From(arguments.subspan(1)), std::cin, std::cout, std::cerr);
-    }
-    if (verb == "compare") {
-        return Run_Compare(Compare_Options_From(arguments.subspan(1)), std::cout, std::cerr);
-    }
-    if (verb == "graph") {
-        Late_Painter painter;
-        return Run_Graph(Graph_Options_From(arguments.subspan(1)), painter, std::cerr);
-    }
-    if (verb == "--version") {
-        std::cout << "kestrum-cli " << kestrum::Program_Version() << '\n';
-        return 0;
-    }
-    throw Script_Error("usage: kestrum-cli script [OPTIONS] FILE\n"
-                       "       kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
-                       "       kestrum-cli compare FROM.dat TO.dat --type 0..17 [--csv]\n"
-                       "       kestrum-cli graph FROM.dat TO.dat --type 0..17 -o FILE.png\n"
-                       "       kestrum-cli --version");
+    throw Usage_Error(
+        "usage: kestrum-cli script [OPTIONS] FILE\n"
+        "       kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
+        "       kestrum-cli convert FILE... -o FILE|FOLDER [--to dat|dfw|csv]\n"
+        "       kestrum-cli compare FROM.dat TO.dat --type 0..17 [--csv]\n"
+        "       kestrum-cli graph FROM.dat TO.dat --type 0..17 -o FILE.png\n"
+        "       kestrum-cli print FILE.dat... -o FILE.pdf\n"
+        "       kestrum-cli report [--main FILE.dta] [--config FILE.cfg] FILE.dat...\n"
+        "       kestrum-cli --version");
 }
 
 } // namespace
 
 int main(int count, char* values[]) { // NOLINT(*-avoid-c-arrays)
     constexpr int unusable = 2;
+    Hold_Closed_Streams();
     std::ios::sync_with_stdio(false);
     try {
-        return Run_Verb(std::span(values, static_cast<std::size_t>(count)).subspan(1));
+        const int status = Run_Verb(std::span(values, static_cast<std::size_t>(count)).subspan(1));
+        Finish(std::cout, "the output cannot be written");
+        return status;
     } catch (const std::exception& fault) {
         std::cout.flush();
         std::cerr << "kestrum-cli: " << fault.what() << '\n';

@@ -4,7 +4,7 @@
 
 namespace kestrum::cli {
 
-/// A script or a command line that cannot be run as it stands; the program ends with status 2.
+/// A line of a script that cannot be run as it stands; the program ends with status 2.
 class Script_Error : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

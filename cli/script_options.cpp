@@ -1,7 +1,8 @@
 #include "cli/script_options.h"
 
 #include "application/version.h"
-#include "cli/script_error.h"
+#include "cli/argument_reader.h"
+#include "cli/line_text.h"
 
 #include <algorithm>
 #include <array>
@@ -15,14 +16,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Quoted(std::string_view text) {
-    return "'" + std::string(text) + "'";
-}
-
 std::string Program_Folder(std::string_view given) {
     const fs::path folder = fs::absolute(given).lexically_normal();
     if (!fs::is_directory(folder)) {
-        throw Script_Error("--folder: there is no folder " + Quoted(given));
+        throw Usage_Error("--folder: there is no folder " + Quoted(given));
     }
     const bool ends_with_separator = !folder.has_filename() && folder != folder.root_path();
     return (ends_with_separator ? folder.parent_path() : folder).string();
@@ -33,7 +30,7 @@ int Leading_Number(std::string_view& text, std::string_view option) {
     int number = 0;
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (failure != std::errc() || number <= 0) {
-        throw Script_Error(std::string(option) + ": a number is missing");
+        throw Usage_Error(std::string(option) + ": a number is missing");
     }
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return number;
@@ -41,7 +38,7 @@ int Leading_Number(std::string_view& text, std::string_view option) {
 
 void Leading_Mark(std::string_view& text, char mark, std::string_view option) {
     if (text.empty() || text.front() != mark) {
-        throw Script_Error(std::string(option) + ": '" + mark + "' is missing");
+        throw Usage_Error(std::string(option) + ": '" + mark + "' is missing");
     }
     text.remove_prefix(1);
 }
@@ -54,22 +51,9 @@ Display Display_From(std::string_view text) {
     Leading_Mark(text, '@', "--display");
     display.dpi = Leading_Number(text, "--display");
     if (!text.empty()) {
-        throw Script_Error("--display: wanted is WxH@DPI");
+        throw Usage_Error("--display: wanted is WxH@DPI");
     }
     return display;
-}
-
-/// YYYY-MM-DDTHH:MM:SS.
-void Check_Moment(std::string_view text) {
-    constexpr std::string_view pattern = "0000-00-00T00:00:00";
-    const bool fits =
-        text.size() == pattern.size() &&
-        std::equal(text.begin(), text.end(), pattern.begin(), [](char given, char wanted) {
-            return wanted == '0' ? given >= '0' && given <= '9' : given == wanted;
-        });
-    if (!fits) {
-        throw Script_Error("--now: wanted is YYYY-MM-DDTHH:MM:SS");
-    }
 }
 
 /// Names between commas.
@@ -83,24 +67,34 @@ std::vector<std::string> Printers_From(std::string_view text) {
     return names;
 }
 
-void Take_Option(Script_Options& options, std::string_view name, std::string_view value) {
-    if (name == "--folder") {
-        options.surroundings.folder = Program_Folder(value);
-    } else if (name == "--point") {
-        if (value != "." && value != ",") {
-            throw Script_Error("--point: wanted is . or ,");
+void Take_Option(Argument_Reader& reader, Script_Options& options) {
+    Surroundings& around = options.surroundings;
+    if (reader.Is("--rescue")) {
+        options.rescue = true;
+    } else if (reader.Is("--folder")) {
+        around.folder = Program_Folder(reader.Value());
+    } else if (reader.Is("--point")) {
+        around.decimal_point = reader.Value();
+        if (around.decimal_point != "." && around.decimal_point != ",") {
+            throw reader.Wrong_Call("--point: wanted is . or ,");
         }
-        options.surroundings.decimal_point = value;
-    } else if (name == "--display") {
-        options.surroundings.display = Display_From(value);
-    } else if (name == "--args") {
-        options.surroundings.command_line = value;
-    } else if (name == "--now") {
-        Check_Moment(value);
-    } else if (name == "--printers") {
-        options.printers = Printers_From(value);
-    } else if (name != "--locale") {
-        throw Script_Error("unknown option " + Quoted(name));
+    } else if (reader.Is("--display")) {
+        around.display = Display_From(reader.Value());
+    } else if (reader.Is("--args")) {
+        around.command_line = reader.Value();
+    } else if (reader.Is("--now")) {
+        if (!around.clock.Stop_At(reader.Value())) {
+            throw reader.Wrong_Call("--now: wanted is YYYY-MM-DDTHH:MM:SS");
+        }
+    } else if (reader.Is("--printers")) {
+        options.printers = Printers_From(reader.Value());
+    } else if (reader.Is("--locale")) {
+        const std::string name(reader.Value());
+        if (name.empty() || !around.clock.Speak(name)) {
+            throw reader.Wrong_Call("--locale: the system has no locale " + Quoted(name));
+        }
+    } else {
+        throw reader.Unknown_Option();
     }
 }
 
@@ -110,27 +104,18 @@ Script_Options Options_From(std::span<const char* const> arguments) {
     Script_Options options;
     options.surroundings.version = Program_Version();
     options.surroundings.folder = Program_Folder(".");
-    for (std::size_t at = 0; at < arguments.size(); ++at) {
-        const std::string_view argument = arguments[at];
-        if (!argument.starts_with("--")) {
-            if (!options.file.empty()) {
-                throw Script_Error("more than one script: " + Quoted(argument));
-            }
-            options.file = argument;
-            continue;
+    Argument_Reader reader("", "", arguments);
+    while (reader.Next()) {
+        if (reader.Is_Option()) {
+            Take_Option(reader, options);
+        } else if (options.file.empty()) {
+            options.file = reader.Text();
+        } else {
+            throw reader.Wrong_Call("more than one script: " + Quoted(reader.Text()));
         }
-        if (argument == "--rescue") {
-            options.rescue = true;
-            continue;
-        }
-        if (at + 1 == arguments.size()) {
-            throw Script_Error(Quoted(argument) + " wants a value");
-        }
-        ++at;
-        Take_Option(options, argument, arguments[at]);
     }
     if (options.file.empty()) {
-        throw Script_Error("usage: kestrum-cli script [OPTIONS] FILE");
+        throw reader.Wrong_Call("usage: kestrum-cli script [OPTIONS] FILE");
     }
     return options;
 }

@@ -19,7 +19,7 @@ struct Script_Options {
     std::string file;
 };
 
-/// Reads the arguments behind "script". Raises `Script_Error` for one that cannot be used.
+/// Reads the arguments behind "script". Raises `Usage_Error` for one that cannot be used.
 [[nodiscard]] Script_Options Options_From(std::span<const char* const> arguments);
 
 } // namespace kestrum::cli

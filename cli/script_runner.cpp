@@ -3,57 +3,25 @@
 #include "application/events.h"
 #include "application/start_up.h"
 #include "application/variables.h"
+#include "base/text.h"
 #include "cli/drawing_events.h"
+#include "cli/field_editor.h"
+#include "cli/line_text.h"
 #include "cli/properties.h"
 #include "cli/script_error.h"
-#include "core/field_editor.h"
-#include "core/text.h"
+#include "cli/script_words.h"
+#include "cli/standard_streams.h"
 #include "platform/file_store.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <optional>
 
 namespace kestrum::cli {
 
 namespace {
-
-/// `\n`, `\t` and `\\` in an argument. A line break of the system is CR LF.
-std::string Unescaped(std::string_view text) {
-    std::string plain;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char next = text[at] == '\\' && at + 1 < text.size() ? text[at + 1] : '\0';
-        if (next == 'n') {
-            plain += cr_lf;
-        } else if (next == 't') {
-            plain += '\t';
-        } else if (next == '\\') {
-            plain += '\\';
-        } else {
-            plain += text[at];
-            continue;
-        }
-        ++at;
-    }
-    return plain;
-}
-
-/// Takes the word at the front, and the blank behind it, off a text.
-std::string_view First_Word(std::string_view& rest) {
-    const std::string_view word = rest.substr(0, rest.find(' '));
-    rest.remove_prefix(std::min(word.size() + 1, rest.size()));
-    return word;
-}
-
-double Coordinate(std::string_view text) {
-    double value = 0;
-    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (failure != std::errc() || end != text.data() + text.size()) {
-        throw Script_Error("not a number: '" + std::string(text) + "'");
-    }
-    return value;
-}
 
 bool Has_Caption(Control_Kind kind) {
     return kind != Control_Kind::Text_Box && kind != Control_Kind::Picture;
@@ -73,14 +41,6 @@ std::string Name_In_File(const Control& control) {
     return address.substr(address.find('.') + 1);
 }
 
-Event Operation_Events(const std::vector<Draw_Operation>& operations) {
-    Event events = Event::array();
-    for (const Draw_Operation& operation : operations) {
-        events.push_back(Operation_Event(operation));
-    }
-    return events;
-}
-
 } // namespace
 
 /// A line taken apart: the command, the address behind it, and what follows that.
@@ -91,8 +51,12 @@ struct Script_Runner::Words {
     std::string_view all;      // address and argument
 };
 
+/// What stands behind a command.
+enum class Script_Runner::Takes { Nothing, One_Word, Text };
+
 struct Script_Runner::Command {
     std::string_view name;
+    Takes takes;
     void (Script_Runner::*run)(const Words& words);
 };
 
@@ -102,6 +66,7 @@ Script_Runner::Script_Runner(Surroundings surroundings, std::ostream& out, bool 
       printer_(out),
       dialogs_(printer_),
       windows_(printer_),
+      camera_(printer_),
       printers_(std::move(printers)),
       keeps_rescue_(keeps_rescue) {}
 
@@ -114,7 +79,9 @@ void Script_Runner::Start(const std::string& command_line) {
     session_ = std::make_unique<Session>(dialogs_, windows_, std::move(facts));
     session_->painter = &painter_;
     session_->printers = &printers_;
-    session_->graph.canvas.Keep_Journal();
+    session_->camera = &camera_;
+    journal_.Clear();
+    session_->graph.canvas.Keep_Journal(Will_Ask_For_Canvas());
     Start_Up(*session_);
     if (keeps_rescue_) {
         rescue_ = std::make_unique<Rescue>(*session_);
@@ -122,58 +89,84 @@ void Script_Runner::Start(const std::string& command_line) {
     }
 }
 
-int Script_Runner::Run(std::istream& script) {
+bool Script_Runner::Will_Ask_For_Canvas() const {
+    return !last_canvas_line_ || line_number_ < *last_canvas_line_;
+}
+
+int Script_Runner::Run(std::istream& script, const std::string& failure_text) {
     std::string line;
-    int number = 0;
     try {
+        last_canvas_line_ = Last_Canvas_Line(script, failure_text);
+        Line_Source lines(script, failure_text);
         Start(surroundings_.command_line);
-        while (std::getline(script, line)) {
-            ++number;
-            Execute(line);
+        while (lines.Next(line)) {
+            ++line_number_;
+            Execute(line_number_ == 1 ? Without_Encoding_Mark(line) : line);
             Keep_Rescue();
+            journal_.Collect(session_->graph.canvas);
         }
     } catch (const Run_Time_Error& failure) {
-        Keep_Rescue();
+        Write_Noted_Rescue();
         dialogs_.Drop_Queues();
         printer_.Print(
             {{"error", {{"number", failure.Number()}, {"description", failure.Description()}}}});
         return 1;
     } catch (const Script_Error& fault) {
-        throw Script_Error("line " + Event(number).dump() + ": " + fault.what());
+        throw Script_Error("line " + Event(line_number_).dump() + ": " + fault.what());
     }
     return 0;
 }
 
 void Script_Runner::Keep_Rescue() {
-    if (rescue_) {
+    if (rescue_ && session_->exit_saved) {
+        rescue_->Finish(*session_->exit_saved);
+    } else if (rescue_) {
         rescue_->Keep();
     }
 }
 
-void Script_Runner::Remove_Rescue() {
+/// What the failing command has left is half done: the state before it counts.
+void Script_Runner::Write_Noted_Rescue() {
+    constexpr std::chrono::seconds long_enough{60};
     if (rescue_) {
-        rescue_->Remove();
+        rescue_->Write();
+        rescue_->Flush(long_enough);
     }
 }
 
-void Script_Runner::Execute(std::string_view line) {
+const Script_Runner::Command& Script_Runner::Command_Named(std::string_view name) {
     static constexpr std::array<Command, 21> commands{{
-        {"get", &Script_Runner::Get},          {"prop", &Script_Runner::Prop},
-        {"var", &Script_Runner::Var},          {"set", &Script_Runner::Set},
-        {"type", &Script_Runner::Type},        {"leave", &Script_Runner::Leave_Field},
-        {"click", &Script_Runner::Click_On},   {"select", &Script_Runner::Select_Item},
-        {"hover", &Script_Runner::Hover_On},   {"mouse", &Script_Runner::Mouse},
-        {"key", &Script_Runner::Key},          {"answer", &Script_Runner::Answer},
-        {"choose", &Script_Runner::Choose},    {"colour", &Script_Runner::Answer_Colour},
-        {"font", &Script_Runner::Answer_Font}, {"close", &Script_Runner::Close},
-        {"dump", &Script_Runner::Dump},        {"canvas", &Script_Runner::Canvas},
-        {"printer", &Script_Runner::Printer},  {"exit", &Script_Runner::Exit},
-        {"restart", &Script_Runner::Restart},
+        {"get", Takes::One_Word, &Script_Runner::Get},
+        {"prop", Takes::Text, &Script_Runner::Prop},
+        {"var", Takes::One_Word, &Script_Runner::Var},
+        {"set", Takes::Text, &Script_Runner::Set},
+        {"type", Takes::Text, &Script_Runner::Type},
+        {"leave", Takes::One_Word, &Script_Runner::Leave_Field},
+        {"click", Takes::One_Word, &Script_Runner::Click_On},
+        {"select", Takes::Text, &Script_Runner::Select_Item},
+        {"hover", Takes::One_Word, &Script_Runner::Hover_On},
+        {"mouse", Takes::Text, &Script_Runner::Mouse},
+        {"key", Takes::Text, &Script_Runner::Key},
+        {"answer", Takes::Text, &Script_Runner::Answer},
+        {"choose", Takes::Text, &Script_Runner::Choose},
+        {"colour", Takes::Text, &Script_Runner::Answer_Colour},
+        {"font", Takes::Text, &Script_Runner::Answer_Font},
+        {"close", Takes::One_Word, &Script_Runner::Close},
+        {"dump", Takes::One_Word, &Script_Runner::Dump},
+        {"canvas", Takes::Nothing, &Script_Runner::Canvas},
+        {"printer", Takes::Nothing, &Script_Runner::Printer},
+        {"exit", Takes::Nothing, &Script_Runner::Exit},
+        {"restart", Takes::Text, &Script_Runner::Restart},
     }};
-    if (line.ends_with('\r')) {
-        line.remove_suffix(1);
+    const auto* const command = std::ranges::find(commands, name, &Command::name);
+    if (command == commands.end()) {
+        throw Script_Error("unknown command " + Quoted(name));
     }
-    if (line.find_first_not_of(' ') == std::string_view::npos || line.starts_with('#')) {
+    return *command;
+}
+
+void Script_Runner::Execute(std::string_view line) {
+    if (!Holds_Words(line) || line.starts_with('#')) {
         return;
     }
     Words words{};
@@ -181,17 +174,20 @@ void Script_Runner::Execute(std::string_view line) {
     words.command = First_Word(words.argument);
     words.all = words.argument;
     words.address = First_Word(words.argument);
-    const auto* const command = std::ranges::find(commands, words.command, &Command::name);
-    if (command == commands.end()) {
-        throw Script_Error("unknown command '" + std::string(words.command) + "'");
+    const Command& command = Command_Named(words.command);
+    const std::string_view too_much = command.takes == Takes::Nothing    ? words.all
+                                      : command.takes == Takes::One_Word ? words.argument
+                                                                         : std::string_view();
+    if (Holds_Words(too_much)) {
+        throw Script_Error(Quoted(too_much) + " is too much");
     }
-    (this->*command->run)(words);
+    (this->*command.run)(words);
 }
 
 Screen& Script_Runner::Screen_At(std::string_view name) {
     Screen* const screen = session_->Screen_Named(name);
     if (screen == nullptr) {
-        throw Script_Error("there is no screen '" + std::string(name) + "'");
+        throw Script_Error("there is no screen " + Quoted(name));
     }
     return *screen;
 }
@@ -200,7 +196,7 @@ Screen& Script_Runner::Screen_At(std::string_view name) {
 Control& Script_Runner::Control_At(std::string_view address) {
     const std::size_t dot = address.find('.');
     const auto unknown = [address] {
-        return Script_Error("there is no control '" + std::string(address) + "'");
+        return Script_Error("there is no control " + Quoted(address));
     };
     if (dot == std::string_view::npos) {
         throw unknown();
@@ -235,7 +231,7 @@ void Script_Runner::Prop(const Words& words) {
     const auto value = of_control ? Property_Of(Control_At(words.address), words.argument)
                                   : Property_Of(Screen_At(words.address), words.argument);
     if (!value) {
-        throw Script_Error("there is no property '" + std::string(words.argument) + "'");
+        throw Script_Error("there is no property " + Quoted(words.argument));
     }
     printer_.Print({{"prop", words.address}, {"name", words.argument}, {"value", *value}});
 }
@@ -243,7 +239,7 @@ void Script_Runner::Prop(const Words& words) {
 void Script_Runner::Var(const Words& words) {
     const auto value = Variable_Named(*session_, words.address);
     if (!value) {
-        throw Script_Error("there is no variable '" + std::string(words.address) + "'");
+        throw Script_Error("there is no variable " + Quoted(words.address));
     }
     printer_.Print({{"var", words.address}, {"value", Value_Of(*value)}});
 }
@@ -252,11 +248,18 @@ void Script_Runner::Set(const Words& words) {
     Control_At(words.address).Set_Text(Unescaped(words.argument));
 }
 
-void Script_Runner::Type(const Words& words) {
-    Field_Editor editor(*session_, Control_At(words.address));
-    for (const char32_t key : Characters_Of(Unescaped(words.argument))) {
-        editor.Press(key);
+void Script_Runner::Press(Control& control, std::string_view keys) {
+    if (!Takes_Raw_Keys(control)) {
+        Field_Editor(*session_, control).Type(keys);
+        return;
     }
+    for (const char32_t key : Characters_Of(keys)) {
+        Press_Raw_Key(*session_, control, key);
+    }
+}
+
+void Script_Runner::Type(const Words& words) {
+    Press(Control_At(words.address), Unescaped(words.argument));
 }
 
 void Script_Runner::Leave_Field(const Words& words) {
@@ -288,18 +291,25 @@ void Script_Runner::Mouse(const Words& words) {
     const auto* const action =
         std::ranges::find(actions, name, &std::pair<std::string_view, Mouse_Action>::first);
     if (action == actions.end()) {
-        throw Script_Error("unknown mouse action '" + std::string(name) + "'");
+        throw Script_Error("unknown mouse action " + Quoted(name));
     }
     const double x = Coordinate(First_Word(rest));
     const double y = Coordinate(First_Word(rest));
+    if (Holds_Words(rest)) {
+        throw Script_Error(Quoted(rest) + " is too much");
+    }
     Mouse_On_Picture(*session_, Control_At(words.address), action->second, x, y);
 }
 
 void Script_Runner::Key(const Words& words) {
-    Field_Editor editor(*session_, Control_At(words.address));
-    for (const char32_t key : Characters_Of(Unescaped(words.argument)).substr(0, 1)) {
-        editor.Press(key);
+    std::string key = Unescaped(words.argument);
+    if (key == cr_lf) {
+        key.pop_back(); // Enter is one key
     }
+    if (Length(key) != 1) {
+        throw Script_Error("not one key: " + Quoted(words.argument));
+    }
+    Press(Control_At(words.address), key);
 }
 
 void Script_Runner::Answer(const Words& words) {
@@ -311,7 +321,7 @@ void Script_Runner::Answer(const Words& words) {
     const auto* const answer =
         std::ranges::find(answers, words.all, &std::pair<std::string_view, Box_Answer>::first);
     if (answer == answers.end()) {
-        throw Script_Error("unknown answer '" + std::string(words.all) + "'");
+        throw Script_Error("unknown answer " + Quoted(words.all));
     }
     dialogs_.Queue_Answer(answer->second);
 }
@@ -329,7 +339,7 @@ void Script_Runner::Answer_Colour(const Words& words) {
     if (words.all.empty()) {
         dialogs_.Queue_Colour(std::nullopt);
     } else {
-        dialogs_.Queue_Colour(static_cast<int>(Coordinate(words.all)));
+        dialogs_.Queue_Colour(Colour_From(words.all));
     }
 }
 
@@ -338,13 +348,7 @@ void Script_Runner::Answer_Font(const Words& /*words*/) {
 }
 
 void Script_Runner::Close(const Words& words) {
-    Keep_Rescue(); // the texts of a window that closes are gone
-    Screen& screen = Screen_At(words.address);
-    const bool ends_program = screen.Name() == "Main";
-    Close_Window(*session_, screen);
-    if (ends_program) {
-        Remove_Rescue();
-    }
+    Close_Window(*session_, Screen_At(words.address));
 }
 
 void Script_Runner::Dump(const Words& words) {
@@ -358,15 +362,19 @@ void Script_Runner::Dump(const Words& words) {
 }
 
 void Script_Runner::Canvas(const Words& /*words*/) {
-    printer_.Print({{"canvas", Operation_Events(session_->graph.canvas.Take_Journal())}});
+    if (last_canvas_line_ && line_number_ > *last_canvas_line_) {
+        throw Script_Error("the script has changed while it ran");
+    }
+    journal_.Print(printer_, session_->graph.canvas);
+    session_->graph.canvas.Keep_Journal(Will_Ask_For_Canvas());
 }
 
 void Script_Runner::Printer(const Words& /*words*/) {
     Event documents = Event::array();
     for (const Printed_Document& document : printers_.Take_Documents()) {
         Event pages = Event::array();
-        for (const std::vector<Draw_Operation>& page : document.pages) {
-            pages.push_back(Operation_Events(page));
+        for (const Drawing& page : document.pages) {
+            pages.push_back(Operation_Events(page.Operations()));
         }
         documents.push_back({{"device", document.device}, {"pages", std::move(pages)}});
     }
@@ -375,7 +383,6 @@ void Script_Runner::Printer(const Words& /*words*/) {
 
 void Script_Runner::Exit(const Words& /*words*/) {
     Exit_Program(*session_);
-    Remove_Rescue();
 }
 
 void Script_Runner::Restart(const Words& words) {

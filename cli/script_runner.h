@@ -1,7 +1,9 @@
 #pragma once
 
+#include "cli/canvas_journal.h"
 #include "cli/event_printer.h"
 #include "cli/graph_painter.h"
+#include "cli/headless_camera.h"
 #include "cli/headless_dialogs.h"
 #include "cli/headless_printers.h"
 #include "cli/headless_windows.h"
@@ -10,6 +12,7 @@
 
 #include <istream>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -28,8 +31,8 @@ public:
 
     /// Runs to the end of the script. Gives the exit status: 0, or 1 when a failure that no
     /// routine handles ended the session. Raises `Script_Error`, with the line's number, for an
-    /// unknown command or address.
-    [[nodiscard]] int Run(std::istream& script);
+    /// unknown command or address, and `Stream_Error` with `failure_text` when reading it fails.
+    [[nodiscard]] int Run(std::istream& script, const std::string& failure_text);
 
     /// One line of a script. Raises `Script_Error`, and `Run_Time_Error` for an unhandled failure.
     void Execute(std::string_view line);
@@ -39,12 +42,17 @@ public:
 private:
     struct Command;
     struct Words;
+    enum class Takes;
 
+    [[nodiscard]] static const Command& Command_Named(std::string_view name);
     void Start(const std::string& command_line);
     void Keep_Rescue();
-    void Remove_Rescue();
+    void Write_Noted_Rescue();
+    [[nodiscard]] bool Will_Ask_For_Canvas() const;
     [[nodiscard]] Screen& Screen_At(std::string_view name);
     [[nodiscard]] Control& Control_At(std::string_view address);
+
+    void Press(Control& control, std::string_view keys);
 
     void Get(const Words& words);
     void Prop(const Words& words);
@@ -72,9 +80,14 @@ private:
     Event_Printer printer_;
     Headless_Dialogs dialogs_;
     Headless_Windows windows_;
+    Headless_Camera camera_;
     Headless_Printers printers_;
     Late_Painter painter_;
     std::unique_ptr<Session> session_;
+    Canvas_Journal journal_;
+    /// Of the script that runs, when it could be read ahead.
+    std::optional<int> last_canvas_line_;
+    int line_number_ = 0;
     bool keeps_rescue_;
     std::unique_ptr<Rescue> rescue_;
 };

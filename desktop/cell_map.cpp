@@ -12,37 +12,38 @@ namespace kestrum::desktop {
 
 namespace {
 
-/// The side that words name by a word of their own; "In/Ex" names none.
-theme::Side Side_In(const QString& words) {
-    static const QStringList intake{QStringLiteral("In"), QStringLiteral("In."),
-                                    QStringLiteral("Int"), QStringLiteral("Intake")};
-    static const QStringList exhaust{QStringLiteral("Ex"), QStringLiteral("Ex."),
-                                     QStringLiteral("Exh"), QStringLiteral("Exhaust")};
-    const QStringList single = words.split(QLatin1Char(' '));
-    // The last word tells, as in "CFM Sq In Ex.".
-    for (qsizetype at = single.size() - 1; at >= 0; --at) {
-        if (intake.contains(single[at])) {
-            return theme::Side::Intake;
+/// Whether words name a side by a word of their own; "In/Ex" names none.
+bool Names_Side(const QString& words, Side side) {
+    static const QStringList intake{QStringLiteral("In"), QStringLiteral("Int"),
+                                    QStringLiteral("Intake")};
+    static const QStringList exhaust{QStringLiteral("Ex"), QStringLiteral("Exh"),
+                                     QStringLiteral("Exhaust")};
+    const QStringList& names = side == Side::Intake ? intake : exhaust;
+    for (QString word : words.split(QLatin1Char(' '))) {
+        while (word.endsWith(QLatin1Char('.')) || word.endsWith(QLatin1Char(','))) {
+            word.chop(1);
         }
-        if (exhaust.contains(single[at])) {
-            return theme::Side::Exhaust;
+        if (names.contains(word)) {
+            return true;
         }
     }
-    return theme::Side::Neutral;
+    return false;
+}
+
+/// What tells one row of a table from the others.
+QString Row_Words(int row) {
+    return QLatin1String(", row ") + Digits_Of(row);
 }
 
 QString Joined(const QStringList& words) {
     return words.join(QLatin1Char(' ')).simplified();
 }
 
-QString Told_Side(const QString& words, theme::Side side) {
-    return words +
-           (side == theme::Side::Intake ? QLatin1String(", Intake") : QLatin1String(", Exhaust"));
-}
-
-QString With_Side(const QString& words, theme::Side side) {
-    const bool is_told = side == theme::Side::Neutral || Side_In(words) == side;
-    return words.isEmpty() || is_told ? words : Told_Side(words, side);
+QString With_Side(const QString& words, Side side) {
+    if (words.isEmpty() || side == Side::Both || Names_Side(words, side)) {
+        return words;
+    }
+    return words + (side == Side::Intake ? QLatin1String(", Intake") : QLatin1String(", Exhaust"));
 }
 
 } // namespace
@@ -128,12 +129,7 @@ QString Cell_Map::Heading_Of(int column, int first_row) const {
     if (label == nullptr) {
         return words;
     }
-    // Of two columns under one label the intake is the first.
-    const theme::Side side =
-        column == Place_Of(*label).column ? theme::Side::Intake : theme::Side::Exhaust;
-    const QString both =
-        To_Qt(label->Text()) + (words.isEmpty() ? words : QLatin1String(", ") + words);
-    return Side_In(words) == theme::Side::Neutral ? Told_Side(both, side) : both;
+    return To_Qt(label->Text()) + (words.isEmpty() ? words : QLatin1String(", ") + words);
 }
 
 int Cell_Map::First_Figure_Row(int column, int row) const {
@@ -145,16 +141,16 @@ int Cell_Map::First_Figure_Row(int column, int row) const {
 
 /// The caption before the figure, the heading of its column, or the caption before the figures to
 /// its left, in this order.
-QString Cell_Map::Bare_Words(int column, int row) const {
-    QString words = Captions_Left_Of(column, row);
+QString Cell_Map::Words_Of_Cell(int column, int row, Side side) const {
+    QString words = With_Side(Captions_Left_Of(column, row), side);
     if (!words.isEmpty()) {
         return words;
     }
     const int first = First_Figure_Row(column, row);
-    words = Heading_Of(column, first);
+    words = With_Side(Heading_Of(column, first), side);
     if (!words.isEmpty()) {
         const bool is_alone = first == row && !Is_Figure(column, row + 1);
-        return is_alone ? words : words + QLatin1String(", row ") + Digits_Of(row);
+        return is_alone ? words : words + Row_Words(row);
     }
     int left = column - (At(column - 1, row) == nullptr ? 1 : 0); // one gap is passed over
     while (Is_Figure(left - 1, row)) {
@@ -162,22 +158,39 @@ QString Cell_Map::Bare_Words(int column, int row) const {
     }
     words = Captions_Left_Of(left, row);
     if (words.isEmpty() && Is_Figure(column, row - 1)) {
-        words = Bare_Words(column, row - 1);
+        words = Words_Of_Cell(column, row - 1, side);
     }
-    return words.isEmpty() ? words : words + QLatin1String(" 2");
+    const bool side_tells = side != Side::Both; // the two figures of a caption apart
+    return side_tells || words.isEmpty() ? With_Side(words, side) : words + QLatin1String(" 2");
 }
 
-QString Cell_Map::Words_For(const Control& field) const {
+QString Cell_Map::Spoken_Name_Of(const Control& field) const {
     if (const Own_Words* const own = Own_Words_Of(field)) {
         return To_Qt(own->words);
     }
     const Place place = Place_Of(field);
-    const theme::Side side = Header_Side(field);
-    QString words = Bare_Words(place.column, place.row);
-    if (side != theme::Side::Neutral && words.endsWith(QLatin1String(" 2"))) {
-        words.chop(2); // the side tells the two apart
+    const QString words = Words_Of_Cell(place.column, place.row, field.Present_Look().side);
+    return words.isEmpty() ? To_Qt(field.Address()) : words;
+}
+
+QString Cell_Map::Lift_Beside(const Place& place) const {
+    for (int column = 0; column < place.column; ++column) {
+        if (Is_Figure(column, place.row) &&
+            Captions_Above(column, First_Figure_Row(column, place.row))
+                .contains(QLatin1String("Lift"))) {
+            return To_Qt(At(column, place.row)->Text()).trimmed();
+        }
     }
-    return With_Side(words.isEmpty() ? To_Qt(field.Address()) : words, side);
+    return {};
+}
+
+QString Cell_Map::Words_With_Lift(const Control& field) const {
+    const Place place = Place_Of(field);
+    const QString lift = Lift_Beside(place);
+    const int line = place.row - First_Figure_Row(place.column, place.row) + 1;
+    return Spoken_Name_Of(field).replace(Row_Words(place.row),
+                                         lift.isEmpty() ? QLatin1String(", line ") + Digits_Of(line)
+                                                        : QLatin1String(", lift ") + lift);
 }
 
 bool Cell_Map::Heads_Column(const Control& caption) const {
@@ -196,26 +209,6 @@ bool Cell_Map::Is_Under_Heading(const Control& field) const {
     const Place place = Place_Of(field);
     return !Is_Caption(place.column - 1, place.row) &&
            Is_Caption(place.column, First_Figure_Row(place.column, place.row) - 1);
-}
-
-theme::Side Cell_Map::Side_Of(const Control& cell) const {
-    const theme::Side told = Header_Side(cell);
-    if (told != theme::Side::Neutral || cell.Entry().use == Cell_Use::None) {
-        return told;
-    }
-    const Place place = Place_Of(cell);
-    if (cell.Entry().use != Cell_Use::Caption) {
-        const QString words = Bare_Words(place.column, place.row);
-        return Side_In(words.left(words.indexOf(QLatin1String(", row "))));
-    }
-    if (!Heads_Column(cell)) {
-        return Side_In(To_Qt(cell.Text()));
-    }
-    int last = place.row; // the lines of a heading go together
-    while (Is_Caption(place.column, last + 1)) {
-        ++last;
-    }
-    return Side_In(Heading_Of(place.column, last + 1));
 }
 
 } // namespace kestrum::desktop

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desktop/theme.h"
 #include "screens/screen.h"
 
 #include <QString>
@@ -17,12 +16,14 @@ public:
     Cell_Map(const Screen& screen, std::string_view holder);
 
     /// Words of the trade for a field: "Throat dia Ex", "Observed Flow Intake, row 17".
-    [[nodiscard]] QString Words_For(const Control& field) const;
+    [[nodiscard]] QString Spoken_Name_Of(const Control& field) const;
+    /// The same with the lift that stands in the row: "Observed Flow Intake, lift 100". A row
+    /// without one is counted from the top of its column.
+    [[nodiscard]] QString Words_With_Lift(const Control& field) const;
     /// Whether a caption heads a column; if not, it stands before its figure.
     [[nodiscard]] bool Heads_Column(const Control& caption) const;
     /// Whether a field belongs to a table, under a heading.
     [[nodiscard]] bool Is_Under_Heading(const Control& field) const;
-    [[nodiscard]] theme::Side Side_Of(const Control& cell) const;
 
     [[nodiscard]] int Columns() const { return columns_; }
 
@@ -46,7 +47,9 @@ private:
     [[nodiscard]] QString Heading_Of(int column, int first_row) const;
     /// Row of the topmost of the figures that stand above a cell without a gap, or its own.
     [[nodiscard]] int First_Figure_Row(int column, int row) const;
-    [[nodiscard]] QString Bare_Words(int column, int row) const;
+    [[nodiscard]] QString Words_Of_Cell(int column, int row, Side side) const;
+    /// The lift in the row of a field, empty where there is none or it is the field itself.
+    [[nodiscard]] QString Lift_Beside(const Place& place) const;
 
     int columns_ = 0;
     int rows_ = 0;

@@ -14,7 +14,7 @@ bool Can_Do_Something(const Control& control) {
     case Control_Kind::Button:
         return Has_Routine(control);
     case Control_Kind::Check_Box:
-        return Has_Routine(control) || control.Owner().Name() != "Main";
+        return Has_Routine(control) || control.Owner().Kind() != Screen_Kind::Engine;
     default:
         return true;
     }
@@ -36,6 +36,18 @@ void Show_Common_State(QWidget& widget, const Control& control) {
     if (hidden == look.visible) {
         widget.setVisible(look.visible);
     }
+}
+
+Qt::Alignment Alignment_Of(const Control& control) {
+    switch (control.Present_Look().alignment) {
+    case Alignment::Right:
+        return Qt::AlignRight;
+    case Alignment::Center:
+        return Qt::AlignHCenter;
+    case Alignment::Left:
+        break;
+    }
+    return Qt::AlignLeft;
 }
 
 void Give_Name(QWidget& widget, const Control& control) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/theme.h"
-#include "desktop/user_events.h"
+#include "desktop/view_host.h"
 
 #include <QEnterEvent>
 #include <QFocusEvent>
@@ -13,8 +13,7 @@ namespace kestrum::desktop {
 
 /// What the window knows of a control besides its table line.
 struct View_Facts {
-    User_Events& events;
-    theme::Side side = theme::Side::Neutral;
+    View_Host& events;
     /// Stands at the head of a column, not before a figure.
     bool heads_column = false;
     /// Words of the trade, taken from the captions around the field.
@@ -46,13 +45,6 @@ public:
     /// The captions around the field have changed.
     virtual void Take_Words(const QString& words) { facts.words = words; }
 
-    void Take_Side(theme::Side side) {
-        if (facts.side != side) {
-            facts.side = side;
-            Widget()->update();
-        }
-    }
-
     Control& control;
 
 protected:
@@ -61,6 +53,8 @@ protected:
 
 /// The state that all widgets have in common.
 void Show_Common_State(QWidget& widget, const Control& control);
+/// Where the text of a control stands between left and right.
+[[nodiscard]] Qt::Alignment Alignment_Of(const Control& control);
 /// The control's address as object name.
 void Give_Name(QWidget& widget, const Control& control);
 /// And as description. Qt makes its object for assistive technology at that moment, so the widget

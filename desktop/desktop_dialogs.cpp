@@ -94,6 +94,18 @@ public:
     }
 };
 
+/// The place of an entry, from 1. With its details hidden, some versions of the toolkit tell an
+/// entry by its words alone.
+std::optional<int> Entry_Of(const QStringList& filters, const QString& selected) {
+    for (qsizetype at = 0; at < filters.size(); ++at) {
+        const QString words = filters[at].left(filters[at].lastIndexOf(QLatin1Char('(')));
+        if (filters[at] == selected || words.trimmed() == selected.trimmed()) {
+            return static_cast<int>(at) + 1;
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 QString Text_For_Box(std::string_view text) {
@@ -126,7 +138,7 @@ Box_Answer Desktop_Dialogs::Show_Box(const Box& box) {
     return Answer_Of(dialog.exec());
 }
 
-std::optional<std::string> Desktop_Dialogs::Choose_File(const Chooser& chooser) {
+std::optional<Chosen_Path> Desktop_Dialogs::Choose_File(const Chooser& chooser) {
     Plain_Icons icons;
     const bool saves = chooser.mode == Chooser_Mode::Save;
     QFileDialog dialog(QApplication::activeWindow(),
@@ -146,7 +158,10 @@ std::optional<std::string> Desktop_Dialogs::Choose_File(const Chooser& chooser) 
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    return From_Qt(dialog.selectedFiles().constFirst());
+    return Chosen_Path{
+        .path = From_Qt(dialog.selectedFiles().constFirst()),
+        .filter_index =
+            Entry_Of(filters, dialog.selectedNameFilter()).value_or(chooser.filter_index)};
 }
 
 std::optional<int> Desktop_Dialogs::Choose_Colour() {

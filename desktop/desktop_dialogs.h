@@ -13,7 +13,7 @@ public:
     void Set_Title(const std::string& title) { title_ = title; }
 
     Box_Answer Show_Box(const Box& box) override;
-    std::optional<std::string> Choose_File(const Chooser& chooser) override;
+    std::optional<Chosen_Path> Choose_File(const Chooser& chooser) override;
     std::optional<int> Choose_Colour() override;
     void Beep() override;
 

@@ -1,21 +1,19 @@
 #include "desktop/desktop_printers.h"
 
+#include "base/run_time_error.h"
 #include "desktop/text_bridge.h"
-#include "platform/run_time_error.h"
+#include "platform/file_store.h"
 
-#include <QPageLayout>
-#include <QPainter>
-#include <QPixmap>
-#include <QPrinter>
 #include <QPrinterInfo>
-#include <QWidget>
+
+#include <utility>
 
 namespace kestrum::desktop {
 
 namespace {
 
 /// Painted anew, several times as fine as on the display.
-QPixmap Picture_Of(QWidget& window) {
+QPixmap Fine_Picture_Of(QWidget& window) {
     constexpr int dots = 3; // on paper for one of the display
     QPixmap picture(window.size() * dots);
     picture.setDevicePixelRatio(dots);
@@ -36,26 +34,59 @@ std::vector<std::string> Desktop_Printers::Devices() const {
             names.push_back(From_Qt(name));
         }
     }
+    names.emplace_back(pdf_file);
     return names;
+}
+
+void Desktop_Printers::Print(const std::string& device, const Document& document) {
+    Print_Or_Show(device, Printable_Of(document, logos_));
 }
 
 void Desktop_Printers::Print_Screen(const std::string& device, const Screen_Picture& picture) {
     QWidget* const window = window_of_(picture.screen);
-    QPrinter printer(QPrinterInfo::printerInfo(To_Qt(device)), QPrinter::HighResolution);
-    QPainter painter;
     if (window == nullptr) {
         Fail(error::printer_error);
     }
-    printer.setPageOrientation(window->width() > window->height() ? QPageLayout::Landscape
-                                                                  : QPageLayout::Portrait);
-    if (!painter.begin(&printer)) {
+    Print_Or_Show(device, Printable_Of(Fine_Picture_Of(*window), window->windowTitle()));
+}
+
+void Desktop_Printers::Print_Or_Show(const std::string& device, const Printable& printable) {
+    if (std::exchange(previews_, false) && show_preview) {
+        show_preview(*this, device, printable);
+    } else {
+        Send(device, printable, std::nullopt);
+    }
+}
+
+bool Desktop_Printers::Send(const std::string& device, const Printable& printable,
+                            std::optional<Paper_Size> paper) {
+    if (device == pdf_file) {
+        return Write_Pdf(printable, paper.value_or(Usual_Paper()));
+    }
+    QPrinter printer(QPrinter::HighResolution);
+    Set_Up_Printer(printer, device, printable, paper);
+    if (!printable.paint(printer) || printer.printerState() == QPrinter::Error) {
         Fail(error::printer_error);
     }
-    const QPixmap window_picture = Picture_Of(*window);
-    const QRectF page = printer.pageRect(QPrinter::DevicePixel);
-    const QSizeF size = QSizeF(window->size()).scaled(page.size(), Qt::KeepAspectRatio);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(QRectF(QPointF(), size), window_picture, QRectF(window_picture.rect()));
+    if (say) {
+        say(QStringLiteral("Printed on ") + To_Qt(device));
+    }
+    return true;
+}
+
+bool Desktop_Printers::Write_Pdf(const Printable& printable, Paper_Size paper) {
+    const auto path = dialogs_.Choose_File({.mode = Chooser_Mode::Save,
+                                            .filter = "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*",
+                                            .filter_index = 1,
+                                            .folder = folder_});
+    if (!path) {
+        return false;
+    }
+    Write_Whole_File(path->path, Pdf_Bytes(printable, paper));
+    if (say) {
+        say(QStringLiteral("Printed to the file ") + To_Qt(path->path));
+    }
+    return true;
 }
 
 } // namespace kestrum::desktop

@@ -1,6 +1,9 @@
 #include "desktop/desktop_windows.h"
 
+#include "desktop/help_line.h"
 #include "screens/screen.h"
+
+#include <QApplication>
 
 namespace kestrum::desktop {
 
@@ -33,6 +36,30 @@ void Desktop_Windows::Raise(Screen& screen) {
     }
 }
 
+void Desktop_Windows::Show_Behind(Screen& screen) {
+    QWidget* const front = QApplication::activeWindow();
+    if (Screen_Window* const window = Window_Of(screen)) {
+        window->setAttribute(Qt::WA_ShowWithoutActivating);
+        window->show();
+        window->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    }
+    if (front != nullptr) {
+        front->raise();
+    }
+}
+
+void Desktop_Windows::Say(const QString& words) const {
+    const QWidget* front = QApplication::activeWindow();
+    while (front != nullptr && front->parentWidget() != nullptr) {
+        front = front->parentWidget(); // a preview belongs to the window that it came from
+    }
+    for (const auto& [screen, window] : windows_) {
+        if (window == front) {
+            window->Its_Help_Line().Show_Words(words);
+        }
+    }
+}
+
 void Desktop_Windows::Hide(Screen& screen) {
     if (Screen_Window* const window = Window_Of(screen)) {
         window->Close();
@@ -40,15 +67,12 @@ void Desktop_Windows::Hide(Screen& screen) {
 }
 
 void Desktop_Windows::Unload(Screen& screen) {
-    if (on_unload) {
-        on_unload();
-    }
     const auto found = windows_.find(&screen);
     if (found != windows_.end()) {
         found->second->Let_Go();
         windows_.erase(found);
     }
-    if (screen.Name() == "Main" && on_end) {
+    if (screen.Kind() == Screen_Kind::Engine && on_end) {
         on_end();
     }
 }

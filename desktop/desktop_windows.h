@@ -21,11 +21,15 @@ public:
 
     void Show(Screen& screen) override;
     void Raise(Screen& screen) override;
+    void Show_Behind(Screen& screen) override;
     void Hide(Screen& screen) override;
     void Unload(Screen& screen) override;
     void Focus(Control& control) override;
 
     void Show_Changes() override { Refresh(); }
+
+    /// Tells the user something in the help line of the window that is in use.
+    void Say(const QString& words) const;
 
     /// Shows what an event has changed.
     void Refresh();
@@ -35,8 +39,6 @@ public:
 
     /// Runs when `Main` has gone.
     std::function<void()> on_end;
-    /// Runs before a screen's texts go.
-    std::function<void()> on_unload;
     /// Runs when a window has been made.
     std::function<void(Screen_Window&, const Screen&)> on_new_window;
 

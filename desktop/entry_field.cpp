@@ -2,6 +2,7 @@
 
 #include "desktop/text_bridge.h"
 #include "desktop/text_views.h"
+#include "desktop/typed_keys.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -13,24 +14,14 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QTimer>
 
+#include <algorithm>
 #include <memory>
 
 namespace kestrum::desktop {
 
 namespace {
-
-Qt::Alignment Alignment_Of(const Look& look) {
-    switch (look.alignment) {
-    case Alignment::Right:
-        return Qt::AlignRight;
-    case Alignment::Center:
-        return Qt::AlignHCenter;
-    case Alignment::Left:
-        break;
-    }
-    return Qt::AlignLeft;
-}
 
 bool Is_Character(char32_t code) {
     constexpr char32_t first_printable = 32;
@@ -38,13 +29,10 @@ bool Is_Character(char32_t code) {
     return code >= first_printable && code != deletes;
 }
 
-/// The character that a key types; empty for a shortcut or an editing key.
-QString Typed_Character(const QKeyEvent& event) {
-    const auto modifiers = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    const bool is_shortcut = modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier ||
-                             (event.modifiers() & Qt::MetaModifier) != 0;
+/// The characters that a key types; empty for an editing key.
+QString Typed_Characters(const QKeyEvent& event) {
     const QString text = event.text();
-    return is_shortcut || text.isEmpty() || !Is_Character(text.at(0).unicode()) ? QString() : text;
+    return text.isEmpty() || !Is_Character(text.at(0).unicode()) ? QString() : text;
 }
 
 } // namespace
@@ -88,10 +76,10 @@ void Entry_Field::Show_Look() {
     look_ = look;
     shown_once_ = true;
     setReadOnly(look_.locked || text() != To_Qt(control.Text()));
-    setAlignment(Alignment_Of(look_));
-    theme::Cell_Colours colours = theme::Colours_Of(control, facts.side);
+    setAlignment(Alignment_Of(control));
+    theme::Cell_Colours colours = theme::Colours_Of(control);
     if (control.Entry().use == Cell_Use::Caption) {
-        colours.text = theme::Caption_Ink(facts.side); // a caption with a field's handlers
+        colours.text = theme::Caption_Ink(look_.side); // a caption with a field's handlers
     }
     if (palette().color(QPalette::Base).rgb() != colours.back ||
         palette().color(QPalette::Text).rgb() != colours.text) {
@@ -127,13 +115,23 @@ void Entry_Field::Take_Typed(const QString& text) {
 }
 
 bool Entry_Field::All_Pass(const QString& typed) {
-    for (const char32_t character : typed.toUcs4()) {
-        if (!facts.events.Passes(control, character)) {
-            facts.events.Beep();
-            return false;
-        }
+    const QList<uint> characters = typed.toUcs4();
+    const bool all = std::ranges::all_of(
+        characters, [this](char32_t character) { return facts.events.Passes(control, character); });
+    if (!all) {
+        Flash();
     }
-    return true;
+    return all;
+}
+
+void Entry_Field::Flash() {
+    constexpr int milliseconds = 300;
+    flashes_ = true;
+    update();
+    QTimer::singleShot(milliseconds, this, [this] {
+        flashes_ = false;
+        update();
+    });
 }
 
 bool Entry_Field::Moves_Away(const QKeyEvent& event) {
@@ -173,10 +171,16 @@ void Entry_Field::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (event->matches(QKeySequence::Paste)) {
-        Insert_Filtered(QGuiApplication::clipboard()->text());
+        Paste();
         return;
     }
-    const QString typed = Typed_Character(*event);
+    if (Is_Shortcut(*event)) {
+        QKeyEvent bare = Without_Text(*event);
+        Widget_View::keyPressEvent(&bare);
+        event->setAccepted(bare.isAccepted());
+        return;
+    }
+    const QString typed = Typed_Characters(*event);
     if (!typed.isEmpty() && (!All_Pass(typed) || isReadOnly())) {
         event->accept(); // and does nothing
         return;
@@ -190,7 +194,7 @@ void Entry_Field::inputMethodEvent(QInputMethodEvent* event) {
         return;
     }
     // Of a composition only what it comes to counts.
-    Insert_Filtered(event->commitString());
+    Take_Text(event->commitString());
     event->accept();
 }
 
@@ -200,7 +204,7 @@ void Entry_Field::mouseReleaseEvent(QMouseEvent* event) {
         facts.events.Mouse_Down(false);
         deselect();
         setCursorPosition(cursorPositionAt(event->position().toPoint()));
-        Insert_Filtered(clipboard.text(QClipboard::Selection));
+        Take_Text(clipboard.text(QClipboard::Selection));
         return;
     }
     Widget_View::mouseReleaseEvent(event);
@@ -210,7 +214,7 @@ void Entry_Field::dropEvent(QDropEvent* event) {
     if (!isReadOnly() && event->mimeData()->hasText()) {
         deselect();
         setCursorPosition(cursorPositionAt(event->position().toPoint()));
-        Insert_Filtered(event->mimeData()->text());
+        Take_Text(event->mimeData()->text());
         event->setDropAction(Qt::CopyAction); // nothing is taken out of another field
         event->accept();
     }
@@ -221,37 +225,36 @@ void Entry_Field::contextMenuEvent(QContextMenuEvent* event) {
     for (QAction* const action : menu->actions()) {
         if (action->objectName() == QLatin1String("edit-paste")) {
             action->disconnect();
-            connect(action, &QAction::triggered, this,
-                    [this] { Insert_Filtered(QGuiApplication::clipboard()->text()); });
+            connect(action, &QAction::triggered, this, [this] { Paste(); });
         }
     }
     menu->exec(event->globalPos());
 }
 
-void Entry_Field::Insert_Filtered(const QString& text) {
-    if (isReadOnly()) {
+void Entry_Field::Paste() {
+    if (!facts.events.Paste_Cells(*this)) {
+        Take_Text(QGuiApplication::clipboard()->text());
+    }
+}
+
+void Entry_Field::Take_Text(const QString& text) {
+    if (isReadOnly() || text.isEmpty()) {
         return;
     }
-    bool refused = false;
-    QString free_text;
-    for (const char32_t code : text.toUcs4()) {
-        const QString character = QString::fromUcs4(&code, 1);
-        if (!Is_Character(code)) {
-            continue; // a line break or the like, as a copied cell of a table ends in
-        }
-        if (control.Entry().filter == Key_Filter::Every_Key) {
-            free_text += character;
-        } else if (facts.events.Passes(control, code)) {
-            insert(character); // at once, since the filter looks at the text so far
-        } else {
-            refused = true;
-        }
+    QString rest = this->text();
+    if (hasSelectedText()) {
+        rest.remove(selectionStart(), selectedText().size());
     }
-    if (!free_text.isEmpty()) {
-        insert(free_text);
+    if (rest.size() + text.size() > maxLength()) {
+        facts.events.Refuse("That is too much text for one cell.");
+        Flash();
+        return;
     }
-    if (refused) {
-        facts.events.Beep(); // once, whatever the length
+    const auto piece = facts.events.Piece_Of(control, From_Qt(rest), From_Qt(text));
+    if (!piece) {
+        Flash();
+    } else if (!piece->empty()) {
+        insert(QString::fromStdU32String(*piece));
     }
 }
 
@@ -268,11 +271,18 @@ void Entry_Field::paintEvent(QPaintEvent* event) {
     if (control.Entry().use == Cell_Use::Caption && !hasFocus()) {
         return;
     }
-    const theme::Cell_Colours colours = theme::Colours_Of(control, facts.side);
+    const theme::Cell_Colours colours = theme::Colours_Of(control);
     QPainter painter(this);
     const bool has_focus = hasFocus();
     painter.setPen(QColor::fromRgb(has_focus ? theme::accent : colours.line));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (flashes_) {
+        QColor veil = QColor::fromRgb(theme::failure);
+        painter.setPen(QPen(veil, 2));
+        veil.setAlphaF(0.2F);
+        painter.fillRect(rect(), veil);
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
     const QRect foot(0, height() - 2, width(), 2);
     painter.fillRect(foot, QColor::fromRgb(has_focus ? theme::accent : colours.foot));
     if (control.Entry().hover == Hover::Shows) {

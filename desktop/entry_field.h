@@ -29,14 +29,19 @@ private:
     void Show_Text();
     void Show_Look();
     [[nodiscard]] bool Moves_Away(const QKeyEvent& event);
-    /// Whether the filter lets all pass; beeps where it does not.
+    /// Whether the filter lets all pass; flashes where it does not.
     [[nodiscard]] bool All_Pass(const QString& typed);
-    /// Puts in what the filter lets pass, character by character.
-    void Insert_Filtered(const QString& text);
+    /// What the clipboard holds, for this cell or from it on.
+    void Paste();
+    /// Puts in a text that was pasted or dropped, or changes nothing and flashes.
+    void Take_Text(const QString& text);
+    /// Shows for a moment that something was refused.
+    void Flash();
     void Take_Typed(const QString& text);
 
     Look look_;
     bool shown_once_ = false;
+    bool flashes_ = false;
 };
 
 } // namespace kestrum::desktop

@@ -24,12 +24,17 @@ private:
 
 } // namespace
 
+bool Focus_Keeper::Is_Excused(const Control& field) const {
+    const auto found = excused_.find(&field);
+    return found != excused_.end() && found->second == field.Text();
+}
+
 bool Focus_Keeper::Goes_To(Control& next) {
     if (held_ == &next) {
         return true;
     }
     Control* const left = std::exchange(held_, &next);
-    if (left != nullptr && !checking_) {
+    if (left != nullptr && !checking_ && !Is_Excused(*left)) {
         const Switched_On while_it_runs(checking_);
         Leave(session_, *left);
     }

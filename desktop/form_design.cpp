@@ -7,11 +7,6 @@ namespace kestrum::desktop {
 
 namespace {
 
-bool Is_Sheet(const Screen& screen) {
-    const std::string& name = screen.Name();
-    return name >= "Form1" && name <= "Form5" && name.size() == 5;
-}
-
 constexpr std::array main_cards{
     Place{0, 0, 11, 13},
     Place{0, 14, 11, 2},
@@ -48,66 +43,48 @@ constexpr Form_Design report_design{.column_width = 88, .row_height = 28};
 constexpr Form_Design panel_design{.column_width = 60, .row_height = 26};
 
 constexpr auto own_words = std::to_array<Own_Words>({
-    {"Main", "", "Text33", no_index, "Name of test", {}},
-    {"Main", "", "Text38", no_index, "Comments", {}},
-    {"Main", "", "Option4", 0, "Company on prints", {6, 17, 2, 1}},
-    {"Main", "Frame4", "Text1", 0, "Flow Test #1", {0, 0, 1, 1}},
-    {"Main", "Frame4", "Text1", 1, "Flow Test #2", {0, 1, 1, 1}},
-    {"Main", "Frame4", "Text1", 2, "Flow Test #3", {0, 2, 1, 1}},
-    {"Main", "Frame4", "Text1", 3, "Flow Test #4", {0, 3, 1, 1}},
-    {"Main", "Frame4", "Text1", 4, "Flow Test #5", {0, 4, 1, 1}},
-    {"Main", "Frame96", "Text94", no_index, "Company name", {0, 0, 2, 1}},
-    {"Main", "Frame96", "Text95", no_index, "Street address", {0, 1, 2, 1}},
-    {"Main", "Frame96", "Text96", no_index, "City, state, zip", {0, 2, 2, 1}},
-    {"Main", "Frame96", "Text97", no_index, "Phone, fax, email", {0, 3, 2, 1}},
-    {"Main", "Frame96", "Text98", no_index, "Website", {0, 4, 2, 1}},
-    {"Form50", "", "Text1", no_index, "Y Axis Low", {}},
-    {"Form50", "", "Text2", no_index, "Y Axis High", {}},
-    {"Form50", "", "Text3", no_index, "Valve Lift 1", {}},
-    {"Form50", "", "Text4", no_index, "Valve Lift 2", {}},
-    {"Form50", "", "Text71", no_index, "Graph Caption Line 1", {}},
-    {"Form50", "", "Text72", no_index, "Graph Caption Line 2", {}},
-    {"Form70", "", "Text38", no_index, "Text Report", {}},
-});
-constexpr Own_Words sheet_comments{"", "Frame1", "Text38", no_index, "Comments", {}};
-
-struct Sided_Field {
-    std::string_view array;
-    int row;
-    theme::Side side;
-};
-
-constexpr auto sided_fields = std::to_array<Sided_Field>({
-    {"Text102", 2, theme::Side::Intake},   {"Text102", 4, theme::Side::Intake},
-    {"Text102", 5, theme::Side::Intake},   {"Text102", 9, theme::Side::Intake},
-    {"Text102", 11, theme::Side::Intake},  {"Text103", 9, theme::Side::Exhaust},
-    {"Text103", 11, theme::Side::Exhaust}, {"Text104", 2, theme::Side::Exhaust},
-    {"Text104", 4, theme::Side::Exhaust},  {"Text104", 5, theme::Side::Exhaust},
-    {"Text106", 11, theme::Side::Intake},  {"Text107", 11, theme::Side::Exhaust},
-    {"Text110", 2, theme::Side::Intake},   {"Text110", 3, theme::Side::Exhaust},
-    {"Text111", 2, theme::Side::Intake},   {"Text111", 3, theme::Side::Exhaust},
-    {"Text112", 2, theme::Side::Intake},   {"Text112", 3, theme::Side::Exhaust},
-    {"Text202", 4, theme::Side::Intake},   {"Text202", 5, theme::Side::Intake},
-    {"Text204", 4, theme::Side::Exhaust},  {"Text204", 5, theme::Side::Exhaust},
+    {Screen_Kind::Engine, "", "Text33", no_index, "Name of test", {}},
+    {Screen_Kind::Engine, "", "Text38", no_index, "Comments", {}},
+    {Screen_Kind::Engine, "", "Option4", 0, "Company on prints", {6, 17, 2, 1}},
+    {Screen_Kind::Engine, "Frame4", "Text1", 0, "Flow Test #1", {0, 0, 1, 1}},
+    {Screen_Kind::Engine, "Frame4", "Text1", 1, "Flow Test #2", {0, 1, 1, 1}},
+    {Screen_Kind::Engine, "Frame4", "Text1", 2, "Flow Test #3", {0, 2, 1, 1}},
+    {Screen_Kind::Engine, "Frame4", "Text1", 3, "Flow Test #4", {0, 3, 1, 1}},
+    {Screen_Kind::Engine, "Frame4", "Text1", 4, "Flow Test #5", {0, 4, 1, 1}},
+    {Screen_Kind::Engine, "Frame96", "Text94", no_index, "Company name", {0, 0, 2, 1}},
+    {Screen_Kind::Engine, "Frame96", "Text95", no_index, "Street address", {0, 1, 2, 1}},
+    {Screen_Kind::Engine, "Frame96", "Text96", no_index, "City, state, zip", {0, 2, 2, 1}},
+    {Screen_Kind::Engine, "Frame96", "Text97", no_index, "Phone, fax, email", {0, 3, 2, 1}},
+    {Screen_Kind::Engine, "Frame96", "Text98", no_index, "Website", {0, 4, 2, 1}},
+    {Screen_Kind::Compare, "", "Text1", no_index, "Y Axis Low", {}},
+    {Screen_Kind::Compare, "", "Text2", no_index, "Y Axis High", {}},
+    {Screen_Kind::Compare, "", "Text3", no_index, "Valve Lift 1", {}},
+    {Screen_Kind::Compare, "", "Text4", no_index, "Valve Lift 2", {}},
+    {Screen_Kind::Compare, "", "Text71", no_index, "Graph Caption Line 1", {}},
+    {Screen_Kind::Compare, "", "Text72", no_index, "Graph Caption Line 2", {}},
+    {Screen_Kind::Sheet, "Frame1", "Text38", no_index, "Comments", {}},
+    {Screen_Kind::Report, "", "Text38", no_index, "Text Report", {}},
 });
 
 } // namespace
 
 const Form_Design& Design_Of(const Screen& screen, std::string_view holder) {
-    const std::string& name = screen.Name();
-    if (Is_Sheet(screen)) {
+    if (screen.Kind() == Screen_Kind::Sheet) {
         return holder.empty() ? sheet_design : page_2_design;
     }
     if (!holder.empty()) {
         return panel_design;
     }
-    if (name == "Form50") {
+    switch (screen.Kind()) {
+    case Screen_Kind::Compare:
         return compare_design;
-    }
-    if (name == "Form60") {
+    case Screen_Kind::Graph:
         return graph_design;
+    case Screen_Kind::Report:
+        return report_design;
+    default:
+        return main_design;
     }
-    return name == "Form70" ? report_design : main_design;
 }
 
 std::span<const Own_Words> All_Own_Words() {
@@ -115,22 +92,11 @@ std::span<const Own_Words> All_Own_Words() {
 }
 
 const Own_Words* Own_Words_Of(const Control& field) {
-    if (Is_Sheet(field.Owner())) {
-        return field.Entry().array == sheet_comments.array ? &sheet_comments : nullptr;
-    }
     const auto* const found = std::ranges::find_if(own_words, [&field](const Own_Words& line) {
         return line.array == field.Entry().array && line.index == field.Index() &&
-               line.screen == field.Owner().Name();
+               line.screen == field.Owner().Kind();
     });
     return found == own_words.end() ? nullptr : found;
-}
-
-theme::Side Header_Side(const Control& field) {
-    const auto* const found = std::ranges::find_if(sided_fields, [&field](const auto& line) {
-        return line.array == field.Entry().array && line.row == field.Index();
-    });
-    return Is_Sheet(field.Owner()) && found != sided_fields.end() ? found->side
-                                                                  : theme::Side::Neutral;
 }
 
 } // namespace kestrum::desktop

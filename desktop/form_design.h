@@ -26,7 +26,7 @@ struct Form_Design {
 
 /// Words for a field that has no caption cell beside it.
 struct Own_Words {
-    std::string_view screen;
+    Screen_Kind screen;
     std::string_view holder;
     std::string_view array;
     int index = no_index;
@@ -38,8 +38,5 @@ struct Own_Words {
 [[nodiscard]] std::span<const Own_Words> All_Own_Words();
 /// Null for a field that is named by its caption cells.
 [[nodiscard]] const Own_Words* Own_Words_Of(const Control& field);
-
-/// The side of a figure in the header of a sheet whose caption does not tell it.
-[[nodiscard]] theme::Side Header_Side(const Control& field);
 
 } // namespace kestrum::desktop

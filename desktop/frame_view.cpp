@@ -101,7 +101,7 @@ void Frame_View::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::radius,
                             theme::radius);
     painter.setFont(Caption_Font());
-    painter.setPen(QColor::fromRgb(theme::Caption_Ink(theme::Side::Neutral)));
+    painter.setPen(QColor::fromRgb(theme::Caption_Ink(Side::Both)));
     const int padding = floats_ ? 3 * theme::card_padding : theme::card_padding;
     Paint_Fitted(painter, rect().adjusted(padding + theme::text_padding, padding, -padding, 0),
                  Qt::AlignLeft | Qt::AlignTop, To_Qt(control.Text()));

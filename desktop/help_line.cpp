@@ -22,9 +22,20 @@ Help_Line::Help_Line(QWidget* parent) : QWidget(parent) {
 void Help_Line::Show_Words(const QString& words) {
     if (words != words_) {
         words_ = words;
-        setAccessibleName(words_);
-        update();
+        Show_Present();
     }
+}
+
+void Help_Line::Tell(const QString& refusal) {
+    if (refusal != refusal_) {
+        refusal_ = refusal;
+        Show_Present();
+    }
+}
+
+void Help_Line::Show_Present() {
+    setAccessibleName(Present());
+    update();
 }
 
 QSize Help_Line::sizeHint() const {
@@ -35,10 +46,10 @@ void Help_Line::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor::fromRgb(theme::card));
     painter.fillRect(0, 0, width(), 1, QColor::fromRgb(theme::card_line));
-    painter.setPen(QColor::fromRgb(theme::quiet_ink));
+    painter.setPen(QColor::fromRgb(refusal_.isEmpty() ? theme::quiet_ink : theme::failure));
     const QRect area =
         rect().adjusted(theme::page_margin + theme::text_padding, 1, -theme::page_margin, 0);
-    QString words = words_;
+    QString words = Present();
     if (painter.boundingRect(area, wrapped, words).height() > area.height()) {
         words = words.simplified(); // without its line breaks it fits
     }

@@ -11,6 +11,10 @@ public:
     explicit Help_Line(QWidget* parent);
 
     void Show_Words(const QString& words);
+    /// Says why something was refused, over the words, until `Forget`.
+    void Tell(const QString& refusal);
+
+    void Forget() { Tell(QString()); }
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -18,7 +22,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] const QString& Present() const { return refusal_.isEmpty() ? words_ : refusal_; }
+
+    void Show_Present();
+
     QString words_;
+    QString refusal_;
 };
 
 /// Lets the help line show the label that the session writes its help texts to.

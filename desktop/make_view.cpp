@@ -1,9 +1,11 @@
 #include "desktop/make_view.h"
 
+#include "application/events.h"
 #include "desktop/button_views.h"
 #include "desktop/entry_field.h"
 #include "desktop/notes_field.h"
 #include "desktop/picture_view.h"
+#include "desktop/report_viewer.h"
 #include "desktop/text_views.h"
 
 namespace kestrum::desktop {
@@ -12,6 +14,9 @@ namespace {
 
 Control_View& Make_Field(Control& control, const View_Facts& facts, QWidget* parent) {
     const Control_Entry& entry = control.Entry();
+    if (Takes_Raw_Keys(control)) {
+        return *new Report_Viewer(control, facts, parent);
+    }
     if (entry.many_lines) {
         return *new Notes_Field(control, facts, parent);
     }

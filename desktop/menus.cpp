@@ -51,7 +51,7 @@ bool Holds_Entries(const Control& menu) {
 
 } // namespace
 
-void Fill_Menus(QMenuBar& bar, Screen& screen, User_Events& events,
+void Fill_Menus(QMenuBar& bar, Screen& screen, View_Host& events,
                 const std::function<void(Control_View&)>& made) {
     std::map<std::string_view, QMenu*> menus;
     for (Control& control : screen.Controls()) {

@@ -9,7 +9,7 @@
 namespace kestrum::desktop {
 
 /// Fills a menu bar with the menu entries of a screen. Each entry's view is handed to `made`.
-void Fill_Menus(QMenuBar& bar, Screen& screen, User_Events& events,
+void Fill_Menus(QMenuBar& bar, Screen& screen, View_Host& events,
                 const std::function<void(Control_View&)>& made);
 
 } // namespace kestrum::desktop

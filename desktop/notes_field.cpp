@@ -1,10 +1,12 @@
 #include "desktop/notes_field.h"
 
 #include "desktop/text_bridge.h"
+#include "desktop/typed_keys.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QTextCursor>
+#include <QTextOption>
 
 namespace kestrum::desktop {
 
@@ -33,6 +35,11 @@ void Notes_Field::Refresh() {
         setPlainText(Lines_To_Qt(std::string_view(shown_).substr(0, longest_text)));
         setReadOnly(too_long || control.Present_Look().locked);
     }
+    QTextOption option = document()->defaultTextOption();
+    if (option.alignment() != Alignment_Of(control)) {
+        option.setAlignment(Alignment_Of(control));
+        document()->setDefaultTextOption(option);
+    }
     Show_Common_State(*this, control);
 }
 
@@ -54,6 +61,12 @@ QRect Notes_Field::Area_In(const QRect& cell) const {
 }
 
 void Notes_Field::keyPressEvent(QKeyEvent* event) {
+    if (Is_Shortcut(*event)) {
+        QKeyEvent bare = Without_Text(*event);
+        Widget_View::keyPressEvent(&bare);
+        event->setAccepted(bare.isAccepted());
+        return;
+    }
     // Shift and Enter would put in a line separator, which no file knows.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (!isReadOnly()) {

@@ -68,8 +68,7 @@ Page::Page(const Page_Context& context, std::string_view holder, QWidget* parent
 View_Facts Page::Facts_Of(const Control& control) const {
     View_Facts facts{.events = context_.events};
     if (control.Is_Text_Box()) {
-        facts.side = map_.Side_Of(control);
-        facts.words = map_.Words_For(control);
+        facts.words = map_.Spoken_Name_Of(control);
         facts.heads_column = control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
     }
     return facts;
@@ -103,8 +102,7 @@ void Page::Add_View(Control& control) {
 void Page::Name_Fields_Anew() {
     for (const Item& item : items_) {
         if (item.view->control.Is_Text_Box()) {
-            item.view->Take_Words(map_.Words_For(item.view->control));
-            item.view->Take_Side(map_.Side_Of(item.view->control));
+            item.view->Take_Words(map_.Spoken_Name_Of(item.view->control));
         }
     }
 }
@@ -242,9 +240,9 @@ void Page::paintEvent(QPaintEvent* /*event*/) {
 
 /// Words of fields that have no caption cell.
 void Page::Paint_Captions(QPainter& painter) const {
-    painter.setPen(QColor::fromRgb(theme::Caption_Ink(theme::Side::Neutral)));
+    painter.setPen(QColor::fromRgb(theme::Caption_Ink(Side::Both)));
     for (const Own_Words& line : All_Own_Words()) {
-        if (line.screen == context_.screen.Name() && line.holder == holder_ &&
+        if (line.screen == context_.screen.Kind() && line.holder == holder_ &&
             line.place.column >= 0) {
             Paint_Fitted(painter, Area_Of(line.place).adjusted(theme::text_padding, 0, -2, 0),
                          Qt::AlignLeft | Qt::AlignVCenter, To_Qt(line.words));

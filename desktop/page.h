@@ -18,7 +18,7 @@ class Page;
 /// What a page needs of its window.
 struct Page_Context {
     Screen& screen;
-    User_Events& events;
+    View_Host& events;
     /// A view has been made.
     std::function<void(Control_View&)> made;
     std::function<void(Page&)> page_made;
@@ -39,6 +39,8 @@ public:
     /// The captions of the page have changed.
     void Name_Fields_Anew();
 
+    /// Where a place of the grid lies now.
+    [[nodiscard]] QRect Area_Of(const Place& place) const;
     /// Widgets that take the focus, in the order of the Tab key.
     [[nodiscard]] std::vector<QWidget*> Tab_Order() const;
     /// The next field that can be typed into in a direction, or null.
@@ -63,7 +65,6 @@ private:
     void Weigh_Rows();
     void Lay_Out();
     void Place_Item(const Item& item) const;
-    [[nodiscard]] QRect Area_Of(const Place& place) const;
     void Set_Letters();
     void Paint_Captions(QPainter& painter) const;
 

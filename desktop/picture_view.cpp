@@ -1,7 +1,7 @@
 #include "desktop/picture_view.h"
 
+#include "base/run_time_error.h"
 #include "painting/picture_area.h"
-#include "platform/run_time_error.h"
 
 #include <QPainter>
 
@@ -55,10 +55,20 @@ QRect Picture_View::Area_In(const QRect& cell) const {
 }
 
 void Picture_View::paintEvent(QPaintEvent* /*event*/) {
+    // The paper ends below the last caption; the mouse may draw it longer.
+    const QRectF shown = painting::Area_Of(facts.events.Canvas());
+    const double dots_in_unit = static_cast<double>(width()) / area::width;
+    const QRectF paper(0, 0, width(), std::min(shown.height() * dots_in_unit, height() * 1.0));
+    try {
+        QPainter painter(this);
+        painting::Paint_Picture(facts.events.Canvas(), logo_, painter, {shown, paper});
+    } catch (...) {
+        QPainter(this).fillRect(paper, Qt::white); // half a picture would tell something false
+        throw;
+    }
     QPainter painter(this);
-    painting::Paint_Picture(facts.events.Canvas(), logo_, painter, QRectF(rect()));
     painter.setPen(QColor::fromRgb(theme::card_line));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(paper.toAlignedRect().adjusted(0, 0, -1, -1));
 }
 
 QPointF Picture_View::On_Canvas(const QPointF& place) const {

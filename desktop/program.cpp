@@ -1,49 +1,108 @@
 #include "desktop/program.h"
 
 #include "application/start_up.h"
+#include "core/session_snapshot.h"
+#include "desktop/cell_words.h"
+#include "desktop/print_preview.h"
+#include "desktop/safe_application.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+
+#include <chrono>
 
 namespace kestrum::desktop {
 
 Program::Program(Dialogs& dialogs, const Surroundings& surroundings)
     : gate_(dialogs),
       session_(dialogs, windows_, surroundings),
-      printers_([this](const std::string& screen) {
-          return windows_.Window_Of(*session_.Screen_Named(screen));
-      }),
+      printers_(dialogs, painter_, surroundings.folder,
+                [this](const std::string& screen) {
+                    return windows_.Window_Of(*session_.Screen_Named(screen));
+                }),
+      camera_([this](const Screen& screen) { return windows_.Window_Of(screen); }),
       windows_(gate_) {
     windows_.Take_Session(session_);
     windows_.on_end = [this] { End(); };
     session_.painter = &painter_;
     session_.printers = &printers_;
-    const auto keep = [this] {
-        if (rescue_) {
-            rescue_->Keep();
+    session_.camera = &camera_;
+    printers_.show_preview = Show_Print_Preview;
+    printers_.say = [this](const QString& words) { windows_.Say(words); };
+    QObject::connect(&rescue_clock_, &QTimer::timeout, &rescue_clock_, [this] {
+        if (!gate_.Is_Busy()) {
+            rescue_->Note(); // a box may hold a routine in its middle for minutes
         }
-    };
-    gate_.Set_Last_Act(keep);
-    windows_.on_unload = keep;
-    // Not through the gate: a box may hold a routine for minutes.
-    QObject::connect(&rescue_clock_, &QTimer::timeout, &rescue_clock_, keep);
-    gate_.Set_Follow_Up([this] { windows_.Refresh(); });
+        rescue_->Write();
+    });
+    Set_Gate_Up();
+}
+
+Program::~Program() {
+    if (Safe_Application* const application = Safe_Application::Present()) {
+        application->on_fault = nullptr;
+    }
+}
+
+void Program::Set_Gate_Up() {
+    gate_.Set_Follow_Up([this] {
+        windows_.Refresh();
+        if (rescue_) {
+            rescue_->Note();
+        }
+    });
+    gate_.Set_Snapshot([this]() -> Gate::Put_Back {
+        return [this, before = std::make_shared<Session_Snapshot>(session_)] {
+            if (!ended_) {
+                before->Put_Back(session_);
+                session_.mouse_down = false; // the box takes the release
+            }
+        };
+    });
+    gate_.Set_Field_Words(
+        [this](const std::string& address) { return Words_Of_Field(session_, address); });
+    if (Safe_Application* const application = Safe_Application::Present()) {
+        application->on_fault = [this](const std::string& fault) { gate_.Tell_Once(fault); };
+    }
 }
 
 bool Program::Start() {
-    return gate_.Enter([this] { Start_Up(session_); });
+    started_ = gate_.Enter([this] { Start_Up(session_); });
+    return started_;
 }
 
 void Program::Keep_Rescue_Copies() {
     constexpr int milliseconds = 1000;
     rescue_ = std::make_unique<Rescue>(session_);
-    gate_.Enter([this] { rescue_->Offer(); });
+    gate_.Enter_Command([this] { rescue_->Offer(); });
     rescue_clock_.start(milliseconds);
+    end_signals_ = std::make_unique<End_Signals>([this] { Keep_Before_The_End(); });
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &rescue_clock_,
+                     [this] { Keep_Before_The_End(); });
+}
+
+void Program::Keep_Before_The_End() {
+    if (rescue_ && !ended_) {
+        if (!gate_.Is_Busy()) {
+            rescue_->Note();
+        }
+        Write_Rescue_Copies();
+    }
+}
+
+void Program::Write_Rescue_Copies() {
+    constexpr std::chrono::seconds long_enough{5};
+    if (rescue_) {
+        rescue_->Write();
+        rescue_->Flush(long_enough);
+    }
 }
 
 void Program::End() {
+    ended_ = true;
+    end_signals_.reset();
     rescue_clock_.stop();
     if (rescue_) {
-        rescue_->Remove();
+        rescue_->Finish(session_.exit_saved.value_or(false));
     }
     QCoreApplication::exit(0);
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "core/session.h"
+#include "desktop/desktop_camera.h"
 #include "desktop/desktop_printers.h"
 #include "desktop/desktop_windows.h"
+#include "desktop/end_signals.h"
 #include "desktop/gate.h"
 #include "files/rescue.h"
 #include "painting/qt_painter.h"
@@ -17,29 +19,49 @@ namespace kestrum::desktop {
 class Program {
 public:
     Program(Dialogs& dialogs, const Surroundings& surroundings);
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+    ~Program();
 
     /// Brings the session up to the moment when `Main` shows. Gives false when it failed.
     [[nodiscard]] bool Start();
 
-    /// Offers what an earlier run left without its exit, and keeps copies from now on.
+    /// Offers what an earlier run left without its exit, and keeps copies from now on, also when
+    /// the system ends the program.
     void Keep_Rescue_Copies();
 
+    /// Brings the copies of the last state between two commands to the disk, waiting some seconds
+    /// at most: for an end that is not the exit.
+    void Write_Rescue_Copies();
+
     /// The status that the process ends with.
-    [[nodiscard]] int Exit_Status() const { return gate_.Has_Failed() ? 1 : 0; }
+    [[nodiscard]] int Exit_Status() const { return started_ ? 0 : 1; }
 
     [[nodiscard]] Session& Its_Session() { return session_; }
 
     [[nodiscard]] Desktop_Windows& Its_Windows() { return windows_; }
 
+    [[nodiscard]] Gate& Its_Gate() { return gate_; }
+
+    [[nodiscard]] Desktop_Printers& Its_Printers() { return printers_; }
+
 private:
+    void Set_Gate_Up();
+    /// The system ends the program or the user's session: what stands on the screens is kept first.
+    void Keep_Before_The_End();
     void End();
 
     Gate gate_;
     Session session_;
     std::unique_ptr<Rescue> rescue_;
     QTimer rescue_clock_;
+    std::unique_ptr<End_Signals> end_signals_;
+    bool started_ = false;
+    /// `Main` has gone, and with it the session.
+    bool ended_ = false;
     painting::Qt_Painter painter_;
     Desktop_Printers printers_;
+    Desktop_Camera camera_;
     Desktop_Windows windows_; // goes first, since its windows show the session
 };
 

@@ -5,8 +5,8 @@
 #include "desktop/frame_view.h"
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
+#include "desktop/print_preview.h"
 #include "desktop/text_bridge.h"
-#include "output/graph_saving.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -48,12 +48,6 @@ protected:
 
 /// About what a window manager puts around a window.
 constexpr QSize window_frame(8, 32);
-
-/// Where the focus comes from when the user has not moved it.
-bool Is_Return_Of_Focus(Qt::FocusReason reason) {
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-           reason == Qt::MenuBarFocusReason;
-}
 
 } // namespace
 
@@ -107,8 +101,11 @@ void Screen_Window::Make_Content() {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
+    help_ = new Help_Line(this);
+    block_ = std::make_unique<Block_Selection>(session_, gate_, keeper_, *help_);
     auto* const bar = new QMenuBar(this);
     Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
+    Add_Preview_Entry(*bar, session_, gate_, *screen_);
     if (bar->actions().isEmpty()) {
         delete bar;
     } else {
@@ -116,7 +113,6 @@ void Screen_Window::Make_Content() {
     }
     body_ = new Body(this);
     front_ = new Page(Context(), "", body_);
-    help_ = new Help_Line(this);
     layout->addWidget(body_, 1);
     layout->addWidget(help_);
     if (Control* const label = screen_->Find("Label7", std::nullopt)) {
@@ -147,6 +143,10 @@ Page_Context Screen_Window::Context() {
 
 void Screen_Window::Keep_View(Control_View& view) {
     views_[static_cast<std::size_t>(&view.control - screen_->Controls().data())] = &view;
+    block_->Watch(view);
+    if (plain_pointer_) {
+        Show_Arrow(view); // one of a panel or a page that opens later
+    }
 }
 
 Control_View* Screen_Window::View_Of(const Control& control) const {
@@ -171,9 +171,21 @@ void Screen_Window::Set_Pointer() {
     }
     plain_pointer_ = screen_->plain_pointer;
     for (Control_View* const view : views_) {
-        if (view != nullptr && view->Widget() != nullptr && view->control.Is_Text_Box()) {
-            view->Widget()->setCursor(Qt::ArrowCursor);
+        if (view != nullptr) {
+            Show_Arrow(*view);
         }
+    }
+}
+
+/// On the widget and on what it is built of, which may have pointers of their own.
+void Screen_Window::Show_Arrow(Control_View& view) {
+    QWidget* const widget = view.Widget();
+    if (widget == nullptr) {
+        return;
+    }
+    widget->setCursor(Qt::ArrowCursor);
+    for (QWidget* const part : widget->findChildren<QWidget*>()) {
+        part->setCursor(Qt::ArrowCursor);
     }
 }
 
@@ -224,7 +236,7 @@ Screen_Window::~Screen_Window() {
 
 void Screen_Window::closeEvent(QCloseEvent* event) {
     event->ignore(); // the session hides or unloads the screen, or does nothing
-    gate_.Enter([this] {
+    gate_.Enter_Command([this] {
         if (screen_ != nullptr) {
             Close_Window(session_, *screen_);
         }
@@ -295,105 +307,6 @@ void Screen_Window::Take_Focus(Control& control) {
     }
     view->Widget()->setFocus(Qt::OtherFocusReason);
     view->Show_Selection(Select_Field_Text(session_, control));
-}
-
-// From the user to the session
-
-void Screen_Window::Clicked(Control& control) {
-    const bool let_in = gate_.Enter([&] { Click(session_, control); });
-    if (!let_in && screen_ != nullptr) {
-        Control_View* const view = View_Of(control);
-        view->Refresh(); // a box that the toolkit has ticked goes back
-    }
-}
-
-void Screen_Window::Picked(Control& combo, const std::string& text) {
-    gate_.Enter([&] { Select(session_, combo, text); });
-}
-
-void Screen_Window::Typed(Control& field, const std::string& text) {
-    gate_.Enter([&] { field.Set_Text(text); });
-}
-
-bool Screen_Window::Passes(const Control& field, char32_t character) {
-    return Passes_Filter(session_.number, field, character);
-}
-
-void Screen_Window::Beep() {
-    session_.dialogs.Beep();
-}
-
-void Screen_Window::Focus_Came(Control_View& view, Qt::FocusReason reason) {
-    if (screen_ == nullptr) {
-        return;
-    }
-    if (reason == Qt::MouseFocusReason && view.control.Is_Text_Box()) {
-        session_.mouse_down = true;
-    }
-    if (!keeper_.Is_At(view.control)) {
-        // While a routine runs the move is its own.
-        gate_.Enter([&] { static_cast<void>(keeper_.Goes_To(view.control)); });
-    }
-    const bool stayed = screen_ != nullptr && focusWidget() == view.Widget();
-    if (stayed && !Is_Return_Of_Focus(reason)) {
-        view.Show_Selection(Select_Field_Text(session_, view.control));
-    }
-}
-
-void Screen_Window::Focus_Went() {
-    session_.mouse_down = false;
-}
-
-void Screen_Window::Mouse_Down(bool down) {
-    session_.mouse_down = down;
-}
-
-void Screen_Window::Mouse_On(Control& picture, bool on_logo, Mouse_Action action, double x,
-                             double y) {
-    gate_.Enter([&] {
-        Mouse_On_Picture(session_, on_logo ? session_.Form60().Picture2 : picture, action, x, y);
-    });
-}
-
-const Drawing& Screen_Window::Canvas() {
-    return session_.graph.canvas;
-}
-
-std::optional<Placed_Logo> Screen_Window::Logo() {
-    return Shown_Logo(session_);
-}
-
-void Screen_Window::Hovered(Control& control) {
-    if (screen_ == nullptr) {
-        return;
-    }
-    if (screen_->Find("Label7", std::nullopt) == nullptr) {
-        help_->Show_Words(Lines_To_Qt(control.Entry().tip));
-        return;
-    }
-    gate_.Enter([&] { Hover_Over(control); });
-}
-
-void Screen_Window::Hovered_Form() {
-    if (screen_ == nullptr) {
-        return;
-    }
-    if (screen_->Find("Label7", std::nullopt) == nullptr) {
-        help_->Show_Words(QString());
-        return;
-    }
-    gate_.Enter([this] { Hover_Over_Form(*screen_); });
-}
-
-void Screen_Window::Move_Focus(const Control_View& from, Direction direction) {
-    for (const Page* const page : pages_) {
-        if (page->Holder() == from.control.Entry().parent) {
-            if (QWidget* const next = page->Neighbour_Of(from, direction)) {
-                next->setFocus(Qt::OtherFocusReason);
-            }
-            return;
-        }
-    }
 }
 
 } // namespace kestrum::desktop

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "desktop/block_selection.h"
 #include "desktop/focus_keeper.h"
 #include "desktop/gate.h"
 #include "desktop/page.h"
-#include "desktop/user_events.h"
+#include "desktop/view_host.h"
 
 #include <QWidget>
 
@@ -17,7 +18,7 @@ class Help_Line;
 
 /// The window of one screen. It is made from the screen's table and decides nothing: what the user
 /// does goes to the session, and what has changed there is shown.
-class Screen_Window : public QWidget, private User_Events {
+class Screen_Window : public QWidget, private View_Host {
 public:
     Screen_Window(Session& session, Gate& gate, Screen& screen);
     Screen_Window(const Screen_Window&) = delete;
@@ -28,6 +29,9 @@ public:
     void Open();
     void Close();
     void Bring_To_Front();
+
+    [[nodiscard]] Help_Line& Its_Help_Line() const { return *help_; }
+
     /// Shows what has changed since the last call.
     void Refresh();
     /// A routine moves the focus.
@@ -53,7 +57,13 @@ private:
     void Picked(Control& combo, const std::string& text) override;
     void Typed(Control& field, const std::string& text) override;
     bool Passes(const Control& field, char32_t character) override;
-    void Beep() override;
+    std::optional<std::u32string> Piece_Of(const Control& field, const std::string& rest,
+                                           const std::string& pasted) override;
+
+    bool Paste_Cells(Control_View& view) override { return block_->Paste(view); }
+
+    void Refuse(const std::string& words) override;
+    void Raw_Key(const Control& control, char32_t character) override;
     void Focus_Came(Control_View& view, Qt::FocusReason reason) override;
     void Focus_Went() override;
     void Mouse_Down(bool down) override;
@@ -70,12 +80,14 @@ private:
     void Show_Changed(Control& control);
     void Set_Tab_Order() const;
     void Set_Pointer();
+    static void Show_Arrow(Control_View& view);
     [[nodiscard]] QSize Usual_Size() const;
 
     Session& session_;
     Gate& gate_;
     Screen* screen_; // null when it has gone
     Focus_Keeper keeper_;
+    std::unique_ptr<Block_Selection> block_;
     std::vector<Control_View*> views_; // by the control's place in the screen
     QWidget* body_ = nullptr;
     std::vector<Page*> pages_;

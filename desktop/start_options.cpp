@@ -1,8 +1,8 @@
 #include "desktop/start_options.h"
 
 #include "application/version.h"
+#include "base/run_time_error.h"
 #include "desktop/text_bridge.h"
-#include "platform/run_time_error.h"
 
 #include <QCoreApplication>
 #include <QDir>

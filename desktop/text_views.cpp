@@ -79,18 +79,6 @@ void Text_View::changeEvent(QEvent* event) {
     Widget_View::changeEvent(event);
 }
 
-Qt::Alignment Text_View::Present_Alignment() const {
-    switch (control.Present_Look().alignment) {
-    case Alignment::Right:
-        return Qt::AlignRight | Qt::AlignVCenter;
-    case Alignment::Center:
-        return Qt::AlignCenter;
-    case Alignment::Left:
-        break;
-    }
-    return Qt::AlignLeft | Qt::AlignVCenter;
-}
-
 Cell_View::Cell_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Text_View(its_control, its_facts, parent),
       is_result_(its_control.Entry().use == Cell_Use::Result) {
@@ -114,14 +102,14 @@ QRect Cell_View::Text_Area() const {
 }
 
 QRgb Cell_View::Ink() const {
-    return is_result_ ? theme::Colours_Of(control, facts.side).text
-                      : theme::Caption_Ink(facts.side);
+    return is_result_ ? theme::Colours_Of(control).text
+                      : theme::Caption_Ink(control.Present_Look().side);
 }
 
 void Cell_View::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (is_result_) {
-        painter.fillRect(rect(), QColor::fromRgb(theme::Colours_Of(control, facts.side).back));
+        painter.fillRect(rect(), QColor::fromRgb(theme::Colours_Of(control).back));
     }
     if (hasFocus()) {
         painter.fillRect(rect(), QColor::fromRgb(theme::accent_soft));
@@ -132,7 +120,7 @@ void Cell_View::paintEvent(QPaintEvent* /*event*/) {
     }
     painter.setFont(theme::Font_Of(control, usual));
     painter.setPen(QColor::fromRgb(Ink()));
-    Paint_Fitted(painter, Text_Area(), Present_Alignment(), Shown_Text());
+    Paint_Fitted(painter, Text_Area(), Alignment_Of(control) | Qt::AlignVCenter, Shown_Text());
     if (control.Entry().hover == Hover::Shows) {
         Paint_Information_Mark(painter, rect());
     }

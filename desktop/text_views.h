@@ -23,7 +23,6 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    [[nodiscard]] Qt::Alignment Present_Alignment() const;
 
 private:
     QString text_;

@@ -27,7 +27,7 @@ const Side_Colours& Of(Side side) {
         return intake;
     case Side::Exhaust:
         return exhaust;
-    case Side::Neutral:
+    case Side::Both:
         break;
     }
     return neutral;
@@ -35,13 +35,13 @@ const Side_Colours& Of(Side side) {
 
 } // namespace
 
-Cell_Colours Colours_Of(const Control& field, Side side) {
+Cell_Colours Colours_Of(const Control& field) {
     const Look& look = field.Present_Look();
     Cell_Colours colours;
-    colours.foot = Of(side).foot;
+    colours.foot = Of(look.side).foot;
     if (look.back_colour == result_back || look.text_colour == result_text) {
-        colours.back = Of(side).result_back;
-        colours.text = Of(side).result_text;
+        colours.back = Of(look.side).result_back;
+        colours.text = Of(look.side).result_text;
         colours.line = colours.back;
         colours.foot = colours.back;
     } else if (look.locked) {

@@ -9,9 +9,6 @@
 /// The one place for colours, fonts and spacing of all windows.
 namespace kestrum::desktop::theme {
 
-/// Which valve a figure belongs to; the two have a hue of their own.
-enum class Side { Neutral, Intake, Exhaust };
-
 inline constexpr QRgb window = 0xFFF1F3F6;
 inline constexpr QRgb card = 0xFFFFFFFF;
 inline constexpr QRgb card_line = 0xFFDDE2E8;
@@ -22,6 +19,8 @@ inline constexpr QRgb faint_ink = 0xFF97A1AD;
 inline constexpr QRgb accent = 0xFF17696A;
 inline constexpr QRgb accent_hover = 0xFF1E7F80;
 inline constexpr QRgb accent_soft = 0xFFD7EAEA;
+/// Lies over the cells of a block; the letters below stay as dark as they are.
+inline constexpr QRgb block_veil = 0x3817696A;
 inline constexpr QRgb marker = 0xFF2E9E4F;
 inline constexpr QRgb information = 0xFF5B8DEF;
 inline constexpr QRgb warning = 0xFFC77A16;
@@ -36,8 +35,9 @@ struct Cell_Colours {
     QRgb foot = marker;
 };
 
-/// The theme's colours for the look that the session has given a field.
-[[nodiscard]] Cell_Colours Colours_Of(const Control& field, Side side);
+/// The theme's colours for the look that the session has given a field. Intake and exhaust have a
+/// hue of their own.
+[[nodiscard]] Cell_Colours Colours_Of(const Control& field);
 /// Colour of a heading or caption of a side.
 [[nodiscard]] QRgb Caption_Ink(Side side);
 /// Colour of a marker label; nothing shows for a marker that the session has put out.

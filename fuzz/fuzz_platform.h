@@ -1,14 +1,15 @@
 #pragma once
 
+#include "base/text.h"
+#include "core/null_platform.h"
 #include "core/session.h"
-#include "core/text.h"
 
 #include <cstdlib>
 
 namespace kestrum::fuzz {
 
 /// Presses Cancel or OK by the bits of the input's first byte, the lowest for the first box.
-class Fuzz_Platform : public Dialogs, public Windows {
+class Fuzz_Platform : public Null_Platform {
 public:
     void Answer_By(unsigned bits) {
         bits_ = bits;
@@ -24,20 +25,6 @@ public:
         return cancels && box.buttons == Box_Buttons::Ok_Cancel ? Box_Answer::Cancel
                                                                 : Box_Answer::Ok;
     }
-
-    std::optional<std::string> Choose_File(const Chooser& /*chooser*/) override {
-        return std::nullopt;
-    }
-
-    void Beep() override {}
-
-    void Show(Screen& /*screen*/) override {}
-
-    void Hide(Screen& /*screen*/) override {}
-
-    void Unload(Screen& /*screen*/) override {}
-
-    void Focus(Control& /*control*/) override {}
 
 private:
     unsigned bits_ = 0;

@@ -1,14 +1,27 @@
 #pragma once
 
+#include "drawing/drawing.h"
+
+#include <QRectF>
+
 namespace kestrum::painting {
 
-/// The part of the plane that a picture of the graph shows, in units of the canvas: the canvas of
-/// 600 by 600 with a border that takes half a thick line, and below it the two captions.
+/// The part of the plane that the window shows of the graph, in units of the canvas: the canvas of
+/// 600 by 600 with a border that takes half a thick line, and below it room for two captions.
 namespace picture_area {
 inline constexpr int left = -8;
 inline constexpr int top = -8;
 inline constexpr int width = 616;
 inline constexpr int height = 664;
+
+/// All of it.
+[[nodiscard]] inline QRectF Whole() {
+    return {left, top, width, height};
+}
 } // namespace picture_area
+
+/// What a picture file shows of a drawing: the area down to its last caption, with no empty strip
+/// below. Whole units.
+[[nodiscard]] QRectF Area_Of(const Drawing& drawing);
 
 } // namespace kestrum::painting

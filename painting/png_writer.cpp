@@ -178,6 +178,15 @@ std::string Colour_Rows(const QImage& image) {
     return rows;
 }
 
+/// How many dots there are in a metre each way.
+std::string Density_Of(const QImage& image) {
+    constexpr char metre = 1;
+    std::string density;
+    Append_Number(density, static_cast<std::uint32_t>(image.dotsPerMeterX()));
+    Append_Number(density, static_cast<std::uint32_t>(image.dotsPerMeterY()));
+    return density + metre;
+}
+
 std::string Packed(const std::string& rows) {
     constexpr int quick = 3;
     constexpr qsizetype length_in_front = 4; // Qt's own, not of the packed bytes
@@ -200,6 +209,7 @@ std::string Png_Bytes(const QImage& image) {
     head += {8, is_drawing ? palette : colours, 0, 0, 0};
     std::string bytes = "\x89PNG\r\n\x1A\n";
     Append_Chunk(bytes, "IHDR", head);
+    Append_Chunk(bytes, "pHYs", Density_Of(image));
     if (is_drawing) {
         Append_Chunk(bytes, "PLTE", Palette_Of(found));
     }

@@ -11,7 +11,7 @@ namespace {
 bool Goes_On(const Draw_Operation& line, const Draw_Operation& next) {
     return next.kind == Draw_Kind::Line && next.x1 == line.x2 && next.y1 == line.y2 &&
            next.colour == line.colour && next.width == line.width && next.style == line.style &&
-           next.by_hand == line.by_hand;
+           next.by_hand == line.by_hand && next.role == line.role;
 }
 
 /// The directions that a straight line from one point may take to pass by all points since then.
@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    static constexpr double tolerance = 0.02; // units of the canvas
+    static constexpr double tolerance = 0.04; // units of the canvas
     static constexpr double half_turn = std::numbers::pi;
     QPointF from_;
     QPointF forward_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/drawing.h"
+#include "drawing/drawing.h"
 
 #include <QPolygonF>
 

@@ -1,14 +1,14 @@
 #include "painting/qt_painter.h"
 
+#include "base/run_time_error.h"
+#include "painting/page_painter.h"
 #include "painting/picture_area.h"
 #include "painting/png_writer.h"
 #include "painting/replay.h"
 #include "painting/svg_writer.h"
-#include "platform/run_time_error.h"
 
 #include <QBuffer>
 #include <QByteArray>
-#include <QPageSize>
 #include <QPdfWriter>
 
 namespace kestrum::painting {
@@ -19,23 +19,31 @@ namespace {
 struct Subject {
     const Drawing& drawing;
     std::optional<Logo_Picture> logo;
+    Picture_Settings settings;
 };
 
-QImage Painted(const Subject& subject, int scale, double shift) {
-    QImage image(picture_area::width * scale, picture_area::height * scale, QImage::Format_RGB32);
+constexpr int points_in_inch = 72;
+
+QImage Painted(const Subject& subject, int dots_in_inch, double shift) {
+    constexpr double inches_in_metre = 1 / 0.0254;
+    const QRectF area = Area_Of(subject.drawing);
+    const double scale = static_cast<double>(dots_in_inch) / points_in_inch;
+    QImage image(qRound(area.width() * scale), qRound(area.height() * scale), QImage::Format_RGB32);
     if (image.isNull()) {
         Fail(error::path_or_file_access);
     }
+    image.setDotsPerMeterX(qRound(dots_in_inch * inches_in_metre));
+    image.setDotsPerMeterY(image.dotsPerMeterX());
     image.fill(Qt::white);
     QPainter painter(&image);
     Paint_Picture(subject.drawing, subject.logo, painter,
-                  QRectF(image.rect()).translated(shift, shift));
+                  {area, QRectF(image.rect()).translated(shift, shift)});
     return image;
 }
 
 std::string Png(const Subject& subject) {
-    constexpr int twice = 2;
-    return Png_Bytes(Painted(subject, twice, 0));
+    constexpr int usual_dots = 144; // twice the size of the canvas, whose unit is a point
+    return Png_Bytes(Painted(subject, subject.settings.dots_per_inch.value_or(usual_dots), 0));
 }
 
 std::string Bmp(const Subject& subject) {
@@ -43,29 +51,35 @@ std::string Bmp(const Subject& subject) {
     constexpr double half_a_dot = 0.5;
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    if (!Painted(subject, 1, half_a_dot).save(&buffer, "BMP")) {
+    if (!Painted(subject, points_in_inch, half_a_dot).save(&buffer, "BMP")) {
         Fail(error::path_or_file_access);
     }
     return bytes.toStdString();
 }
 
+constexpr int dots_in_point = 10;
+
+/// As large as the paper's margins allow.
+Picture_Place Place_On_Paper(const Drawing& drawing, const QPdfWriter& writer) {
+    const QRectF area = Area_Of(drawing);
+    const QSizeF room = writer.pageLayout().paintRect(QPageLayout::Point).size();
+    return {area, {QPointF(), area.size().scaled(room, Qt::KeepAspectRatio) * dots_in_point}};
+}
+
 std::string Pdf(const Subject& subject) {
-    constexpr int points_in_inch = 72;
-    constexpr int dots_in_point = 10;
-    const QSizeF size(picture_area::width, picture_area::height);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setCreator(QStringLiteral("Kestrum Suite"));
+    writer.setTitle(QStringLiteral("Graph"));
     writer.setResolution(points_in_inch * dots_in_point);
-    writer.setPageSize(QPageSize(size, QPageSize::Point, QString(), QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF());
+    Set_Paper(writer, subject.settings.paper.value_or(Paper_Size::A4));
     QPainter painter;
     if (!painter.begin(&writer)) {
         Fail(error::path_or_file_access);
     }
-    Paint_Picture(subject.drawing, subject.logo, painter, QRectF(QPointF(), size * dots_in_point));
+    Paint_Picture(subject.drawing, subject.logo, painter, Place_On_Paper(subject.drawing, writer));
     painter.end();
     return bytes.toStdString();
 }
@@ -84,9 +98,32 @@ Logo_Picture Qt_Painter::Picture_Of_Logo(const Placed_Logo& logo) const {
     return {.image = logo_, .left = logo.left, .top = logo.top};
 }
 
+QImage Qt_Painter::Image_Of(const std::string& file) const {
+    try {
+        return Picture_Of_Logo({.file = file}).image;
+    } catch (const Run_Time_Error&) {
+        return {};
+    }
+}
+
+std::string Qt_Painter::Pdf_Of(const Document& document, Paper_Size paper) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setCreator(QStringLiteral("Kestrum Suite"));
+    writer.setTitle(QString::fromStdString(document.title));
+    writer.setResolution(points_in_inch * dots_in_point);
+    Set_Paper(writer, paper);
+    if (!Print_On(document, writer, *this)) {
+        Fail(error::path_or_file_access);
+    }
+    return bytes.toStdString();
+}
+
 std::string Qt_Painter::Picture_Of(const Drawing& drawing, Picture_Format format,
                                    const std::optional<Placed_Logo>& logo) {
-    Subject subject{.drawing = drawing, .logo = {}};
+    Subject subject{.drawing = drawing, .logo = {}, .settings = settings_};
     if (logo) {
         subject.logo = Picture_Of_Logo(*logo);
     }

@@ -1,14 +1,13 @@
 #include "painting/replay.h"
 
+#include "base/run_time_error.h"
 #include "painting/layers.h"
-#include "painting/picture_area.h"
-#include "painting/polyline.h"
-#include "platform/run_time_error.h"
 
+#include <QFontMetricsF>
 #include <QImageReader>
 #include <QPaintEngine>
-#include <QPainterPath>
 #include <QPen>
+#include <QStaticText>
 
 #include <array>
 #include <numbers>
@@ -17,21 +16,28 @@ namespace kestrum::painting {
 
 namespace {
 
-QPen Pen_Of(const Draw_Operation& operation) {
+QPen Qt_Pen(const Line_Pen& pen) {
     static constexpr std::array styles{Qt::SolidLine, Qt::DashLine, Qt::DotLine};
+    static constexpr std::array ends{Qt::FlatCap, Qt::SquareCap, Qt::RoundCap};
     // The pieces of a curve bend so little that a round joint shows as a knot on it.
-    const Qt::PenJoinStyle joint = operation.by_hand ? Qt::RoundJoin : Qt::BevelJoin;
-    return {QColor::fromRgb(static_cast<QRgb>(operation.colour)), operation.width,
-            styles.at(static_cast<std::size_t>(operation.style)), Qt::RoundCap, joint};
+    static constexpr std::array joints{Qt::BevelJoin, Qt::MiterJoin, Qt::RoundJoin};
+    const auto end = static_cast<std::size_t>(pen.end);
+    return {QColor::fromRgb(static_cast<QRgb>(pen.colour)), pen.width,
+            styles.at(static_cast<std::size_t>(pen.style)), ends.at(end), joints.at(end)};
+}
+
+QColor White(double share) {
+    return QColor::fromRgbF(1, 1, 1, static_cast<float>(share));
 }
 
 class Qt_Step_Painter : public Step_Painter {
 public:
-    explicit Qt_Step_Painter(QPainter& painter) : painter_(painter) {}
+    explicit Qt_Step_Painter(QPainter& painter) : painter_(painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+    }
 
-    void Lines(std::span<const Draw_Operation> lines) override {
-        painter_.setPen(Pen_Of(lines.front()));
-        const QPolygonF points = Points_Of(lines);
+    void Lines(const QPolygonF& points, const Line_Pen& pen) override {
+        painter_.setPen(Qt_Pen(pen));
         if (points.size() == 2 && points.front() == points.back()) {
             painter_.drawPoint(points.front()); // a line without length would show nothing
         } else {
@@ -39,42 +45,47 @@ public:
         }
     }
 
-    void Circle(const Draw_Operation& circle) override {
-        painter_.setPen(Pen_Of(circle));
+    void Circle(QPointF centre, double radius, const Line_Pen& pen) override {
+        painter_.setPen(Qt_Pen(pen));
+        painter_.setBrush(Qt::white);
+        painter_.drawEllipse(centre, radius, radius);
         painter_.setBrush(Qt::NoBrush);
-        painter_.drawEllipse(QPointF(circle.x1, circle.y1), circle.radius, circle.radius);
     }
 
-    void Text(const Fitted_Text& text) override {
-        painter_.save();
-        painter_.setFont(text.font);
-        painter_.translate(text.left, text.baseline);
-        painter_.scale(text.scale * text.stretch, text.scale);
-        Paint_Halo(text.text, text.halo / text.scale);
-        painter_.setPen(QColor::fromRgb(static_cast<QRgb>(text.colour)));
-        painter_.drawText(QPointF(0, 0), text.text);
-        painter_.restore();
+    void Panel(const QRectF& box) override { painter_.fillRect(box, White(veil)); }
+
+    void Text(const Set_Text& text) override {
+        if (text.halo > 0) {
+            Paint_Halo(text);
+        }
+        Paint_Set_Text(text, painter_);
     }
 
 private:
-    /// White around letters at the origin, of the painter's present font.
-    void Paint_Halo(const QString& text, double width) {
-        painter_.setPen(QPen(Qt::white, width, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
+    void Paint_Halo(const Set_Text& text) {
         if (painter_.paintEngine()->type() != QPaintEngine::Raster) {
-            QPainterPath letters; // a file shall hold each text once
-            letters.addText(QPointF(0, 0), painter_.font(), text);
-            painter_.strokePath(letters, painter_.pen());
+            // As outlines: a file shall hold each text once.
+            painter_.strokePath(text.Outlines(), QPen(White(veil), text.halo, Qt::SolidLine,
+                                                      Qt::FlatCap, Qt::BevelJoin));
             return;
         }
-        // Letters kept in store are painted twenty times faster than outlines.
-        const double side = width / 2;
+        // Letters kept in store, and shaped once, are painted twenty times faster than outlines.
+        constexpr double veil_of_one = 0.3; // some of the copies lie over each other everywhere
+        QStaticText letters(text.text);
+        letters.setTextFormat(Qt::PlainText);
+        const double side = text.halo / text.scale / 2;
         const double corner = side * std::numbers::sqrt2 / 2;
-        for (const QPointF& place :
+        const double top = -QFontMetricsF(text.font).ascent();
+        painter_.save();
+        Set_Up_Letters(text, painter_);
+        painter_.setPen(White(veil_of_one));
+        for (const QPointF& away :
              {QPointF(side, 0), QPointF(-side, 0), QPointF(0, side), QPointF(0, -side),
               QPointF(corner, corner), QPointF(-corner, corner), QPointF(corner, -corner),
               QPointF(-corner, -corner)}) {
-            painter_.drawText(place, text);
+            painter_.drawStaticText(QPointF(0, top) + away, letters);
         }
+        painter_.restore();
     }
 
     QPainter& painter_;
@@ -100,24 +111,27 @@ Logo_Picture Load_Logo(const Placed_Logo& logo) {
     return {.image = std::move(image), .left = logo.left, .top = logo.top};
 }
 
-void Replay(const Drawing& drawing, QPainter& painter) {
-    painter.setRenderHint(QPainter::Antialiasing);
+void Replay(const Drawing& drawing, const std::optional<Logo_Picture>& logo, QPainter& painter) {
     Qt_Step_Painter steps(painter);
-    Paint_In_Layers(drawing, steps);
-}
-
-void Paint_Picture(const Drawing& drawing, const std::optional<Logo_Picture>& logo,
-                   QPainter& painter, const QRectF& target) {
-    painter.save();
-    painter.fillRect(target, Qt::white);
-    painter.translate(target.topLeft());
-    painter.scale(target.width() / picture_area::width, target.height() / picture_area::height);
-    painter.translate(-picture_area::left, -picture_area::top);
-    Replay(drawing, painter);
+    const Layers layers(drawing);
+    layers.Paint_Graph(steps);
     if (logo) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QPointF(logo->left, logo->top), logo->image);
     }
+    layers.Paint_Hand_Drawing(steps);
+}
+
+void Paint_Picture(const Drawing& drawing, const std::optional<Logo_Picture>& logo,
+                   QPainter& painter, const Picture_Place& place) {
+    painter.save();
+    painter.setClipRect(place.target.toAlignedRect()); // a curve may run on and on
+    painter.fillRect(place.target, Qt::white);
+    painter.translate(place.target.topLeft());
+    painter.scale(place.target.width() / place.area.width(),
+                  place.target.height() / place.area.height());
+    painter.translate(-place.area.topLeft());
+    Replay(drawing, logo, painter);
     painter.restore();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/drawing.h"
-#include "platform/painter.h"
+#include "drawing/drawing.h"
+#include "drawing/painter.h"
 
 #include <QImage>
 #include <QPainter>
@@ -21,12 +21,18 @@ struct Logo_Picture {
 /// holds no picture, or one too large to be read.
 [[nodiscard]] Logo_Picture Load_Logo(const Placed_Logo& logo);
 
-/// Paints a drawing; the painter's units are those of the drawing. Nothing is clipped.
-void Replay(const Drawing& drawing, QPainter& painter);
+/// Paints a drawing with the logo that lies over it; the painter's units are those of the drawing.
+/// Nothing is clipped.
+void Replay(const Drawing& drawing, const std::optional<Logo_Picture>& logo, QPainter& painter);
 
-/// Paints a drawing of the canvas, with what surrounds it, on white into a rectangle of the same
-/// shape as the picture area.
+/// An area of the canvas and the rectangle of the same shape that shows it.
+struct Picture_Place {
+    QRectF area;
+    QRectF target;
+};
+
+/// Paints an area of the canvas on white, and nothing beside it.
 void Paint_Picture(const Drawing& drawing, const std::optional<Logo_Picture>& logo,
-                   QPainter& painter, const QRectF& target);
+                   QPainter& painter, const Picture_Place& place);
 
 } // namespace kestrum::painting

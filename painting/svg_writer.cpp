@@ -2,7 +2,6 @@
 
 #include "painting/layers.h"
 #include "painting/picture_area.h"
-#include "painting/polyline.h"
 
 #include <QBuffer>
 #include <QByteArray>
@@ -59,15 +58,47 @@ std::string Escaped(const QString& text) {
     return plain.toHtmlEscaped().toStdString();
 }
 
-std::string Stroke(const Draw_Operation& line) {
-    std::string text = Attribute("stroke", Colour(line.colour));
-    text += Attribute("stroke-width", line.width);
+std::string Stroke(const Line_Pen& pen) {
+    std::string text = Attribute("stroke", Colour(pen.colour));
+    text += Attribute("stroke-width", pen.width);
     // As Qt draws them: lengths of dash and gap in widths of the pen.
-    if (line.style == Line_Style::Dash) {
-        text +=
-            Attribute("stroke-dasharray", Number(line.width * 4) + " " + Number(line.width * 2));
-    } else if (line.style == Line_Style::Dot) {
-        text += Attribute("stroke-dasharray", Number(line.width) + " " + Number(line.width * 2));
+    if (pen.style == Line_Style::Dash) {
+        text += Attribute("stroke-dasharray", Number(pen.width * 4) + " " + Number(pen.width * 2));
+    } else if (pen.style == Line_Style::Dot) {
+        text += Attribute("stroke-dasharray", Number(pen.width) + " " + Number(pen.width * 2));
+    }
+    if (pen.end == Line_End::Square) {
+        text += Attribute("stroke-linecap", "square") + Attribute("stroke-linejoin", "miter");
+    } else if (pen.end == Line_End::Round) {
+        text += Attribute("stroke-linecap", "round") + Attribute("stroke-linejoin", "round");
+    }
+    return text;
+}
+
+std::string Place_Of(const QPainterPath::Element& element) {
+    return Number(element.x) + " " + Number(element.y);
+}
+
+/// The outlines as a path's description.
+std::string Description_Of(const QPainterPath& path) {
+    std::string text;
+    for (int at = 0; at < path.elementCount(); ++at) {
+        const QPainterPath::Element element = path.elementAt(at);
+        switch (element.type) {
+        case QPainterPath::MoveToElement:
+            text += "M";
+            break;
+        case QPainterPath::LineToElement:
+            text += "L";
+            break;
+        case QPainterPath::CurveToElement:
+            text += "C";
+            break;
+        case QPainterPath::CurveToDataElement:
+            text += " "; // the second and third points of the curve
+            break;
+        }
+        text += Place_Of(element);
     }
     return text;
 }
@@ -76,38 +107,50 @@ class Svg_Step_Painter : public Step_Painter {
 public:
     explicit Svg_Step_Painter(std::string& file) : file_(file) {}
 
-    void Lines(std::span<const Draw_Operation> lines) override {
-        std::string points;
-        for (const QPointF& point : Points_Of(lines)) {
-            points += (points.empty() ? "" : " ") + Number(point.x()) + "," + Number(point.y());
+    void Lines(const QPolygonF& points, const Line_Pen& pen) override {
+        std::string text;
+        for (const QPointF& point : points) {
+            text += (text.empty() ? "" : " ") + Number(point.x()) + "," + Number(point.y());
         }
-        file_ += "<polyline" + Stroke(lines.front()) + Attribute("points", points) + "/>\n";
+        file_ += "<polyline" + Stroke(pen) + Attribute("points", text) + "/>\n";
     }
 
-    void Circle(const Draw_Operation& circle) override {
-        file_ += "<circle" + Attribute("cx", circle.x1) + Attribute("cy", circle.y1) +
-                 Attribute("r", circle.radius) + Stroke(circle) + "/>\n";
+    void Circle(QPointF centre, double radius, const Line_Pen& pen) override {
+        file_ += "<circle" + Attribute("cx", centre.x()) + Attribute("cy", centre.y()) +
+                 Attribute("r", radius) + Attribute("fill", "#ffffff") + Stroke(pen) + "/>\n";
     }
 
-    void Text(const Fitted_Text& text) override {
-        // Twice, for readers that know no order of painting within a text.
-        file_ += Set(text, Attribute("stroke", "#ffffff") + Attribute("stroke-width", text.halo) +
-                               Attribute("aria-hidden", "true"));
-        file_ += Set(text, Attribute("fill", Colour(text.colour)));
+    void Panel(const QRectF& box) override {
+        file_ += "<rect" + Attribute("x", box.left()) + Attribute("y", box.top()) +
+                 Attribute("width", box.width()) + Attribute("height", box.height()) +
+                 Attribute("fill", "#ffffff") + Attribute("fill-opacity", veil) + "/>\n";
+    }
+
+    void Text(const Set_Text& text) override {
+        if (text.halo > 0) {
+            file_ += "<path" + Attribute("stroke", "#ffffff") + Attribute("stroke-opacity", veil) +
+                     Attribute("stroke-width", text.halo) +
+                     Attribute("d", Description_Of(text.Outlines())) + "/>\n";
+        }
+        file_ += "<text" + Place_Of(text) + Attribute("font-size", text.Height()) +
+                 Attribute("fill", text.colour.name().toStdString()) + ">" + Escaped(text.text) +
+                 "</text>\n";
     }
 
 private:
-    /// The length holds with any font. Readers that know no length do as well with the usual font.
-    static std::string Set(const Fitted_Text& text, const std::string& look) {
-        return "<text" +
-               Attribute("transform", "translate(" + Number(text.left) + "," +
-                                          Number(text.baseline) + ") scale(" +
-                                          Number(text.stretch, 4) + ",1)") +
-               Attribute("font-size", text.font.pixelSize() * text.scale) +
-               Attribute("letter-spacing", Number(text.spacing, 4)) +
-               Attribute("textLength", text.width / text.stretch) +
-               Attribute("lengthAdjust", "spacingAndGlyphs") + look + ">" + Escaped(text.text) +
-               "</text>\n";
+    /// The anchor, so that a reader with another font keeps to it.
+    static std::string Place_Of(const Set_Text& text) {
+        static constexpr std::array shares{0.0, 0.5, 1.0};
+        static constexpr std::array anchors{"start", "middle", "end"};
+        const auto at = static_cast<std::size_t>(text.anchor);
+        const double x = text.left + text.width * shares.at(at);
+        std::string place = Attribute("text-anchor", anchors.at(at));
+        if (text.squeeze == 1) {
+            return place + Attribute("x", x) + Attribute("y", text.baseline);
+        }
+        return place +
+               Attribute("transform", "translate(" + Number(x) + "," + Number(text.baseline) +
+                                          ") scale(" + Number(text.squeeze, 4) + ",1)");
     }
 
     std::string& file_;
@@ -123,34 +166,39 @@ std::string Logo(const Logo_Picture& picture) {
            Attribute("href", "data:image/png;base64," + bytes.toBase64().toStdString()) + "/>\n";
 }
 
-std::string Head() {
-    const std::string left = Number(picture_area::left);
-    const std::string top = Number(picture_area::top);
-    const std::string width = Number(picture_area::width);
-    const std::string height = Number(picture_area::height);
+std::string Head(const QRectF& area) {
+    const std::string left = Number(area.left());
+    const std::string top = Number(area.top());
+    const std::string width = Number(area.width());
+    const std::string height = Number(area.height());
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
            Attribute("width", width) + Attribute("height", height) +
            Attribute("viewBox", left + " " + top + " " + width + " " + height) + ">\n<rect" +
            Attribute("x", left) + Attribute("y", top) + Attribute("width", width) +
-           Attribute("height", height) +
-           " fill=\"#ffffff\"/>\n"
-           "<g fill=\"none\" stroke-linecap=\"round\" stroke-linejoin=\"round\" "
-           "font-family=\"DejaVu Sans, Arial, sans-serif\" "
-           "xml:space=\"preserve\">\n";
+           Attribute("height", height) + " fill=\"#ffffff\"/>\n";
 }
+
+/// What the steps of a drawing have in common.
+constexpr std::string_view group = "<g fill=\"none\" stroke=\"none\" stroke-linejoin=\"bevel\" "
+                                   "font-family=\"DejaVu Sans, Arial, sans-serif\" "
+                                   "xml:space=\"preserve\">\n";
 
 } // namespace
 
 std::string Svg_Bytes(const Drawing& drawing, const std::optional<Logo_Picture>& logo) {
-    std::string text = Head();
+    std::string text = Head(Area_Of(drawing));
     Svg_Step_Painter steps(text);
-    Paint_In_Layers(drawing, steps);
+    const Layers layers(drawing);
+    text += group;
+    layers.Paint_Graph(steps);
     text += "</g>\n";
     if (logo) {
         text += Logo(*logo);
     }
-    return text + "</svg>\n";
+    text += group;
+    layers.Paint_Hand_Drawing(steps);
+    return text + "</g>\n</svg>\n";
 }
 
 } // namespace kestrum::painting

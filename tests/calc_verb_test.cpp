@@ -1,6 +1,7 @@
 #include "cli/calc_run.h"
 #include "cli/calc_sheet.h"
-#include "cli/script_error.h"
+#include "cli/standard_streams.h"
+#include "cli/usage_error.h"
 #include "files/flow_data_file.h"
 #include "tests/test_bench.h"
 
@@ -208,6 +209,21 @@ TEST_F(Calc_Verb, Csv_Quotes_What_Holds_A_Mark_Of_The_Format) {
                         R"(1/1000 in,"50 ""soft""")"));
 }
 
+TEST_F(Calc_Verb, Control_Characters_Of_Names_Reach_No_Terminal) {
+    const std::string file = Write("a\n\x1b[2J.dat", Stored_Test());
+    const std::string shown = bench_.folder.File("a\\n\\u001b[2J.dat");
+    for (const Calc_Format format : {Calc_Format::Text, Calc_Format::Csv}) {
+        EXPECT_EQ(Run({.format = format, .files = {file}, .to_terminal = true}), 0);
+        EXPECT_NE(out_.find(shown), std::string::npos);
+        EXPECT_EQ(out_.find('\x1b'), std::string::npos);
+        EXPECT_EQ(Run({.format = format, .files = {file}}), 0);
+        EXPECT_NE(out_.find(file), std::string::npos) << "a file gets the name as it is";
+    }
+    EXPECT_EQ(Run_Csv({bench_.folder.File("b\x7f\xc2\x85\t")}), 1);
+    EXPECT_EQ(errors_, bench_.folder.File("b\\u007f\\u0085\\t") +
+                           ": Flow Data File has Not been Loaded -- File not found\n");
+}
+
 TEST_F(Calc_Verb, The_Text_Shows_List_And_Tables) {
     const std::string file = Write("stored.dat", Stored_Test());
     const std::string missing = bench_.folder.File("missing.dat");
@@ -237,7 +253,7 @@ TEST_F(Calc_Verb, Figures_That_Cannot_Be_Written_Are_A_Failure) {
     std::ostringstream errors;
     out.setstate(std::ios::badbit);
     const Calc_Options options{.files = {Write("stored.dat", Stored_Test())}};
-    EXPECT_THROW(static_cast<void>(Run_Calc(options, in, out, errors)), Script_Error);
+    EXPECT_THROW(static_cast<void>(Run_Calc(options, in, out, errors)), Stream_Error);
 }
 
 TEST(Calc_Figures, Every_Figure_Has_A_Name_Of_Its_Own) {
@@ -283,13 +299,13 @@ TEST(Calc_Options, Wrong_Calls_Are_Told_With_The_Usage) {
         Wrong_Call{"a dash", {"-"}, "calc: unknown option '-'"},
         Wrong_Call{"an empty name", {"a.dat", ""}, "calc: a file name is empty"},
         Wrong_Call{"a list", {"--files-from", "list"}, "calc: --files-from reads standard input"},
-        Wrong_Call{"no list", {"a.dat", "--files-from"}, "calc: --files-from reads"},
+        Wrong_Call{"no list", {"a.dat", "--files-from"}, "calc: '--files-from' wants a value"},
     };
     for (const Wrong_Call& call : calls) {
         try {
             static_cast<void>(Calc_Options_From(call.arguments));
             ADD_FAILURE() << call.name;
-        } catch (const Script_Error& fault) {
+        } catch (const Usage_Error& fault) {
             const std::string_view told = fault.what();
             EXPECT_TRUE(told.starts_with(call.message)) << told;
             EXPECT_NE(told.find("usage: kestrum-cli calc [--metric]"), std::string_view::npos);

@@ -4,12 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
 namespace kestrum {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 const std::string not_loaded = "exclamation box: Flow Data File has Not been Loaded";
 const std::string not_saved = "exclamation box: Flow Data File has NOT been Saved";
@@ -79,6 +82,12 @@ TEST(Flow_Data_File, Reads_Lines_As_Their_Writers_Meant_Them) {
         {"other values lose it", "Text104_0 = 4.0E0\n", "Form1.Text104(0)", "4.0e0"},
         {"bare LF, no end of the last line", "Text104_6 = 1.3\nText104_4 = 0.3", "Form1.Text104(4)",
          "0.3"},
+        {"CR alone where no LF is", "Text104_6 = 1.3\rText104_4 = 0.3\r", "Form1.Text104(4)",
+         "0.3"},
+        {"its comment", "Comments = a\rb\r\rc\r", "Form1.Text38", " a\r\nb\r\n\r\nc"},
+        {"its first part", "Text102_0 = a\rText104_6 = 1.3", "Form1.Text102(0)", "a"},
+        {"LF behind the end mark", "Text102_0 = a\rText104_6 = 1.3\x1A\n", "Form1.Text104(6)",
+         "1.3"},
         {"one CR goes", "Text102_0 = a\r\r\n", "Form1.Text102(0)", "a\r"},
         {"first equals sign counts", "Text102_0 = a = b\n", "Form1.Text102(0)", "a = b"},
         {"byte order mark", "\xEF\xBB\xBFText104_6 = 1.3\n", "Form1.Text104(6)", "1.3"},
@@ -118,6 +127,17 @@ TEST(Flow_Data_File, Reads_Lines_As_Their_Writers_Meant_Them) {
     }
 }
 
+TEST(Flow_Data_File, An_End_Mark_In_A_Field_Does_Not_Cut_The_File) {
+    Test_Bench bench;
+    bench.Set("Form1.Text102(0)", "Pro\x1AMax");
+    bench.Set("Form1.Text38", "a\x1A\r\nb\x1A");
+    const std::string text = Flow_File_Text(bench.session, bench.session.Sheet(1));
+    EXPECT_EQ(text.find('\x1A'), std::string::npos);
+    EXPECT_TRUE(Read_Flow_Records(bench.session, bench.session.Sheet(2), text));
+    Expect_Texts(bench, {{"Form2.Text102(0)", "ProMax"}, {"Form2.Text38", " a\r\nb"}});
+    EXPECT_EQ(bench.Get("Form1.Text102(0)"), "Pro\x1AMax") << "the screen keeps it";
+}
+
 TEST(Flow_Data_File, Comma_Mode_Reads_Both_Marks) {
     Test_Bench bench({.point = ","});
     bench.platform.Choose(bench.folder.Write("test.dat", "Text104_6 = 1.31\nText104_4 = 0,33\n"));
@@ -143,16 +163,31 @@ TEST(Flow_Data_File, Finds_A_Preloaded_File_By_Its_Name) {
         {"no comma in dot mode", "head.dat", "head,dat", ".", false},
         {"not there", "head.dat", "other.dat", ".", false},
         {"another folder", "head.dat", "/nowhere/head.dat", ".", false},
+        {"below it", "Heads/V8/Head.dat", "heads/v8/head.dat", ".", true},
+        {"through a folder above", "Heads/V8/Head.dat", "./HEADS/../heads/v8/head.DAT", ".", true},
+        {"comma from the switch below it", "Heads/V8/Head.dat", "heads/v8/head,dat", ",", true},
+        {"a folder that is not there", "Heads/V8/Head.dat", "heads/v6/head.dat", ".", false},
     };
     for (const Case& c : cases) {
         Test_Bench bench({.point = std::string(c.point)});
+        fs::create_directories(bench.folder.File("Heads/V8"));
         const std::string path = bench.folder.Write(c.on_disk, "Text102_0 = Found\n");
         Load_Flow_File(bench.session, bench.session.Sheet(4), c.asked);
         EXPECT_EQ(bench.Take_Events(), c.found ? Events{} : Events{not_loaded}) << c.name;
         EXPECT_EQ(bench.Get("Form4.Text102(0)"), c.found ? "Found" : "E7TE") << c.name;
-        EXPECT_EQ(bench.Get("Form4.Text39"), c.found ? path : "") << c.name;
+        EXPECT_EQ(fs::weakly_canonical(bench.Get("Form4.Text39")),
+                  fs::weakly_canonical(c.found ? path : ""))
+            << c.name;
     }
     Test_Bench bench;
+    const Temp_Folder elsewhere; // a file of that name where the program was started
+    fs::create_directory(elsewhere.File("heads"));
+    elsewhere.Write("heads/head.dat", "Text102_0 = Foreign\n");
+    const fs::path before = fs::current_path();
+    fs::current_path(elsewhere.Path());
+    Load_Flow_File(bench.session, bench.session.Sheet(1), "heads/head.dat");
+    EXPECT_EQ(bench.Take_Events(), Events{not_loaded});
+    fs::current_path(before);
     bench.folder.Write("HEAD.dat", "Text102_0 = first in byte order\n");
     bench.folder.Write("Head.dat", "Text102_0 = second\n");
     Load_Flow_File(bench.session, bench.session.Sheet(1), "head.dat");

@@ -44,11 +44,11 @@ TEST(Axis_Number, Is_Cut_Not_Rounded) {
         {100, "100"},
         {10.5, "10.5"},
     };
-    Numeric_Text number;
+    Numeric_Text numbers;
     Numeric_Text comma;
     comma.comma_mode = 1;
     for (const Number_Case& one : cases) {
-        EXPECT_EQ(Format_Axis_Number(number, one.value), one.text) << one.value;
+        EXPECT_EQ(Format_Axis_Number(numbers, one.value), one.text) << one.value;
         std::string text = one.text;
         std::ranges::replace(text, '.', ',');
         EXPECT_EQ(Format_Axis_Number(comma, one.value), text) << one.value;

@@ -95,7 +95,7 @@ TEST(Graph_Drawing, A_Curve_Runs_Through_Its_Points) {
     for (int at = 0; at < 15; ++at) {
         bench.session.Sheet(1)
             .Text102(zero_lift_row + at)
-            .Set_Text(bench.session.number.Fmt_Whole(values.at(static_cast<std::size_t>(at))));
+            .Set_Text(bench.session.numbers.Fmt_Whole(values.at(static_cast<std::size_t>(at))));
     }
     bench.Draw(0); // 1400 wide, 280 + 10 high
     const auto pieces = bench.Lines(blue, thin);
@@ -135,13 +135,13 @@ TEST(Graph_Drawing, Lays_Grid_And_Frame) {
     EXPECT_EQ(frame[0].y1, 600);
     EXPECT_EQ(frame[0].y2, 600);
     EXPECT_EQ(frame[1].x2, 0);
-    bench.session.graph.grid_style = 1;
+    bench.session.graph.grid_style = Line_Style::Dash;
     bench.session.grid_colour = 0x0000FF; // blue-green-red: red
     bench.Draw(0);
     EXPECT_EQ(bench.Lines(red, 1).size(), 18U);
     EXPECT_EQ(bench.Lines(red, 1)[0].style, Line_Style::Dash);
     EXPECT_EQ(bench.Lines(black, 3)[0].style, Line_Style::Solid);
-    bench.session.graph.grid_style = 0;
+    bench.session.graph.grid_style = Line_Style::Solid;
     bench.Draw(0);
     EXPECT_EQ(bench.Lines(red, 2).size() - bench.Lines(red, thin).size(), 0U);
     EXPECT_EQ(bench.Lines(red, 2).size(), 1498U + 18U) << "a wider pen for a colour of one's own";

@@ -1,6 +1,8 @@
 #include "application/events.h"
-#include "platform/painter.h"
-#include "platform/printer.h"
+#include "drawing/painter.h"
+#include "drawing/printer.h"
+#include "files/main_data_file.h"
+#include "screens/geometry.h"
 #include "tests/graph_test_bench.h"
 
 #include <gtest/gtest.h>
@@ -112,6 +114,86 @@ TEST_F(Graph_Screen_Test, A_Hidden_Graph_Keeps_Its_Picture) {
     EXPECT_GT(bench_.Steps().size(), before);
 }
 
+TEST_F(Graph_Screen_Test, The_Frame_Of_The_Window_Takes_The_Graph_With_It) {
+    bench_.Draw(0);
+    bench_.Click("Form60.Check1");
+    Mouse("Form60.Picture1", Mouse_Action::Down, 10, 20);
+    Mouse("Form60.Picture2", Mouse_Action::Down, 1, 1);
+    EXPECT_EQ(bench_.Close("Form60"), (Events{"hide Form60", "unload Form60"}));
+    const Graph_State& graph = bench_.session.graph;
+    EXPECT_FALSE(graph.drawing_now);
+    EXPECT_FALSE(graph.logo_moving);
+    for (const double limit : {graph.x_low, graph.x_high, graph.y_low, graph.y_high}) {
+        EXPECT_EQ(limit, 0);
+    }
+    Mouse("Form60.Picture1", Mouse_Action::Move, 100, 100);
+    EXPECT_TRUE(bench_.Steps().empty());
+    Expect_Texts(bench_, {{"Form60.Label18", "0.0"}, {"Form60.Label19", "0.0"}});
+    painter_.steps = 99;
+    EXPECT_EQ(Save(bench_.folder.File("a.bmp")), Events{"chooser to save"});
+    EXPECT_EQ(painter_.steps, 0U) << "the empty canvas";
+    EXPECT_EQ(bench_.Draw(0), Events{});
+    EXPECT_EQ(graph.y_high, 290);
+}
+
+TEST_F(Graph_Screen_Test, The_List_Of_Widths_Gives_Its_Entries_Alone) {
+    Control& widths = bench_.session.Form60().Combo1;
+    for (const std::string_view none : {"11", "", "abc", " 3", "3.0"}) {
+        Select(bench_.session, widths, none);
+        EXPECT_EQ(widths.Text(), "3");
+        EXPECT_EQ(bench_.session.draw_line_width, 3);
+    }
+    Select(bench_.session, widths, "12");
+    EXPECT_EQ(bench_.session.draw_line_width, 12);
+    bench_.Close("Form60");
+    EXPECT_EQ(bench_.Get("Form60.Combo1"), "12") << "the width in force";
+}
+
+TEST_F(Graph_Screen_Test, Pictures_Have_Their_Own_Size) {
+    const std::string path =
+        bench_.folder.Write("shop.gif", std::string_view("GIF89a\x40\0\x30\0\0\0\0", 13));
+    const auto expect_logo = [this](double width, double height) {
+        const Twips place = Place_In_Twips(bench_.At("Form60.Picture2"));
+        EXPECT_EQ(place.width, width);
+        EXPECT_EQ(place.height, height);
+    };
+    const Twips canvas = Place_In_Twips(bench_.At("Form60.Picture1"));
+    EXPECT_EQ(canvas.width, 600);
+    EXPECT_EQ(canvas.height, 600);
+    expect_logo(0, 0);
+    bench_.platform.Choose(path);
+    EXPECT_EQ(bench_.Click("Form60.Logo"), Events{"chooser to open"});
+    expect_logo(64, 48);
+    bench_.Close("Form60");
+    expect_logo(64, 48);
+    bench_.Click("Form60.Logo");
+    expect_logo(0, 0);
+}
+
+TEST_F(Graph_Screen_Test, A_File_That_Switches_The_Logo_Off_Takes_It_Off) {
+    const std::string path = Logo_File("shop.gif");
+    const auto is_shown = [this] {
+        return bench_.session.Form60().Picture2.Present_Look().visible &&
+               bench_.Get("Form60.Logo") == "Logo -- Is ON";
+    };
+    const auto is_off = [this] {
+        return !bench_.session.Form60().Picture2.Present_Look().visible &&
+               bench_.Get("Form60.Logo") == "Logo -- Is OFF";
+    };
+    const std::string named = "Logo_SW = 1\r\nLogo_Name = " + path + "\r\n";
+    EXPECT_TRUE(Read_Main_Records(bench_.session, named));
+    EXPECT_TRUE(is_shown());
+    EXPECT_TRUE(Read_Main_Records(bench_.session, "Logo_SW = 0\r\n"));
+    EXPECT_TRUE(is_off());
+    EXPECT_TRUE(Read_Main_Records(bench_.session, named));
+    EXPECT_TRUE(Read_Main_Records(bench_.session, "Logo_SW = 1\r\nLogo_Name = \r\n"));
+    EXPECT_TRUE(is_off()) << "no name, no logo";
+    EXPECT_TRUE(Read_Main_Records(bench_.session, named));
+    EXPECT_TRUE(Read_Main_Records(bench_.session, "Logo_Name = none.gif\r\n"));
+    EXPECT_EQ(bench_.Take_Events(), Events{"plain box: No Logo File has been Seleted"});
+    EXPECT_TRUE(is_off());
+}
+
 TEST_F(Graph_Screen_Test, Takes_A_Logo_And_Moves_It) {
     const std::string path = Logo_File("shop.gif");
     bench_.platform.Choose(path);
@@ -204,6 +286,8 @@ TEST_F(Graph_Screen_Test, A_Full_Disk_Leaves_The_Old_Picture_Whole) {
 /// Printers that note what they print.
 struct Noting_Printers : Printers {
     [[nodiscard]] std::vector<std::string> Devices() const override { return devices; }
+
+    void Print(const std::string& /*device*/, const Document& /*document*/) override {}
 
     void Print_Screen(const std::string& device, const Screen_Picture& picture) override {
         EXPECT_GT(picture.width, 0);

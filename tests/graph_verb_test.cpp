@@ -1,6 +1,6 @@
 #include "cli/graph_options.h"
 #include "cli/graph_run.h"
-#include "cli/script_error.h"
+#include "cli/usage_error.h"
 #include "files/flow_data_file.h"
 #include "tests/script_run.h"
 #include "tests/test_bench.h"
@@ -136,7 +136,7 @@ TEST_F(Graph_Verbs, Compare_Prints_The_Table_Of_The_Screen) {
     EXPECT_EQ(line, "row,Text101,Text102,Text103,Text104,Text105,Text106,Text107,Text108,Text109,"
                     "Text110");
     for (int row = 10; row <= 30; ++row) {
-        std::string wanted = bench_.session.number.Fmt_Whole(row);
+        std::string wanted = bench_.session.numbers.Fmt_Whole(row);
         for (const std::string_view column :
              {"Text101", "Text102", "Text103", "Text104", "Text105", "Text106", "Text107",
               "Text108", "Text109", "Text110"}) {
@@ -213,7 +213,7 @@ TEST(Graph_Options, Wrong_Calls_Are_Told_With_The_Usage) {
             static_cast<void>(call.draws ? Graph_Options_From(call.arguments)
                                          : Compare_Options_From(call.arguments));
             ADD_FAILURE() << call.name;
-        } catch (const Script_Error& fault) {
+        } catch (const Usage_Error& fault) {
             const std::string_view told = fault.what();
             EXPECT_TRUE(told.starts_with(call.message)) << told;
             EXPECT_NE(told.find("\nusage: kestrum-cli "), std::string_view::npos);

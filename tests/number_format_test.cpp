@@ -1,4 +1,4 @@
-#include "core/numeric_text.h"
+#include "base/numeric_text.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@ namespace kestrum {
 
 namespace {
 
-constexpr Numeric_Text flush_left{};
-constexpr int right = 1;
+const Numeric_Text flush_left{};
+constexpr Alignment right = Alignment::Right;
 
 struct Picture_Case {
     const char* name;
@@ -72,23 +72,23 @@ TEST(Number_Format, Rounds_What_The_User_Sees) {
 }
 
 TEST(Number_Format, Flush_Right_Fixes_The_Decimals_Of_Two_To_Four_Places) {
-    const Numeric_Text number{.align_mode = right};
+    const Numeric_Text numbers{.align_mode = right};
     for (const Picture_Case& c : picture_cases) {
-        EXPECT_EQ((number.*c.format)(c.value), c.flush_right) << c.name;
+        EXPECT_EQ((numbers.*c.format)(c.value), c.flush_right) << c.name;
     }
-    const Numeric_Text centred{.align_mode = 2};
+    const Numeric_Text centred{.align_mode = Alignment::Center};
     EXPECT_EQ(centred.Fmt_Two_Place(0.5), "0.5");
 }
 
 TEST(Number_Format, Comma_Mode_Shows_Commas_And_Groups_By_Dots) {
-    const Numeric_Text number{.comma_mode = 1};
-    EXPECT_EQ(number.Fmt_Two_Place(104.77499999999999), "104,78");
-    EXPECT_EQ(number.Fmt_Thousands(1234), "1.234");
-    EXPECT_EQ(number.Fmt_Whole(2.5), "3");
-    EXPECT_EQ(number.Plain(-0.5), "-0,5");
+    const Numeric_Text numbers{.comma_mode = 1};
+    EXPECT_EQ(numbers.Fmt_Two_Place(104.77499999999999), "104,78");
+    EXPECT_EQ(numbers.Fmt_Thousands(1234), "1.234");
+    EXPECT_EQ(numbers.Fmt_Whole(2.5), "3");
+    EXPECT_EQ(numbers.Plain(-0.5), "-0,5");
     // The wide format looks for a dot only, so here it cuts the whole part too.
-    EXPECT_EQ(number.Fmt_Eight_Wide(123456789.5), "12345678");
-    EXPECT_EQ(number.Fmt_Eight_Wide(1234567.8), "1234567,");
+    EXPECT_EQ(numbers.Fmt_Eight_Wide(123456789.5), "12345678");
+    EXPECT_EQ(numbers.Fmt_Eight_Wide(1234567.8), "1234567,");
 }
 
 TEST(Number_Format, Plain_Text_Keeps_15_Digits) {

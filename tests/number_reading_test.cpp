@@ -77,17 +77,21 @@ TEST(Number_Reading, Integers_Round_Half_To_Even_Within_16_Bits) {
 }
 
 TEST(Number_Reading, Either_Mark_Becomes_The_One_Of_The_Mode) {
-    Numeric_Text number;
-    EXPECT_EQ(number.Text_To_Number_String("1,50"), "1.5");
-    EXPECT_EQ(number.locale_point, "1.50"); // the separator of the start is gone; nothing may
-                                            // take it from there any more
-    EXPECT_EQ(number.Text_To_Number_String(" 5.10"), "5.1");
-    EXPECT_EQ(number.Text_To_Number_String("1e15"), "1E+15");
-    EXPECT_EQ(Error_Of([&] { (void)number.Text_To_Number_String(""); }), 13);
-    EXPECT_EQ(Error_Of([&] { (void)number.Text_To_Number_String("1,234.5"); }), 13);
-    number.comma_mode = 1;
-    EXPECT_EQ(number.Text_To_Number_String("1.50"), "1,5");
-    EXPECT_EQ(number.Text_To_Number_String("0,25"), "0,25");
+    Numeric_Text numbers;
+    EXPECT_EQ(numbers.Text_To_Number_String("1,50"), "1.5");
+    EXPECT_EQ(numbers.locale_point, "1.50"); // the separator of the start is gone; nothing may
+                                             // take it from there any more
+    EXPECT_EQ(numbers.Text_To_Number_String(" 5.10"), "5.1");
+    EXPECT_EQ(numbers.Text_To_Number_String("1e15"), "1E+15");
+    EXPECT_EQ(Error_Of([&] { (void)numbers.Text_To_Number_String(""); }), 13);
+    EXPECT_EQ(Error_Of([&] { (void)numbers.Text_To_Number_String("1,234.5"); }), 13);
+    numbers.comma_mode = 1;
+    EXPECT_EQ(numbers.Text_To_Number_String("1.50"), "1,5");
+    EXPECT_EQ(numbers.Text_To_Number_String("0,25"), "0,25");
+    EXPECT_EQ(numbers.Read_Either_Mark("12.25").Value(), 12.25);
+    // Sixteen digits and more are rounded to the fifteen that the text would show.
+    EXPECT_EQ(numbers.Read_Either_Mark("0.12345678901234567").Value(), 0.123456789012346);
+    EXPECT_EQ(numbers.Read_Integer_Either_Mark("2.5"), 2);
 }
 
 TEST(Real, Fails_Where_A_Pocket_Calculator_Would) {

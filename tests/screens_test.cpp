@@ -1,3 +1,4 @@
+#include "presentation/alignment.h"
 #include "tests/test_bench.h"
 
 #include <gtest/gtest.h>
@@ -156,6 +157,37 @@ TEST(Screens, Hand_Out_Each_Change_Once) {
     bench.Set("Form1.Text106(20)", "147");
     EXPECT_EQ(sheet.Take_Changes(), std::vector{&bench.At("Form1.Text106(20)")});
     EXPECT_TRUE(sheet.Take_Changes().empty());
+}
+
+TEST(Screens, A_Sheet_That_Comes_Later_Looks_Like_The_Others) {
+    Test_Bench bench;
+    static_cast<void>(bench.Close("Form2"));
+    for (const int number : {1, 3, 4, 5}) {
+        Flow_Sheet& sheet = bench.session.Sheet(number);
+        Look look = sheet.Text106(17).Present_Look();
+        look.font = {.name = "Courier", .size = 10, .bold = true};
+        sheet.Text106(17).Set_Look(look);
+    }
+    bench.session.numbers.align_mode = Alignment::Center;
+    bench.session.plain_pointer = true;
+    ASSERT_FALSE(bench.session.Is_Loaded("Form2"));
+    const Look& later = bench.session.Sheet(2).Text106(17).Present_Look();
+    EXPECT_EQ(later.font.name, "Courier");
+    EXPECT_EQ(later.font.size, 10);
+    EXPECT_TRUE(later.font.bold);
+    EXPECT_EQ(later.alignment, Alignment::Center);
+    EXPECT_TRUE(bench.session.Sheet(2).plain_pointer);
+}
+
+TEST(Screens, The_Alignment_Reaches_Captions_Inputs_And_Results) {
+    Test_Bench bench;
+    bench.session.numbers.align_mode = Alignment::Right;
+    Apply_Alignment(bench.session);
+    for (const char* const address : {"Form1.Text101(6)", "Form1.Text106(17)", "Form1.Text103(17)",
+                                      "Form1.Text38", "Main.Text33", "Main.Text101(0)"}) {
+        EXPECT_EQ(bench.At(address).Present_Look().alignment, Alignment::Right) << address;
+    }
+    EXPECT_EQ(bench.At("Form50.Text71").Present_Look().alignment, Alignment::Left);
 }
 
 } // namespace

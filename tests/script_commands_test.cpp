@@ -1,6 +1,11 @@
+#include "cli/script_runner.h"
 #include "tests/script_run.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+#include <streambuf>
 
 namespace kestrum {
 
@@ -61,6 +66,9 @@ constexpr Script_Case script_cases[] = {
      R"j({"beep":true}
 {"beep":true}
 {"get":"Form1.Text102(1)","text":"1.23"})j"},
+    {"trailing blanks", "get Main.Text105(3)  ", R"j({"get":"Main.Text105(3)","text":"4"})j"},
+    {"Enter is one key", "key Form1.Text38 \\n\nget Form1.Text38",
+     R"j({"get":"Form1.Text38","text":"\r\n"})j"},
     {"one raw key", "key Form1.Text102(0) Ö\nget Form1.Text102(0)",
      R"j({"get":"Form1.Text102(0)","text":"Ö"})j"},
     {"leaving", "set Form1.Text106(6) 5\nleave Form1.Text106(6)",
@@ -139,6 +147,24 @@ TEST(Script_Commands, Unusable_Lines_End_With_Status_2_And_Their_Number) {
         {"answer maybe", "line 3: unknown answer 'maybe'"},
         {"mouse Main.Picture1 down 1 1", "line 3: there is no control 'Main.Picture1'"},
         {"close Form9", "line 3: there is no screen 'Form9'"},
+        {"mouse Form60.Picture1 move nan 1", "line 3: not a coordinate: 'nan'"},
+        {"mouse Form60.Picture1 move 1 -inf", "line 3: not a coordinate: '-inf'"},
+        {"mouse Form60.Picture2 down 1e300 1", "line 3: not a coordinate: '1e300'"},
+        {"mouse Form60.Picture1 move 1 2x", "line 3: not a number: '2x'"},
+        {"mouse Form60.Picture1 move 1", "line 3: not a number: ''"},
+        {"mouse Form60.Picture1 move 1 2 3", "line 3: '3' is too much"},
+        {"colour nan", "line 3: not a number: 'nan'"},
+        {"colour 16777216", "line 3: not a colour: '16777216'"},
+        {"colour -1", "line 3: not a colour: '-1'"},
+        {"colour 255 0", "line 3: not a number: '255 0'"},
+        {"get Main.Text105(3) x", "line 3: 'x' is too much"},
+        {"var Align_Mode now", "line 3: 'now' is too much"},
+        {"click Main.Command51  twice", "line 3: ' twice' is too much"},
+        {"dump Form1 x", "line 3: 'x' is too much"},
+        {"canvas all", "line 3: 'all' is too much"},
+        {"exit now", "line 3: 'now' is too much"},
+        {"key Form1.Text102(0) ab", "line 3: not one key: 'ab'"},
+        {"get Main.\x1b[31m\xc2\x9b", "line 3: there is no control 'Main.\\u001b[31m\\u009b'"},
     };
     for (const Case& c : cases) {
         const Script_Result result =
@@ -146,6 +172,66 @@ TEST(Script_Commands, Unusable_Lines_End_With_Status_2_And_Their_Number) {
         EXPECT_EQ(result.status, 2) << c.line;
         EXPECT_EQ(result.fault, c.fault);
         EXPECT_EQ(result.events.size(), 1U) << "what ran before stays done: " << c.line;
+    }
+}
+
+/// A script as it comes through a pipe: what has been read cannot be read again.
+class Pipe_Buffer : public std::streambuf {
+public:
+    explicit Pipe_Buffer(std::string text) : text_(std::move(text)) {
+        setg(text_.data(), text_.data(), text_.data() + text_.size());
+    }
+
+private:
+    std::string text_;
+};
+
+constexpr std::string_view four_graphs = // over 24,000 operations
+    "set Form2.Text106(26) 300\nclick Form50.Command2\n"
+    "click Form50.Command2\nclick Form50.Command2\nclick Form50.Command2\n";
+
+std::string Printed_By(std::istream& script) {
+    const Temp_Folder folder;
+    Surroundings around;
+    around.folder = folder.Path();
+    std::ostringstream out;
+    cli::Script_Runner runner(around, out);
+    EXPECT_EQ(runner.Run(script, "cannot read"), 0);
+    EXPECT_LT(runner.Current_Session().graph.canvas.Journal_Size(), 20000U) << "stays small";
+    return out.str();
+}
+
+TEST(Script_Canvas, Is_Told_Whole_However_Late_It_Is_Asked_For) {
+    const std::string script = std::string(four_graphs) + "canvas\nclick Form50.Command2\ncanvas\n";
+    std::istringstream file(script);
+    const std::string from_file = Printed_By(file);
+    Pipe_Buffer buffer(script);
+    std::istream pipe(&buffer);
+    EXPECT_TRUE(Printed_By(pipe) == from_file);
+
+    const std::string::size_type list = from_file.find("{\"canvas\":");
+    const std::string::size_type line_end = from_file.find('\n', list);
+    const json told = json::parse(from_file.substr(list, line_end - list)).at("canvas");
+    const json one = Run_Script("set Form2.Text106(26) 300\nclick Form50.Command2\ncanvas").Last();
+    const json& graph = one.at("canvas");
+    EXPECT_GT(graph.size(), 5000U);
+    ASSERT_EQ(told.size(), 4 * graph.size());
+    EXPECT_TRUE(std::equal(graph.begin(), graph.end(), told.begin()));
+    EXPECT_TRUE(std::equal(graph.rbegin(), graph.rend(), told.rbegin()));
+    EXPECT_TRUE(json::parse(from_file.substr(line_end + 1)) == one) << "forgotten when told";
+}
+
+TEST(Script_Canvas, Is_Not_Noted_For_A_Script_That_Will_Not_Ask) {
+    const Temp_Folder folder;
+    Surroundings around;
+    around.folder = folder.Path();
+    for (const char* const before : {"", "canvas\n"}) {
+        std::ostringstream out;
+        std::istringstream script(before + std::string("click Form50.Command2\n# canvas\n"));
+        cli::Script_Runner runner(around, out);
+        EXPECT_EQ(runner.Run(script, "cannot read"), 0);
+        EXPECT_FALSE(runner.Current_Session().graph.canvas.Operations().empty());
+        EXPECT_EQ(runner.Current_Session().graph.canvas.Journal_Size(), 0U);
     }
 }
 

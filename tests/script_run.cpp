@@ -18,7 +18,7 @@ Script_Result Run_Script_In(const Temp_Folder& folder, std::string_view script,
     std::istringstream in{std::string(script)};
     Script_Result result;
     try {
-        result.status = cli::Script_Runner(around, out).Run(in);
+        result.status = cli::Script_Runner(around, out).Run(in, "cannot read");
     } catch (const cli::Script_Error& fault) {
         result.status = 2;
         result.fault = fault.what();

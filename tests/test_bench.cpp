@@ -2,8 +2,8 @@
 
 #include "application/events.h"
 #include "application/start_up.h"
-#include "core/field_editor.h"
-#include "core/text.h"
+#include "base/text.h"
+#include "cli/field_editor.h"
 
 #include <gtest/gtest.h>
 
@@ -34,6 +34,9 @@ Surroundings Around(const Bench_Options& options, const Temp_Folder& folder) {
     around.command_line = options.command_line;
     around.decimal_point = options.point;
     around.version = "5.0.0";
+    if (!options.now.empty()) {
+        EXPECT_TRUE(around.clock.Stop_At(options.now));
+    }
     return around;
 }
 
@@ -69,9 +72,14 @@ Box_Answer Scripted_Platform::Show_Box(const Box& box) {
                                                                       : Box_Answer::Ok);
 }
 
-std::optional<std::string> Scripted_Platform::Choose_File(const Chooser& chooser) {
+std::optional<Chosen_Path> Scripted_Platform::Choose_File(const Chooser& chooser) {
     events_.push_back(chooser.mode == Chooser_Mode::Open ? "chooser to open" : "chooser to save");
-    return Next(files_).value_or(std::nullopt);
+    const std::optional<std::string> path = Next(files_).value_or(std::nullopt);
+    if (!path) {
+        return std::nullopt;
+    }
+    // The user picks another entry of the filter only where a test says so.
+    return Chosen_Path{.path = *path, .filter_index = filter_entry_.value_or(chooser.filter_index)};
 }
 
 void Scripted_Platform::Beep() {
@@ -127,10 +135,7 @@ void Test_Bench::Set(std::string_view address, std::string_view text) {
 }
 
 void Test_Bench::Type(std::string_view address, std::string_view keys) {
-    Field_Editor editor(session, At(address));
-    for (const char32_t key : Characters_Of(keys)) {
-        editor.Press(key);
-    }
+    cli::Field_Editor(session, At(address)).Type(keys);
 }
 
 Events Test_Bench::Leave(std::string_view address) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kestrum {
@@ -28,10 +29,19 @@ public:
     /// Nothing stands for a cancel.
     void Choose(std::optional<std::string> path) { files_.push_back(std::move(path)); }
 
+    /// From now on every chooser is left with this entry of its filter.
+    void Pick_Filter_Entry(int entry) { filter_entry_ = entry; }
+
     [[nodiscard]] Events Take_Events();
 
+    /// What the next colour dialog gives; a cancel without it.
+    std::optional<int> colour;
+
     Box_Answer Show_Box(const Box& box) override;
-    std::optional<std::string> Choose_File(const Chooser& chooser) override;
+
+    std::optional<int> Choose_Colour() override { return std::exchange(colour, std::nullopt); }
+
+    std::optional<Chosen_Path> Choose_File(const Chooser& chooser) override;
     void Beep() override;
     void Show(Screen& screen) override;
     void Hide(Screen& screen) override;
@@ -42,11 +52,14 @@ private:
     Events events_;
     std::deque<Box_Answer> answers_;
     std::deque<std::optional<std::string>> files_;
+    std::optional<int> filter_entry_;
 };
 
 struct Bench_Options {
     std::string point = ".";
     std::string command_line{};
+    /// Where the clock stands still, as "2026-11-16T09:05:03"; empty: it goes.
+    std::string now{};
 };
 
 /// A running session in a folder of its own, and the hands of its user.

@@ -1,5 +1,5 @@
-#include "core/field_editor.h"
-#include "core/text.h"
+#include "base/text.h"
+#include "cli/field_editor.h"
 #include "tests/test_bench.h"
 
 #include <gtest/gtest.h>
@@ -65,6 +65,7 @@ TEST(Text, Bytes_That_Are_No_UTF_8_Are_Windows_1252) {
 TEST(Text, Characters_Come_Apart_For_The_Keyboard) {
     EXPECT_EQ(Characters_Of("aÖ€🔧"), U"aÖ€🔧");
     EXPECT_EQ(Characters_Of("\r\n"), U"\r\n");
+    EXPECT_EQ(Text_Of(U"aÖ€🔧"), "aÖ€🔧");
 }
 
 } // namespace

@@ -13,10 +13,10 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 # Who may include whom: a folder includes itself and folders of a lower rank.
-RANKS = {"platform": 0, "screens": 1, "core": 2,
-         "engine": 3, "sheet": 3, "graph": 3, "presentation": 3,
-         "files": 4, "exchange": 4, "output": 4,
-         "painting": 1, "application": 5, "desktop": 6, "cli": 6, "tests": 7, "bench": 8, "fuzz": 8}
+RANKS = {"base": 0, "platform": 1, "screens": 1, "drawing": 2, "core": 3,
+         "records": 4, "engine": 4, "sheet": 4, "graph": 4, "presentation": 4,
+         "files": 5, "exchange": 5, "output": 5,
+         "painting": 3, "application": 6, "desktop": 7, "cli": 7, "tests": 8, "bench": 9, "fuzz": 9}
 
 QT_PLACES = re.compile(r"desktop/|painting/|tests/(?:desktop/|graph_painting)|bench/(?:desktop|bare_window|graph_bench)")
 QT_INCLUDE = re.compile(r"^[ \t]*#[ \t]*include[ \t]*[<\"]((?:Qt?[A-Z]|q[a-z]+\.h|private/q)[^>\"]*)", re.M)

@@ -3,6 +3,9 @@
 #include "application/commands.h"
 #include "application/start_up.h"
 #include "core/field_handlers.h"
+#include "output/text_report.h"
+
+#include <algorithm>
 
 namespace kestrum {
 
@@ -22,9 +25,9 @@ void Run_Routine(Session& session, Control& control) {
     }
 }
 
-bool Reads_Above(const Numeric_Text& number, const Control& field, Real limit) {
+bool Reads_Above(const Numeric_Text& numbers, const Control& field, Real limit) {
     try {
-        return number(field) > limit;
+        return numbers(field) > limit;
     } catch (const Run_Time_Error&) {
         return false; // a text that is no number passes
     }
@@ -37,7 +40,7 @@ void Refuse_With_Box(Session& session, Control& field, std::string_view message)
 }
 
 void Check_Limit(Session& session, Control& field, Real limit, std::string_view message) {
-    if (Reads_Above(session.number, field, limit)) {
+    if (Reads_Above(session.numbers, field, limit)) {
         Refuse_With_Box(session, field, message);
     }
 }
@@ -50,8 +53,7 @@ void Check_Valve_Count(Session& session, Control& field, std::string_view messag
 }
 
 void Copy_Lift(Session& session, const Control& lift) {
-    const int sheet = lift.Owner().Name().back() - '0';
-    session.Sheet(sheet).Text108(lift.Index()).Set_Text(lift.Text());
+    session.Sheet(lift.Owner().Id().number).Text108(lift.Index()).Set_Text(lift.Text());
 }
 
 /// An empty limit of the graph is shown as "-" and keeps the focus.
@@ -78,6 +80,19 @@ Control* Help_Line(Screen& screen) {
     return screen.Find("Label7", std::nullopt);
 }
 
+/// The graph goes with its window: the picture, what the mouse was doing on it, and the limits.
+void Forget_Graph(Graph_State& graph) {
+    graph.canvas.Forget();
+    graph.plus_count = no_graph;
+    graph.draw_width = 1;
+    graph.drawing_now = false;
+    graph.logo_moving = false;
+    graph.x_low = 0;
+    graph.x_high = 0;
+    graph.y_low = 0;
+    graph.y_high = 0;
+}
+
 } // namespace
 
 void Click(Session& session, Control& control) {
@@ -93,6 +108,9 @@ void Click(Session& session, Control& control) {
 }
 
 void Select(Session& session, Control& combo, std::string_view text) {
+    if (std::ranges::find(combo.Items(), text) == combo.Items().end()) {
+        return; // the list cannot give it
+    }
     combo.Set_Text(text);
     Run_Routine(session, combo);
 }
@@ -118,6 +136,15 @@ void Leave(Session& session, Control& field) {
         return Put_Dash(session, field, field);
     case Leave_Step::Dash_When_Low_Is_Empty:
         return Put_Dash(session, field, session.Form50().Text1);
+    }
+}
+
+void Enter_Block(Session& session, const std::vector<New_Text>& texts) {
+    for (const auto& [cell, text] : texts) {
+        cell->Set_Text(text);
+        if (cell->Entry().step == Leave_Step::Copy_Lift) {
+            Copy_Lift(session, *cell);
+        }
     }
 }
 
@@ -151,18 +178,31 @@ void Mouse_On_Picture(Session& session, Control& picture, Mouse_Action action, d
     }
 }
 
+bool Takes_Raw_Keys(const Control& control) {
+    return control.Owner().Kind() == Screen_Kind::Report && control.Entry().array == "Text38";
+}
+
+void Press_Raw_Key(Session& session, const Control& control, char32_t character) {
+    if (Takes_Raw_Keys(control)) {
+        Press_Key_On_Report(session, character);
+    }
+}
+
 void Close_Window(Session& session, Screen& screen) {
-    const std::string& name = screen.Name();
-    if (name == "Main") {
+    switch (screen.Kind()) {
+    case Screen_Kind::Engine:
         Close_Main(session);
-    } else if (name == "Form50" || name == "Form70") {
+        break;
+    case Screen_Kind::Compare:
+    case Screen_Kind::Report:
         session.Hide(screen); // does what "Quit" does, and the closing is cancelled
-    } else {
-        if (name == "Form60") {
-            session.graph.plus_count = no_graph; // the picture is gone
-            session.graph.draw_width = 1;
-        }
+        break;
+    case Screen_Kind::Graph:
+        Forget_Graph(session.graph);
+        [[fallthrough]];
+    case Screen_Kind::Sheet:
         session.Unload(screen);
+        break;
     }
 }
 

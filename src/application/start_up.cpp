@@ -1,8 +1,9 @@
 #include "application/start_up.h"
 
-#include "core/text.h"
+#include "base/text.h"
 #include "engine/mode_switches.h"
 #include "files/main_data_file.h"
+#include "platform/file_moves.h"
 #include "platform/file_store.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
@@ -14,8 +15,8 @@ namespace kestrum {
 namespace {
 
 void Detect_Separator(Session& session) {
-    session.number.locale_point = session.surroundings.decimal_point;
-    session.number.comma_mode = session.number.locale_point == "," ? 1 : 0;
+    session.numbers.locale_point = session.surroundings.decimal_point;
+    session.numbers.comma_mode = session.numbers.locale_point == "," ? 1 : 0;
 }
 
 void Take_Graph_Switches(Session& session) {
@@ -48,28 +49,51 @@ std::string Session_File(const Session& session) {
     return Join_Path(session.surroundings.folder, "zxqw1234.sav");
 }
 
+void Copy_Aside(const std::string& path, const std::string& kept, const std::string& folder) {
+    const std::string bytes = Read_Whole_File(path);
+    if (File_Exists(kept)) {
+        if (Read_Whole_File(kept) == bytes) {
+            return; // of a start before, which no exit followed
+        }
+        static_cast<void>(Move_To_Fresh_Name(kept, folder));
+    }
+    Write_Whole_File(kept, bytes);
+}
+
 /// A file that could not be read to its end is kept, for the exit writes over it.
-void Keep_Bad_File(const std::string& path) {
+void Keep_Bad_File(const std::string& path, const std::string& folder) {
+    const std::string kept = path + ".bak";
     try {
-        Write_Whole_File(path + ".bak", Read_Whole_File(path));
+        Copy_Aside(path, kept, folder);
     } catch (const Run_Time_Error&) {
-        return; // nothing may stop the start
+        Move_File(path, kept); // longer than anything that is read; nothing may stop the start
     }
 }
 
 void Restore_Last_Session(Session& session) {
-    const std::string path = Session_File(session);
-    if (!Can_Be_Read(path)) {
-        return;
-    }
-    if (!Load_Main_File(session, path)) {
-        Keep_Bad_File(path);
+    session.file_path = Session_File(session);
+    const std::string path = session.file_path;
+    if (Can_Be_Read(path) && !Load_Main_File(session, path)) {
+        Keep_Bad_File(path, session.surroundings.folder);
     }
 }
 
+/// Without the folder there is nothing to save into, and nothing is said. The exit may write
+/// twice; a file that one of the writings has brought to the disk is there.
 void Write_Session_File(Session& session) {
     session.file_path = Session_File(session);
-    Save_Main_File(session);
+    const bool is_saved = File_Exists(session.surroundings.folder) && Save_Main_File(session);
+    session.exit_saved = is_saved || session.exit_saved.value_or(false);
+}
+
+/// All screens are there from the start on, seen or not.
+void Create_All_Screens(Session& session) {
+    for (int number = 1; number <= sheet_count; ++number) {
+        static_cast<void>(session.Sheet(number));
+    }
+    static_cast<void>(session.Form50());
+    static_cast<void>(session.Form60());
+    static_cast<void>(session.Form70());
 }
 
 } // namespace
@@ -78,8 +102,9 @@ void Start_Up(Session& session) {
     Detect_Separator(session); // before the first screen, whose texts show the separator
     Apply_Mach_Mode(session);
     Apply_Rpm_Mode(session);
+    Create_All_Screens(session);
     Take_Graph_Switches(session);
-    if (session.number.comma_mode != 0) {
+    if (session.numbers.comma_mode != 0) {
         session.Message("Program Set for Decimal Point to be >>,<< [Comma] ",
                         Box_Icon::Information);
     }

@@ -8,7 +8,8 @@ namespace kestrum {
 void Start_Up(Session& session);
 
 /// The exit by the menu: the session file is written and every screen is unloaded, `Main` first.
-/// A session file that cannot be written is told in a box and stops nothing.
+/// A session file that cannot be written is told in a box and stops nothing; `exit_saved` holds
+/// how it went.
 void Exit_Program(Session& session);
 
 /// The exit by the frame of `Main`.

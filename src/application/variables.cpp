@@ -1,7 +1,7 @@
 #include "application/variables.h"
 
+#include "base/text.h"
 #include "core/field_handlers.h"
-#include "core/text.h"
 #include "screens/tips.h"
 
 #include <algorithm>
@@ -39,11 +39,38 @@ Variable_Value Graph(const Session& session) {
     return static_cast<double>(session.graph.*member);
 }
 
+template <Flow_Totals::Sum Flow_Totals::*sum>
+Variable_Value Total(const Session& session) {
+    return (session.flow_totals.*sum).total.Value();
+}
+
+template <Flow_Totals::Sum Flow_Totals::*sum>
+Variable_Value Count(const Session& session) {
+    return double((session.flow_totals.*sum).count);
+}
+
+template <Real Curtain_Areas::*area>
+Variable_Value Curtain(const Session& session) {
+    return (session.curtain_areas.*area).Value();
+}
+
+/// Samples of a curve of one test.
+template <int Graph_State::*point_count>
+Variable_Value Samples(const Session& session) {
+    return double(session.graph.*point_count * samples_per_point);
+}
+
 /// One byte of the colour of the curve that was drawn last.
 template <unsigned shift>
 Variable_Value Curve_Colour(const Session& session) {
     constexpr unsigned byte = 0xFF;
     return double(static_cast<unsigned>(session.graph.curve_colour) >> shift & byte);
+}
+
+/// The same of what the prints share.
+template <auto member>
+Variable_Value Print_Number(const Session& session) {
+    return static_cast<double>(session.print.*member);
 }
 
 /// Scratch of other days: counters are locals now, and work texts are empty between operations.
@@ -55,7 +82,7 @@ Variable_Value Empty(const Session& /*session*/) {
     return std::string();
 }
 
-template <Seat_Geometry Session::*seat, Real Seat_Geometry::*member>
+template <Seat_Geometry Shared_State::*seat, Real Seat_Geometry::*member>
 Variable_Value Seat(const Session& session) {
     return (session.*seat.*member).Value();
 }
@@ -68,7 +95,8 @@ const auto variables = std::to_array<Variable>({
     {"File_Number", Zero},
     {"Records_Read", Number<&S::records_read>},
     {"Records_Written", Number<&S::records_written>},
-    {"Work_Text", Empty},
+    {"Work_Text", Text<&S::work_text>},
+    {"Report_Line", Empty},
     {"Find_Pos", Zero},
     {"Box_Answer", Number<&S::box_answer>},
     {"Row_Counter", Zero},
@@ -79,12 +107,12 @@ const auto variables = std::to_array<Variable>({
     {"Intake_Valves", Number<&S::intake_valves>},
     {"Exhaust_Valves", Number<&S::exhaust_valves>},
     {"Comma_Mode",
-     [](const S& session) -> Variable_Value { return double(session.number.comma_mode); }},
+     [](const S& session) -> Variable_Value { return double(session.numbers.comma_mode); }},
     {"Locale_Point",
-     [](const S& session) -> Variable_Value { return session.number.locale_point; }},
+     [](const S& session) -> Variable_Value { return session.numbers.locale_point; }},
     {"Mouse_Down", Number<&S::mouse_down>},
     {"Align_Mode",
-     [](const S& session) -> Variable_Value { return double(session.number.align_mode); }},
+     [](const S& session) -> Variable_Value { return double(session.numbers.align_mode); }},
     {"Full_Screen_Mode", Number<&S::full_screen_mode>},
     {"Aspect_Free", Number<&S::aspect_free>},
     {"Screen_Dpi", Number<&S::screen_dpi>},
@@ -115,8 +143,8 @@ const auto variables = std::to_array<Variable>({
     {"To_Point_Count", Graph<&Graph_State::to_point_count>},
     {"Graph_Tension", Graph<&Graph_State::tension>},
     {"Curve_Tension", Graph<&Graph_State::tension>}, // every curve is drawn with it
-    {"Curve_Sample_Count_From", Graph<&Graph_State::from_sample_count>},
-    {"Curve_Sample_Count_To", Graph<&Graph_State::to_sample_count>},
+    {"Curve_Sample_Count_From", Samples<&Graph_State::from_point_count>},
+    {"Curve_Sample_Count_To", Samples<&Graph_State::to_point_count>},
     {"Curve_Point_Count", Graph<&Graph_State::curve_point_count>},
     {"Curve_Red", Curve_Colour<16>},
     {"Curve_Green", Curve_Colour<8>},
@@ -136,6 +164,12 @@ const auto variables = std::to_array<Variable>({
     {"Thick_Lines", Zero},
     {"Logo_On", Number<&S::logo_on>},
     {"Logo_File", Text<&S::logo_file>},
+    {"Capture_Source", Text<&S::capture_source>},
+    {"Printer_Name",
+     [](const S& session) -> Variable_Value { return session.print.chosen_printer; }},
+    {"Printer_Item", Empty},
+    {"Print_Row_Y", Print_Number<&Print_State::row_y>},
+    {"Text_Width", Print_Number<&Print_State::text_width>},
     {"Flow_Filter_Index", Number<&S::flow_filter_index>},
     {"Tip_Calculate", Fixed<tips::calculate>},
     {"Tip_Exit_Sheet", Fixed<tips::exit_sheet>},
@@ -167,25 +201,45 @@ const auto variables = std::to_array<Variable>({
     {"Seat_Tan_Ex", Seat<&S::exhaust_seat, &G::tangent>},
     {"Seat_Radial_Ex", Seat<&S::exhaust_seat, &G::radial>},
     {"Throat_Limit_Ex", Seat<&S::exhaust_seat, &G::throat_limit>},
+    {"Sum_Ratio_To_Max", Total<&Flow_Totals::ratio_to_max>},
+    {"Count_Ratio_To_Max", Count<&Flow_Totals::ratio_to_max>},
+    {"Sum_Ratio_All", Total<&Flow_Totals::ratio_all>},
+    {"Count_Ratio_All", Count<&Flow_Totals::ratio_all>},
+    {"Total_Flow_In", Total<&Flow_Totals::intake_flow>},
+    {"Count_Flow_In", Count<&Flow_Totals::intake_flow>},
+    {"Total_Flow_Ex", Total<&Flow_Totals::exhaust_flow>},
+    {"Count_Flow_Ex", Count<&Flow_Totals::exhaust_flow>},
+    {"Curtain_Low", Curtain<&Curtain_Areas::low>},
+    {"Slant_Length", Curtain<&Curtain_Areas::slant_length>},
+    {"Curtain_High", Curtain<&Curtain_Areas::high>},
+    {"Effective_Area", Curtain<&Curtain_Areas::effective>},
 });
 
-/// A member of an array of the graph. Raises 9 for an index outside of it.
-template <auto array>
-Variable_Value Member(const Session& session, std::size_t index) {
-    const auto& members = session.graph.*array;
+/// A member of an array. Raises 9 for an index outside of it.
+template <typename Members>
+const auto& Member_Of(const Members& members, std::size_t index) {
     if (index >= members.size()) {
         Fail(error::subscript_out_of_range);
     }
     return members[index];
 }
 
-/// The arrays of the graph, as "From_X(3)".
+template <auto array>
+Variable_Value Member(const Session& session, std::size_t index) {
+    return Member_Of(session.graph.*array, index);
+}
+
+Variable_Value Print_Tab(const Session& session, std::size_t index) {
+    return double(Member_Of(session.print.tab, index));
+}
+
+/// The arrays, as "From_X(3)".
 struct Array_Variable {
     std::string_view name;
     Variable_Value (*read)(const Session& session, std::size_t index);
 };
 
-constexpr std::array<Array_Variable, 8> array_variables{{
+constexpr std::array<Array_Variable, 9> array_variables{{
     {"From_X", Member<&Graph_State::from_x>},
     {"To_X", Member<&Graph_State::to_x>},
     {"From_Intake", Member<&Graph_State::from_intake>},
@@ -194,6 +248,7 @@ constexpr std::array<Array_Variable, 8> array_variables{{
     {"To_Exhaust", Member<&Graph_State::to_exhaust>},
     {"X_Label_Text", Member<&Graph_State::x_label_text>},
     {"Y_Label_Text", Member<&Graph_State::y_label_text>},
+    {"Print_Tab", Print_Tab},
 }};
 
 std::optional<Variable_Value> Array_Member(const Session& session, std::string_view name) {

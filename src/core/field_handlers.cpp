@@ -1,7 +1,7 @@
 #include "core/field_handlers.h"
 
-#include "core/text.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
 
 #include <algorithm>
 
@@ -27,44 +27,49 @@ void Refuse(Session& session, Control& field, std::string_view message) {
     session.Message(message, Box_Icon::Exclamation);
 }
 
-bool Reads_As_Zero(const Numeric_Text& number, std::string_view text) {
+} // namespace
+
+bool Reads_As_Zero(const Numeric_Text& numbers, std::string_view text) {
     try {
-        return number.Read(text) == 0;
+        return numbers.Read(text) == 0;
     } catch (const Run_Time_Error&) {
         return false;
     }
 }
 
-} // namespace
-
 bool Key_Digits_Only(char32_t key) {
     return (key >= U'0' && key <= U'9') || Is_Editing_Key(key);
 }
 
-bool Key_Unsigned_Decimal(const Numeric_Text& number, std::string_view text, char32_t key) {
-    const char point = number.Point();
+bool Key_Unsigned_Decimal(const Numeric_Text& numbers, std::string_view text, char32_t key) {
+    const char point = numbers.Point();
     const bool is_point = key == static_cast<char32_t>(point);
     // The whole text counts, selected or not.
     return Key_Digits_Only(key) || (is_point && text.find(point) == std::string_view::npos);
 }
 
-bool Key_Signed_Decimal(const Numeric_Text& number, std::string_view text, char32_t key) {
-    return Key_Unsigned_Decimal(number, text, key) ||
+bool Key_Signed_Decimal(const Numeric_Text& numbers, std::string_view text, char32_t key) {
+    return Key_Unsigned_Decimal(numbers, text, key) ||
            (key == U'-' && text.find('-') == std::string_view::npos);
 }
 
-bool Passes_Filter(const Numeric_Text& number, const Control& field, char32_t key) {
-    switch (field.Entry().filter) {
+bool Passes_Filter(const Numeric_Text& numbers, Key_Filter filter, std::string_view text,
+                   char32_t key) {
+    switch (filter) {
     case Key_Filter::Every_Key:
         return true;
     case Key_Filter::Unsigned_Decimal:
-        return Key_Unsigned_Decimal(number, field.Text(), key);
+        return Key_Unsigned_Decimal(numbers, text, key);
     case Key_Filter::Digits_Only:
         return Key_Digits_Only(key);
     case Key_Filter::Signed_Decimal:
-        return Key_Signed_Decimal(number, field.Text(), key);
+        return Key_Signed_Decimal(numbers, text, key);
     }
     return true;
+}
+
+bool Passes_Filter(const Numeric_Text& numbers, const Control& field, char32_t key) {
+    return Passes_Filter(numbers, field.Entry().filter, field.Text(), key);
 }
 
 Selection Select_Field_Text(const Session& session, const Control& field) {
@@ -85,7 +90,7 @@ bool Check_Not_Blank(Session& session, Control& field) {
 
 bool Check_Not_Zero(Session& session, Control& field) {
     const std::string rest = Without_Marks(field.Text());
-    if (rest.empty() || Reads_As_Zero(session.number, rest)) {
+    if (rest.empty() || Reads_As_Zero(session.numbers, rest)) {
         Refuse(session, field, msg_zero);
         return false;
     }

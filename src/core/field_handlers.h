@@ -15,14 +15,20 @@ struct Selection {
     bool operator==(const Selection&) const = default;
 };
 
+/// Whether a text is a number and zero. No error comes of one that is no number.
+[[nodiscard]] bool Reads_As_Zero(const Numeric_Text& numbers, std::string_view text);
+
 /// Whether a field's filter lets a key pass; codes 8 to 13 always do.
-[[nodiscard]] bool Key_Unsigned_Decimal(const Numeric_Text& number, std::string_view text,
+[[nodiscard]] bool Key_Unsigned_Decimal(const Numeric_Text& numbers, std::string_view text,
                                         char32_t key);
 [[nodiscard]] bool Key_Digits_Only(char32_t key);
-[[nodiscard]] bool Key_Signed_Decimal(const Numeric_Text& number, std::string_view text,
+[[nodiscard]] bool Key_Signed_Decimal(const Numeric_Text& numbers, std::string_view text,
                                       char32_t key);
+/// One of the filters on a text that may stand in a field.
+[[nodiscard]] bool Passes_Filter(const Numeric_Text& numbers, Key_Filter filter,
+                                 std::string_view text, char32_t key);
 /// The filter that the field's table line names.
-[[nodiscard]] bool Passes_Filter(const Numeric_Text& number, const Control& field, char32_t key);
+[[nodiscard]] bool Passes_Filter(const Numeric_Text& numbers, const Control& field, char32_t key);
 
 /// What is selected when the focus comes to a field: its whole text where that is the field's
 /// rule and no mouse button brought the focus, else nothing, with the caret behind the text.

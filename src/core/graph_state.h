@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/drawing.h"
+#include "drawing/drawing.h"
 
 #include <array>
 #include <string>
@@ -16,6 +16,9 @@ struct Curve_Point {
 
 inline constexpr int most_curve_points = 15;
 using Series = std::array<double, most_curve_points>;
+
+/// Samples of a curve for each point of its test.
+inline constexpr int samples_per_point = 100;
 
 inline constexpr int usual_axis_labels = 129;
 
@@ -45,10 +48,7 @@ struct Graph_State {
     /// Numbers of the axes from the high end down. They only grow, as more lines are asked for.
     std::vector<std::string> x_label_text = std::vector<std::string>(usual_axis_labels);
     std::vector<std::string> y_label_text = std::vector<std::string>(usual_axis_labels);
-    /// Samples of a curve of each test.
-    int from_sample_count = 0;
-    int to_sample_count = 0;
-    /// Points and colour, 0xRRGGBB, of the last curve that was tried.
+    /// Points of the last curve that was tried, and colour, 0xRRGGBB, of the last that was drawn.
     int curve_point_count = 0;
     int curve_colour = 0;
     /// Pen of the canvas, and what it was before a line by hand took it.
@@ -57,8 +57,8 @@ struct Graph_State {
     int plot_left = 0;
     int plot_right = 599;
     int plot_bottom = 599;
-    /// Lines of the grid: 0 long, 1 dash, 2 dot. It outlives the window.
-    int grid_style = 0;
+    /// Lines of the grid. It outlives the window.
+    Line_Style grid_style = Line_Style::Solid;
     /// What stands on the canvas of `Form60`, hand drawing included.
     Drawing canvas;
     /// The mouse draws on the canvas, from this point on.

@@ -1,17 +1,19 @@
 #include "core/logo_picture.h"
 
-#include "platform/painter.h"
-#include "platform/picture_file.h"
+#include "drawing/painter.h"
+#include "drawing/picture_file.h"
 
 namespace kestrum {
 
 void Take_Logo(Session& session, const std::string& file) {
-    if (!Is_Picture_File(file)) {
+    const auto size = Size_Of_Picture_File(file);
+    if (!size) {
         Fail(error::invalid_picture);
     }
     if (session.painter != nullptr) {
         session.painter->Take_Logo(file);
     }
+    session.logo_size = {.width = double(size->width), .height = double(size->height)};
 }
 
 } // namespace kestrum

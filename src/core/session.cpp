@@ -1,7 +1,10 @@
 #include "core/session.h"
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "core/decimal_switch.h"
+#include "screens/geometry.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kestrum {
@@ -16,6 +19,19 @@ std::string Title_With_Version(std::string_view version) {
 std::vector<std::string> Line_Widths() {
     return {"1",  "2",  "3",  "4",  "5",  "6",  "7",  "8",  "9", "10",
             "12", "14", "16", "18", "20", "25", "30", "35", "40"};
+}
+
+/// Where a screen of a size stands in the middle of a display. A large one reaches over its edges.
+Position Middle_Of(const Display& display, const Twips& size) {
+    return {.left = (display.width * twips_per_pixel - size.width) / 2,
+            .top = (display.height * twips_per_pixel - size.height) / 2};
+}
+
+/// The graph stands in the middle of a display that is wide enough and larger than itself.
+bool Centres_Graph(const Display& display, const Twips& size) {
+    constexpr int least_width = 701;
+    return display.width >= least_width && size.width < display.width * twips_per_pixel &&
+           size.height < display.height * twips_per_pixel;
 }
 
 int Answer_Number(Box_Answer answer) {
@@ -35,10 +51,9 @@ int Answer_Number(Box_Answer answer) {
 } // namespace
 
 Session::Session(Dialogs& its_dialogs, Windows& its_windows, Surroundings its_surroundings)
-    : dialogs(its_dialogs),
-      windows(its_windows),
-      surroundings(std::move(its_surroundings)),
-      title_text(Title_With_Version(surroundings.version)) {}
+    : dialogs(its_dialogs), windows(its_windows), surroundings(std::move(its_surroundings)) {
+    title_text = Title_With_Version(surroundings.version);
+}
 
 Session::~Session() = default;
 
@@ -59,7 +74,7 @@ Flow_Sheet& Session::Sheet(int sheet_number) {
     if (!slot) {
         slot = std::make_unique<Flow_Sheet>(sheet_number);
         Dress(*slot);
-        Dress_Like_The_Others(*slot);
+        Copy_Look_From_Open_Sheet(*slot);
     }
     return *slot;
 }
@@ -78,7 +93,12 @@ Graph_Screen& Session::Form60() {
         form60_ = std::make_unique<Graph_Screen>();
         form60_->caption = title_text + " -- Graph and Annotate";
         form60_->Combo1.Set_Items(Line_Widths());
-        form60_->Show_Logo(logo_on == 1 && !logo_file.empty());
+        form60_->Combo1.Set_Text(numbers.Plain(draw_line_width));
+        form60_->Picture1.Set_Extent({.width = canvas_x_size, .height = canvas_y_size});
+        if (logo_on == 1 && !logo_file.empty()) {
+            form60_->Show_Logo(logo_size.value_or(Extent{}));
+        }
+        Place_On_Display(*form60_);
     }
     return *form60_;
 }
@@ -92,25 +112,25 @@ Report_Screen& Session::Form70() {
     return *form70_;
 }
 
+Screen& Session::The(Screen_Id id) {
+    switch (id.kind) {
+    case Screen_Kind::Engine:
+        return Main();
+    case Screen_Kind::Sheet:
+        return Sheet(id.number);
+    case Screen_Kind::Compare:
+        return Form50();
+    case Screen_Kind::Graph:
+        return Form60();
+    case Screen_Kind::Report:
+        return Form70();
+    }
+    return Main();
+}
+
 Screen* Session::Screen_Named(std::string_view name) {
-    if (name == "Main") {
-        return &Main();
-    }
-    if (name == "Form50") {
-        return &Form50();
-    }
-    if (name == "Form60") {
-        return &Form60();
-    }
-    if (name == "Form70") {
-        return &Form70();
-    }
-    constexpr std::string_view form = "Form";
-    if (name.size() == form.size() + 1 && name.starts_with(form) && name.back() >= '1' &&
-        name.back() <= '5') {
-        return &Sheet(name.back() - '0');
-    }
-    return nullptr;
+    const auto id = Screen_Id_Of(name);
+    return id ? &The(*id) : nullptr;
 }
 
 std::array<Screen*, sheet_count + 4> Session::Slots() const {
@@ -127,13 +147,14 @@ void Session::For_Each_Loaded(const std::function<void(Screen&)>& act) {
     }
 }
 
+bool Session::Is_Loaded(Screen_Id id) const {
+    return std::ranges::any_of(
+        Slots(), [id](const Screen* screen) { return screen != nullptr && screen->Id() == id; });
+}
+
 bool Session::Is_Loaded(std::string_view name) const {
-    for (const Screen* const screen : Slots()) {
-        if (screen != nullptr && screen->Name() == name) {
-            return true;
-        }
-    }
-    return false;
+    const auto id = Screen_Id_Of(name);
+    return id && Is_Loaded(*id);
 }
 
 void Session::Show(Screen& screen) {
@@ -182,31 +203,39 @@ void Session::Message(std::string_view text, Box_Icon icon) {
     Message(Box{.text = std::string(text), .title = {}, .icon = icon});
 }
 
+void Session::Place_On_Display(Screen& screen) const {
+    const Twips size = Place_In_Twips(screen);
+    if (&screen != form60_.get() || Centres_Graph(surroundings.display, size)) {
+        screen.place = Middle_Of(surroundings.display, size);
+    }
+    screen.plain_pointer = plain_pointer;
+}
+
 void Session::Dress(Screen& screen) const {
-    if (number.comma_mode != 0) {
+    Place_On_Display(screen);
+    if (numbers.comma_mode != 0) {
         All_Dots_To_Commas(screen);
     }
 }
 
-/// Closing a sheet's window must not cost the user the fonts chosen for all sheets.
-void Session::Dress_Like_The_Others(Flow_Sheet& sheet) const {
-    const Flow_Sheet* model = nullptr;
+/// Closing a sheet's window must not cost the user the fonts and the alignment chosen for all
+/// sheets. The fonts are kept nowhere but in the sheets.
+void Session::Copy_Look_From_Open_Sheet(Flow_Sheet& sheet) const {
+    const Flow_Sheet* model = &sheet;
     for (const auto& other : sheets_) {
         if (other && other.get() != &sheet) {
             model = other.get();
         }
     }
-    if (model == nullptr) {
-        return;
-    }
     const auto controls = sheet.Controls();
     for (std::size_t at = 0; at < controls.size(); ++at) {
         Look look = controls[at].Present_Look();
         look.font = model->Controls()[at].Present_Look().font;
-        look.alignment = model->Controls()[at].Present_Look().alignment;
+        if (controls[at].Is_Text_Box()) {
+            look.alignment = numbers.align_mode;
+        }
         controls[at].Set_Look(look);
     }
-    sheet.plain_pointer = model->plain_pointer;
 }
 
 } // namespace kestrum

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "base/numeric_text.h"
+#include "core/flow_work.h"
 #include "core/graph_state.h"
-#include "core/numeric_text.h"
+#include "core/print_state.h"
+#include "drawing/picture_file.h"
 #include "platform/dialogs.h"
 #include "platform/surroundings.h"
 #include "screens/compare_screen.h"
@@ -14,6 +17,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +25,7 @@ namespace kestrum {
 
 struct Painter;
 struct Printers;
+struct Screen_Camera;
 
 /// Dimensions of one side's valve seats, in inches and square inches, as the last calculation in
 /// US units left them. One set serves all sheets.
@@ -35,59 +40,24 @@ struct Seat_Geometry {
     Real throat_limit;
 };
 
-/// One run of the program: the screens and the variables that its routines share.
-class Session {
-public:
-    Session(Dialogs& its_dialogs, Windows& its_windows, Surroundings its_surroundings);
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-    ~Session();
-
-    Dialogs& dialogs;
-    Windows& windows;
-    const Surroundings surroundings;
-    /// Null where the face cannot paint or print.
-    Painter* painter = nullptr;
-    Printers* printers = nullptr;
-
-    // Screens. Each is created when it is first asked for, and again after it was unloaded.
-
-    [[nodiscard]] Engine_Screen& Main();
-    /// Sheet 1 to 5. Raises 9 for another number.
-    [[nodiscard]] Flow_Sheet& Sheet(int sheet_number);
-    [[nodiscard]] Compare_Screen& Form50();
-    [[nodiscard]] Graph_Screen& Form60();
-    [[nodiscard]] Report_Screen& Form70();
-    /// A screen by its name, created at need; null for a name that no screen has.
-    [[nodiscard]] Screen* Screen_Named(std::string_view name);
-
-    /// Loaded screens: `Main`, the sheets, `Form50`, `Form60`, `Form70`.
-    void For_Each_Loaded(const std::function<void(Screen&)>& act);
-    [[nodiscard]] bool Is_Loaded(std::string_view name) const;
-
-    void Show(Screen& screen);
-    void Hide(Screen& screen);
-    /// Hides the screen if it shows and destroys it: its texts are gone.
-    void Unload(Screen& screen);
-
-    /// A box that waits for its answer. It also ends a press of the mouse, whose release the box
-    /// swallows.
-    Box_Answer Message(const Box& box);
-    void Message(std::string_view text, Box_Icon icon = Box_Icon::None);
-
-    // Shared variables.
-
-    Numeric_Text number;
+/// The variables that the routines share, the state of the wings included. They can be copied as a
+/// whole, so that a face can keep them and put them back.
+struct Shared_State {
+    Numeric_Text numbers;
     std::string title_text;
     /// Empty: a file routine asks the user. Otherwise the path that it takes.
     std::string file_path;
     int records_read = 0;
     int records_written = 0;
+    /// The text report while its viewer shows it, else empty.
+    std::string work_text;
     /// Number of the last box's answer: OK 1, Cancel 2, Yes 6, No 7.
     int box_answer = 0;
     int intake_valves = 1;
     int exhaust_valves = 1;
     bool mouse_down = false;
+    /// Set by the exit: whether the session file was written.
+    std::optional<bool> exit_saved;
     int full_screen_mode = 0;
     int aspect_free = 0;
     int screen_dpi = 0;
@@ -119,14 +89,68 @@ public:
     int logo_on = 0;
     /// Path of the logo picture, empty when there is none.
     std::string logo_file;
+    /// Of the logo's picture in pixels, nothing when there is none.
+    std::optional<Extent> logo_size;
+    Print_State print;
+    /// "Main" while the engine screen takes the picture of itself.
+    std::string capture_source;
+    /// The mouse shows as the plain arrow, on screens to come as well.
+    bool plain_pointer = false;
 
     Seat_Geometry intake_seat;
     Seat_Geometry exhaust_seat;
+    Flow_Totals flow_totals;
+    Curtain_Areas curtain_areas;
+};
+
+/// One run of the program: the screens and the variables that its routines share.
+class Session : public Shared_State {
+public:
+    Session(Dialogs& its_dialogs, Windows& its_windows, Surroundings its_surroundings);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+    ~Session();
+
+    Dialogs& dialogs;
+    Windows& windows;
+    const Surroundings surroundings;
+    /// Null where the face cannot paint, print or take pictures.
+    Painter* painter = nullptr;
+    Printers* printers = nullptr;
+    Screen_Camera* camera = nullptr;
+
+    // Screens. Each is created when it is first asked for, and again after it was unloaded.
+
+    [[nodiscard]] Engine_Screen& Main();
+    /// Sheet 1 to 5. Raises 9 for another number.
+    [[nodiscard]] Flow_Sheet& Sheet(int sheet_number);
+    [[nodiscard]] Compare_Screen& Form50();
+    [[nodiscard]] Graph_Screen& Form60();
+    [[nodiscard]] Report_Screen& Form70();
+    [[nodiscard]] Screen& The(Screen_Id id);
+    /// A screen by its name, created at need; null for a name that no screen has.
+    [[nodiscard]] Screen* Screen_Named(std::string_view name);
+
+    /// Loaded screens: `Main`, the sheets, `Form50`, `Form60`, `Form70`.
+    void For_Each_Loaded(const std::function<void(Screen&)>& act);
+    [[nodiscard]] bool Is_Loaded(Screen_Id id) const;
+    [[nodiscard]] bool Is_Loaded(std::string_view name) const;
+
+    void Show(Screen& screen);
+    void Hide(Screen& screen);
+    /// Hides the screen if it shows and destroys it: its texts are gone.
+    void Unload(Screen& screen);
+
+    /// A box that waits for its answer. It also ends a press of the mouse, whose release the box
+    /// swallows.
+    Box_Answer Message(const Box& box);
+    void Message(std::string_view text, Box_Icon icon = Box_Icon::None);
 
 private:
-    /// What every new screen gets besides its stored texts.
+    /// What every new screen gets besides its stored texts: its place and the pointer.
+    void Place_On_Display(Screen& screen) const;
     void Dress(Screen& screen) const;
-    void Dress_Like_The_Others(Flow_Sheet& sheet) const;
+    void Copy_Look_From_Open_Sheet(Flow_Sheet& sheet) const;
     [[nodiscard]] std::array<Screen*, sheet_count + 4> Slots() const;
 
     std::unique_ptr<Engine_Screen> main_;

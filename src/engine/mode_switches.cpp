@@ -19,7 +19,7 @@ void Mark(Control& marker, Colour colour) {
     marker.Set_Look(look);
 }
 
-void Give_Role(const Engine_Screen& main, const Mode_Column& column, bool is_input) {
+void Show_As_Input_Or_Result(const Engine_Screen& main, const Mode_Column& column, bool is_input) {
     constexpr int value_row = 3;
     for (int row = 1; row <= value_row; ++row) {
         Look look = column.cells(row).Present_Look();
@@ -40,14 +40,14 @@ void Give_Role(const Engine_Screen& main, const Mode_Column& column, bool is_inp
 
 void Apply_Mach_Mode(Session& session) {
     const Engine_Screen& main = session.Main();
-    Give_Role(main, {main.Text101, main.Label2(0)}, main.Check1.Value() != 0);
+    Show_As_Input_Or_Result(main, {main.Text101, main.Label2(0)}, main.Check1.Value() != 0);
 }
 
 void Apply_Rpm_Mode(Session& session) {
     const Engine_Screen& main = session.Main();
     const bool user_rpm = main.Check3.Value() != 0;
-    Give_Role(main, {main.Text103, main.Label2(2)}, !user_rpm);
-    Give_Role(main, {main.Text109, main.Label2(7)}, user_rpm);
+    Show_As_Input_Or_Result(main, {main.Text103, main.Label2(2)}, !user_rpm);
+    Show_As_Input_Or_Result(main, {main.Text109, main.Label2(7)}, user_rpm);
 }
 
 } // namespace kestrum

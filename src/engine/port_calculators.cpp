@@ -1,6 +1,6 @@
 #include "engine/port_calculators.h"
 
-#include "core/units.h"
+#include "base/units.h"
 
 namespace kestrum {
 
@@ -14,7 +14,7 @@ template <typename Formula>
 void Calculate(Session& session, Control& target, Format format, Formula formula) {
     const Units units = session.Main().Is_Metric() ? Metric_Units() : Us_Units();
     try {
-        target.Set_Text((session.number.*format)(formula(units)));
+        target.Set_Text((session.numbers.*format)(formula(units)));
     } catch (const Run_Time_Error&) {
         // Errors are ignored here: the statement that writes the target is skipped.
         return;
@@ -25,28 +25,28 @@ void Calculate(Session& session, Control& target, Format format, Formula formula
 
 void Calc_Port_Volume(Session& session) {
     const Engine_Screen& main = session.Main();
-    const Numeric_Text& number = session.number;
+    const Numeric_Text& numbers = session.numbers;
     Calculate(session, main.Text102(9), &Numeric_Text::Fmt_Two_Place, [&](const Units& units) {
-        return number(main.Text106(9)) / units.square_inch * cc_in_cubic_inch *
-               (number(main.Text104(9)) / units.inch);
+        return numbers(main.Text106(9)) / units.square_inch * cc_in_cubic_inch *
+               (numbers(main.Text104(9)) / units.inch);
     });
 }
 
 void Calc_Port_Length(Session& session) {
     const Engine_Screen& main = session.Main();
-    const Numeric_Text& number = session.number;
+    const Numeric_Text& numbers = session.numbers;
     Calculate(session, main.Text104(9), &Numeric_Text::Fmt_Three_Place, [&](const Units& units) {
-        return number(main.Text102(9)) / (number(main.Text106(9)) / units.square_inch) /
+        return numbers(main.Text102(9)) / (numbers(main.Text106(9)) / units.square_inch) /
                cc_in_cubic_inch * units.inch;
     });
 }
 
 void Calc_Port_Area(Session& session) {
     const Engine_Screen& main = session.Main();
-    const Numeric_Text& number = session.number;
+    const Numeric_Text& numbers = session.numbers;
     Calculate(session, main.Text106(9), &Numeric_Text::Fmt_Three_Place, [&](const Units& units) {
-        return number(main.Text102(9)) / (number(main.Text104(9)) / units.inch * cc_in_cubic_inch) *
-               units.square_inch;
+        return numbers(main.Text102(9)) /
+               (numbers(main.Text104(9)) / units.inch * cc_in_cubic_inch) * units.square_inch;
     });
 }
 

@@ -1,6 +1,6 @@
 #include "engine/unit_conversion.h"
 
-#include "core/units.h"
+#include "base/units.h"
 
 #include <array>
 
@@ -8,131 +8,61 @@ namespace kestrum {
 
 namespace {
 
-enum class Quantity { Length, Area, Volume, Speed, Flow, Torque, Power, Lift, Flow_Per_Area };
-
-constexpr double lifts_in_inch = 1000; // sheets keep lifts in thousandths of an inch
-
-Real To_Metric(Real value, Quantity quantity) {
-    switch (quantity) {
-    case Quantity::Length:
-        return value * factor::inch;
-    case Quantity::Area:
-        return value * factor::square_inch;
-    case Quantity::Volume:
-        return value / factor::litre;
-    case Quantity::Speed:
-        return value * factor::foot;
-    case Quantity::Flow:
-        return value * factor::cubic_foot;
-    case Quantity::Torque:
-        return value * factor::pound_foot;
-    case Quantity::Power:
-        return value * factor::horsepower;
-    case Quantity::Lift:
-        return value * factor::inch / lifts_in_inch;
-    case Quantity::Flow_Per_Area:
-        return value * factor::square_inch * factor::cubic_foot;
-    }
-    return value;
-}
-
-Real To_Us(Real value, Quantity quantity) {
-    switch (quantity) {
-    case Quantity::Length:
-        return value / factor::inch;
-    case Quantity::Area:
-        return value / factor::square_inch;
-    case Quantity::Volume:
-        return value * factor::litre;
-    case Quantity::Speed:
-        return value / factor::foot;
-    case Quantity::Flow:
-        return value / factor::cubic_foot;
-    case Quantity::Torque:
-        return value / factor::pound_foot;
-    case Quantity::Power:
-        return value / factor::horsepower;
-    case Quantity::Lift:
-        return value / factor::inch * lifts_in_inch;
-    case Quantity::Flow_Per_Area:
-        return value / factor::square_inch / factor::cubic_foot;
-    }
-    return value;
-}
-
-/// How one kind of number is converted and shown. The two formats need not be a pair.
-struct Rule {
-    Quantity quantity;
+/// How a converted number is shown; what it measures stands in the table of its screen. The two
+/// formats need not be a pair.
+struct Formats {
     Format to_metric;
     Format to_us;
 };
 
 using N = Numeric_Text;
-using enum Quantity;
 
 /// A field of `Main`, and the caption that tells its unit where there is one.
 struct Main_Field {
     std::string_view array;
     int row;
-    Rule rule;
+    Formats formats;
     int caption_row = no_index;
     std::string_view us_caption{};
     std::string_view metric_caption{};
 };
 
 constexpr auto main_fields = std::to_array<Main_Field>({
-    {"Text102",
-     3,
-     {Speed, &N::Fmt_Two_Place, &N::Fmt_Whole},
-     2,
-     "Port Vel Ft/Sec",
-     "Port Vel M/Sec"},
-    {"Text103", 3, {Area, &N::Fmt_Three_Place, &N::Fmt_Three_Place}},
-    {"Text104", 3, {Length, &N::Fmt_Two_Place, &N::Fmt_Three_Place}, 2, "Inches", "mm"},
-    {"Text105", 3, {Length, &N::Fmt_Two_Place, &N::Fmt_Three_Place}, 2, "Inches", "mm"},
-    {"Text106", 3, {Area, &N::Fmt_Two_Place, &N::Fmt_Two_Place}},
-    {"Text107", 3, {Volume, &N::Fmt_Three_Place, &N::Fmt_One_Place}, 2, "CID", "LD"},
-    {"Text108", 3, {Volume, &N::Fmt_Three_Place, &N::Fmt_Two_Place}, 2, "CID", "LD"},
-    {"Text102", 8, {Speed, &N::Fmt_Two_Place, &N::Fmt_Whole}, 7, "Ft/Min", "M/Min"},
-    {"Text103", 8, {Flow, &N::Fmt_Up_To_Five, &N::Fmt_Two_Place}, 5, "CFM @", "M^3/Min @"},
-    {"Text104", 8, {Torque, &N::Fmt_Three_Place, &N::Fmt_Whole}, 6, "Torque", "Torque NM"},
-    {"Text107", 8, {Torque, &N::Fmt_Three_Place, &N::Fmt_Three_Place}, 5, "Torque", "Torque NM"},
-    {"Text108", 8, {Torque, &N::Fmt_Three_Place, &N::Fmt_One_Place}, 5, "Torque", "Torque NM"},
+    {"Text102", 3, {&N::Fmt_Two_Place, &N::Fmt_Whole}, 2, "Port Vel Ft/Sec", "Port Vel M/Sec"},
+    {"Text103", 3, {&N::Fmt_Three_Place, &N::Fmt_Three_Place}},
+    {"Text104", 3, {&N::Fmt_Two_Place, &N::Fmt_Three_Place}, 2, "Inches", "mm"},
+    {"Text105", 3, {&N::Fmt_Two_Place, &N::Fmt_Three_Place}, 2, "Inches", "mm"},
+    {"Text106", 3, {&N::Fmt_Two_Place, &N::Fmt_Two_Place}},
+    {"Text107", 3, {&N::Fmt_Three_Place, &N::Fmt_One_Place}, 2, "CID", "LD"},
+    {"Text108", 3, {&N::Fmt_Three_Place, &N::Fmt_Two_Place}, 2, "CID", "LD"},
+    {"Text102", 8, {&N::Fmt_Two_Place, &N::Fmt_Whole}, 7, "Ft/Min", "M/Min"},
+    {"Text103", 8, {&N::Fmt_Up_To_Five, &N::Fmt_Two_Place}, 5, "CFM @", "M^3/Min @"},
+    {"Text104", 8, {&N::Fmt_Three_Place, &N::Fmt_Whole}, 6, "Torque", "Torque NM"},
+    {"Text107", 8, {&N::Fmt_Three_Place, &N::Fmt_Three_Place}, 5, "Torque", "Torque NM"},
+    {"Text108", 8, {&N::Fmt_Three_Place, &N::Fmt_One_Place}, 5, "Torque", "Torque NM"},
     // The limits show one decimal here, though the calculation writes them whole.
-    {"Text105",
-     8,
-     {Power, &N::Fmt_One_Place, &N::Fmt_One_Place},
-     7,
-     "HP limitation",
-     "KW limitation"},
-    {"Text106",
-     8,
-     {Power, &N::Fmt_One_Place, &N::Fmt_One_Place},
-     7,
-     "HP limitation",
-     "KW limitation"},
-    {"Text109", 8, {Power, &N::Fmt_Three_Place, &N::Fmt_Three_Place}, 5, "HP", "KW"},
-    {"Text110", 8, {Power, &N::Fmt_Three_Place, &N::Fmt_Three_Place}, 5, "HP", "KW"},
-    {"Text104", 9, {Length, &N::Fmt_Three_Place, &N::Fmt_Three_Place}},
-    {"Text106", 9, {Area, &N::Fmt_Three_Place, &N::Fmt_Three_Place}},
+    {"Text105", 8, {&N::Fmt_One_Place, &N::Fmt_One_Place}, 7, "HP limitation", "KW limitation"},
+    {"Text106", 8, {&N::Fmt_One_Place, &N::Fmt_One_Place}, 7, "HP limitation", "KW limitation"},
+    {"Text109", 8, {&N::Fmt_Three_Place, &N::Fmt_Three_Place}, 5, "HP", "KW"},
+    {"Text110", 8, {&N::Fmt_Three_Place, &N::Fmt_Three_Place}, 5, "HP", "KW"},
+    {"Text104", 9, {&N::Fmt_Three_Place, &N::Fmt_Three_Place}},
+    {"Text106", 9, {&N::Fmt_Three_Place, &N::Fmt_Three_Place}},
 });
 
-constexpr Rule dimension{Length, &N::Fmt_Three_Place, &N::Fmt_Three_Place};
-constexpr Rule area{Area, &N::Fmt_Three_Place, &N::Fmt_Three_Place};
-constexpr Rule throat_area{Area, &N::Fmt_Two_Place, &N::Fmt_Two_Place};
-constexpr Rule corner_loss{Area, &N::Fmt_Up_To_Six, &N::Fmt_Up_To_Six};
-constexpr Rule fine_dimension{Length, &N::Fmt_Four_Place, &N::Fmt_Four_Place};
-constexpr Rule quarter_diameter{Lift, &N::Fmt_Two_Place, &N::Fmt_Whole};
-constexpr Rule lift{Lift, &N::Fmt_Three_Place, &N::Fmt_Whole};
-constexpr Rule effective_lift{Lift, &N::Fmt_Four_Place, &N::Fmt_Whole};
-constexpr Rule flow{Flow, &N::Fmt_Four_Place, &N::Fmt_Two_Place};
-constexpr Rule flow_per_area{Flow_Per_Area, &N::Fmt_Two_Place, &N::Fmt_Two_Place};
-constexpr Rule velocity{Speed, &N::Fmt_One_Place, &N::Fmt_One_Place};
+constexpr Formats three_places{&N::Fmt_Three_Place, &N::Fmt_Three_Place};
+constexpr Formats two_places{&N::Fmt_Two_Place, &N::Fmt_Two_Place};
+constexpr Formats one_place{&N::Fmt_One_Place, &N::Fmt_One_Place};
+constexpr Formats four_places{&N::Fmt_Four_Place, &N::Fmt_Four_Place};
+constexpr Formats up_to_six{&N::Fmt_Up_To_Six, &N::Fmt_Up_To_Six};
+constexpr Formats quarter_diameter{&N::Fmt_Two_Place, &N::Fmt_Whole};
+constexpr Formats lift{&N::Fmt_Three_Place, &N::Fmt_Whole};
+constexpr Formats effective_lift{&N::Fmt_Four_Place, &N::Fmt_Whole};
+constexpr Formats flow{&N::Fmt_Four_Place, &N::Fmt_Two_Place};
 
 struct Sheet_Field {
     std::string_view array;
     int row;
-    Rule rule;
+    Formats formats;
     /// Converted only when it holds a text.
     bool may_be_empty = false;
     /// Row of the column whose number is written when going to US units; its own if none.
@@ -140,47 +70,47 @@ struct Sheet_Field {
 };
 
 constexpr auto header_fields = std::to_array<Sheet_Field>({
-    {"Text102", 3, dimension},
-    {"Text104", 3, dimension},
-    {"Text102", 4, dimension},
-    {"Text104", 4, dimension},
-    {"Text102", 8, dimension},
-    {"Text104", 8, dimension},
-    {"Text104", 0, dimension},
-    {"Text106", 1, dimension},
-    {"Text106", 0, dimension},
-    {"Text106", 2, dimension},
-    {"Text106", 3, dimension},
-    {"Text108", 1, dimension},
-    {"Text108", 0, dimension},
-    {"Text108", 2, dimension},
-    {"Text108", 3, dimension},
-    {"Text102", 2, area},
-    {"Text104", 2, area},
-    {"Text102", 5, area},
-    {"Text104", 5, area},
-    {"Text102", 6, dimension},
-    {"Text104", 6, dimension},
-    {"Text102", 7, throat_area},
-    {"Text104", 7, throat_area},
+    {"Text102", 3, three_places},
+    {"Text104", 3, three_places},
+    {"Text102", 4, three_places},
+    {"Text104", 4, three_places},
+    {"Text102", 8, three_places},
+    {"Text104", 8, three_places},
+    {"Text104", 0, three_places},
+    {"Text106", 1, three_places},
+    {"Text106", 0, three_places},
+    {"Text106", 2, three_places},
+    {"Text106", 3, three_places},
+    {"Text108", 1, three_places},
+    {"Text108", 0, three_places},
+    {"Text108", 2, three_places},
+    {"Text108", 3, three_places},
+    {"Text102", 2, three_places},
+    {"Text104", 2, three_places},
+    {"Text102", 5, three_places},
+    {"Text104", 5, three_places},
+    {"Text102", 6, three_places},
+    {"Text104", 6, three_places},
+    {"Text102", 7, two_places},
+    {"Text104", 7, two_places},
     {"Text102", 9, quarter_diameter},
     {"Text103", 9, quarter_diameter},
-    {"Text111", 2, corner_loss, true},
-    {"Text112", 2, corner_loss, true},
+    {"Text111", 2, up_to_six, true},
+    {"Text112", 2, up_to_six, true},
     // Wanted: back in US units the exhaust's loss is written from the intake's, as it reads by
     // then; the next calculation repairs it.
-    {"Text111", 3, corner_loss, true, 2},
-    {"Text112", 3, corner_loss, true},
-    {"Text110", 2, area},
-    {"Text110", 3, area},
-    {"Text202", 5, fine_dimension},
-    {"Text204", 5, fine_dimension},
+    {"Text111", 3, up_to_six, true, 2},
+    {"Text112", 3, up_to_six, true},
+    {"Text110", 2, three_places},
+    {"Text110", 3, three_places},
+    {"Text202", 5, four_places},
+    {"Text204", 5, four_places},
 });
 
 /// Converted when the rows are done.
 constexpr auto late_fields = std::to_array<Sheet_Field>({
     {"Text110", 6, lift},
-    {"Text112", 6, fine_dimension},
+    {"Text112", 6, four_places},
 });
 
 struct Sheet_Caption {
@@ -209,7 +139,7 @@ constexpr auto sheet_captions = std::to_array<Sheet_Caption>({
 
 struct Lift_Column {
     std::string_view array;
-    Rule rule;
+    Formats formats;
 };
 
 constexpr auto lift_columns = std::to_array<Lift_Column>({
@@ -221,26 +151,26 @@ constexpr auto lift_columns = std::to_array<Lift_Column>({
     {"Text106", flow},
     {"Text107", flow},
     {"Text108", lift},
-    {"Text109", flow_per_area},
-    {"Text110", flow_per_area},
-    {"Text114", velocity},
-    {"Text115", velocity},
-    {"Text201", area},
-    {"Text202", area},
-    {"Text203", velocity},
-    {"Text204", velocity},
+    {"Text109", two_places},
+    {"Text110", two_places},
+    {"Text114", one_place},
+    {"Text115", one_place},
+    {"Text201", three_places},
+    {"Text202", three_places},
+    {"Text203", one_place},
+    {"Text204", one_place},
 });
 
 /// One walk over the tables, in either direction.
 class Converter {
 public:
-    Converter(const Numeric_Text& number, bool to_metric)
-        : number_(number), to_metric_(to_metric) {}
+    Converter(const Numeric_Text& numbers, bool to_metric)
+        : numbers_(numbers), to_metric_(to_metric) {}
 
     void Convert_Main(Engine_Screen& main) const {
         for (const Main_Field& entry : main_fields) {
             const Control_Array& column = main.Array(entry.array);
-            Convert(column(entry.row), column(entry.row), entry.rule);
+            Convert(column(entry.row), column(entry.row), entry.formats);
             if (entry.caption_row != no_index) {
                 column(entry.caption_row)
                     .Set_Text(to_metric_ ? entry.metric_caption : entry.us_caption);
@@ -262,10 +192,11 @@ public:
     }
 
 private:
-    void Convert(const Control& source, Control& target, const Rule& rule) const {
-        const Real value = number_(source);
-        target.Set_Text(to_metric_ ? (number_.*rule.to_metric)(To_Metric(value, rule.quantity))
-                                   : (number_.*rule.to_us)(To_Us(value, rule.quantity)));
+    void Convert(const Control& source, Control& target, const Formats& formats) const {
+        const Real value = numbers_(source);
+        const Quantity quantity = target.Entry().quantity;
+        target.Set_Text(to_metric_ ? (numbers_.*formats.to_metric)(To_Metric(value, quantity))
+                                   : (numbers_.*formats.to_us)(To_Us(value, quantity)));
     }
 
     void Convert_Field(Flow_Sheet& sheet, const Sheet_Field& entry) const {
@@ -275,7 +206,7 @@ private:
             return;
         }
         const bool other_source = !to_metric_ && entry.us_source_row != no_index;
-        Convert(other_source ? column(entry.us_source_row) : field, field, entry.rule);
+        Convert(other_source ? column(entry.us_source_row) : field, field, entry.formats);
     }
 
     void Convert_Rows(Flow_Sheet& sheet) const {
@@ -286,12 +217,12 @@ private:
         for (int row = zero_lift_row; row <= last_lift_row; ++row) {
             for (std::size_t at = 0; at < columns.size(); ++at) {
                 Control& field = (*columns[at])(row);
-                Convert(field, field, lift_columns[at].rule);
+                Convert(field, field, lift_columns[at].formats);
             }
         }
     }
 
-    const Numeric_Text& number_;
+    const Numeric_Text& numbers_;
     bool to_metric_;
 };
 
@@ -305,7 +236,7 @@ void Set_Metric(Session& session, bool metric) {
 }
 
 void Convert_Units(Session& session) {
-    const Converter converter(session.number, session.Main().Is_Metric());
+    const Converter converter(session.numbers, session.Main().Is_Metric());
     for (int number = 1; number <= sheet_count; ++number) {
         static_cast<void>(session.Sheet(number)); // created before the first text changes
     }

@@ -1,10 +1,10 @@
 #include "files/flow_data_file.h"
 
-#include "core/chosen_file.h"
-#include "core/text.h"
-#include "files/named_files.h"
-#include "files/record_reading.h"
+#include "base/text.h"
+#include "core/decimal_switch.h"
 #include "platform/file_store.h"
+#include "records/named_files.h"
+#include "records/record_reading.h"
 #include "sheet/flow_calculation.h"
 
 #include <algorithm>
@@ -70,7 +70,7 @@ constexpr std::array columns{
 class Flow_Writer {
 public:
     Flow_Writer(Session& session, const Flow_Sheet& sheet)
-        : number_(session.number), sheet_(sheet), records_(session.records_written) {}
+        : numbers_(session.numbers), sheet_(sheet), records_(session.records_written) {}
 
     void Header(const Key_Column& column) {
         for (const int row : column.header_rows) {
@@ -90,11 +90,11 @@ public:
 
 private:
     void Cell(const Key_Column& column, int row) {
-        records_.Write_Line(std::string(column.array) + "_" + number_.Fmt_Whole(row),
+        records_.Write_Line(std::string(column.array) + "_" + numbers_.Fmt_Whole(row),
                             sheet_.Array(column.array)(row).Text());
     }
 
-    const Numeric_Text& number_;
+    const Numeric_Text& numbers_;
     const Flow_Sheet& sheet_;
     Record_Writer records_;
 };
@@ -111,7 +111,7 @@ void Clear_Last_Rows(Flow_Sheet& sheet) {
 }
 
 /// Puts a record of a known key and row into its field; false when it is neither.
-bool Put_Record(const Numeric_Text& number, Flow_Sheet& sheet, const Record& record) {
+bool Put_Record(const Numeric_Text& numbers, Flow_Sheet& sheet, const Record& record) {
     constexpr std::size_t key_length = 8;
     const std::string_view key = record.Key(key_length);
     const auto* const column = std::ranges::find_if(columns, [&](const Key_Column& candidate) {
@@ -121,11 +121,12 @@ bool Put_Record(const Numeric_Text& number, Flow_Sheet& sheet, const Record& rec
     if (column == columns.end()) {
         return false;
     }
-    const int row = number.Read_Integer(record.Row_Text());
+    const int row = numbers.Read_Integer(record.Row_Text());
     if (!column->Accepts(row)) {
         return false;
     }
-    const std::string_view value = column->keeps_case ? record.Value() : record.Lower_Value();
+    const std::string value =
+        column->keeps_case ? std::string(record.Value()) : record.Lower_Value();
     sheet.Array(column->array)(row).Set_Text(value);
     if (column->array == lifts.array) {
         sheet.Text108(row).Set_Text(value);
@@ -135,7 +136,7 @@ bool Put_Record(const Numeric_Text& number, Flow_Sheet& sheet, const Record& rec
 
 void Report_Bad_Record(Session& session, std::string_view line) {
     session.Message({.text = "Invalid Input Record # - " +
-                             session.number.Fmt_Thousands(session.records_read) + "   Data --> " +
+                             session.numbers.Fmt_Thousands(session.records_read) + "   Data --> " +
                              std::string(line),
                      .title = {},
                      .buttons = Box_Buttons::Ok_Cancel});
@@ -170,7 +171,7 @@ void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
         session.Message("Flow Data File has NOT been Saved", Box_Icon::Exclamation);
         return;
     }
-    session.Message(session.number.Fmt_Thousands(session.records_written) + " Records Written");
+    session.Message(session.numbers.Fmt_Thousands(session.records_written) + " Records Written");
     sheet.Text39.Set_Text(session.file_path);
 }
 
@@ -183,7 +184,7 @@ void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) 
         return;
     }
     if (Read_Flow_Records(session, sheet, bytes) && name.empty()) {
-        session.Message(session.number.Fmt_Thousands(session.records_read) + " Records Read");
+        session.Message(session.numbers.Fmt_Thousands(session.records_read) + " Records Read");
     }
     // Behind the decimal switch, which would make ".dat" ",dat".
     sheet.Text39.Set_Text(session.file_path);
@@ -193,14 +194,14 @@ bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view byt
     const std::string content = Decoded(bytes);
     Line_Reader lines(content);
     const auto put = [&](const Record& record) {
-        return Put_Record(session.number, sheet, record);
+        return Put_Record(session.numbers, sheet, record);
     };
     try {
         Clear_Last_Rows(sheet);
         if (!Read_Records(session, lines, sheet.Text38, reading_words, put)) {
             return false;
         }
-        Apply_Decimal_Mode(session.number, sheet);
+        Apply_Decimal_Mode(session.numbers, sheet);
         Calc_Flow_Test(session, sheet);
     } catch (const Run_Time_Error&) {
         Report_Bad_Record(session, lines.Line());
@@ -213,11 +214,11 @@ void Restore_Flow_Inputs(Session& session, Flow_Sheet& sheet, std::string_view b
                          bool same_separator) {
     const Own_File_State own(session);
     const auto put = [&](const Record& record) {
-        return Put_Record(session.number, sheet, record);
+        return Put_Record(session.numbers, sheet, record);
     };
     Restore_Records(session, bytes, sheet.Text38, put);
     if (!same_separator) {
-        Apply_Decimal_Mode(session.number, sheet);
+        Apply_Decimal_Mode(session.numbers, sheet);
     }
 }
 

@@ -13,7 +13,7 @@ namespace kestrum {
 /// Saves a sheet under the name that the user chooses, and tells how it went.
 void Save_Flow_File(Session& session, Flow_Sheet& sheet);
 
-/// Loads a sheet. An empty name asks the user; a name without a folder lies in the program's own.
+/// Loads a sheet. An empty name asks the user; any other is meant in the program's folder.
 void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name);
 
 /// Reads a file's bytes into a sheet and calculates it, with all its boxes but the closing count.

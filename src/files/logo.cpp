@@ -1,18 +1,20 @@
 #include "files/logo.h"
 
 #include "core/logo_picture.h"
+#include "records/named_files.h"
 
 namespace kestrum {
 
 void Show_Logo(Session& session) {
     if (session.logo_on == 0 || session.logo_file.empty()) {
-        return;
+        return session.Form60().Hide_Logo();
     }
     try {
-        Take_Logo(session, session.logo_file);
-        session.Form60().Show_Logo(true);
+        Take_Logo(session, Path_Of_Named_File(session, session.logo_file));
+        session.Form60().Show_Logo(session.logo_size.value_or(Extent{}));
     } catch (const Run_Time_Error&) {
         session.logo_on = 0;
+        session.Form60().Hide_Logo();
         session.Message("No Logo File has been Seleted");
     }
 }

@@ -1,12 +1,12 @@
 #include "files/main_data_file.h"
 
-#include "core/chosen_file.h"
-#include "core/text.h"
+#include "base/text.h"
+#include "core/decimal_switch.h"
 #include "engine/engine_calculation.h"
 #include "files/main_records.h"
-#include "files/named_files.h"
-#include "files/record_reading.h"
 #include "platform/file_store.h"
+#include "records/named_files.h"
+#include "records/record_reading.h"
 
 namespace kestrum {
 
@@ -20,10 +20,10 @@ constexpr Reading_Words reading_words{
                "us!"};
 
 void Report_Bad_Record(Session& session, const Run_Time_Error& failure, std::string_view line) {
-    const Numeric_Text& number = session.number;
-    session.Message(Box{.text = "Error Number " + number.Fmt_Whole(failure.Number()) + " -- " +
+    const Numeric_Text& numbers = session.numbers;
+    session.Message(Box{.text = "Error Number " + numbers.Fmt_Whole(failure.Number()) + " -- " +
                                 failure.Description() + "Invalid Input Record # - " +
-                                number.Fmt_Thousands(session.records_read) + "   Data --> " +
+                                numbers.Fmt_Thousands(session.records_read) + "   Data --> " +
                                 std::string(line),
                         .title = {},
                         .buttons = Box_Buttons::Ok_Cancel});
@@ -40,15 +40,17 @@ std::string Main_File_Text(Session& session) {
     return writer.Text();
 }
 
-void Save_Main_File(Session& session) {
+bool Save_Main_File(Session& session) {
     try {
         if (session.file_path.empty()) {
             session.file_path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
         }
         Calc_Engine(session);
         Write_Whole_File(session.file_path, Main_File_Text(session));
+        return true;
     } catch (const Run_Time_Error&) {
         session.Message("MAIN Data File has NOT been Saved");
+        return false;
     }
 }
 
@@ -72,7 +74,7 @@ bool Read_Main_Records(Session& session, std::string_view bytes) {
         if (!Read_Records(session, lines, main.Text38, reading_words, put)) {
             return false;
         }
-        Apply_Decimal_Mode(session.number, main);
+        Apply_Decimal_Mode(session.numbers, main);
         Calc_Engine(session);
     } catch (const Run_Time_Error& failure) {
         Report_Bad_Record(session, failure, lines.Line());
@@ -89,7 +91,7 @@ void Restore_Main_Inputs(Session& session, std::string_view bytes, bool same_sep
     };
     Restore_Records(session, bytes, main.Text38, put);
     if (!same_separator) {
-        Apply_Decimal_Mode(session.number, main);
+        Apply_Decimal_Mode(session.numbers, main);
     }
 }
 

@@ -11,8 +11,8 @@ namespace kestrum {
 [[nodiscard]] std::string Main_File_Text(Session& session);
 
 /// Calculates the engine and saves `Main` under the session's `file_path`; an empty one asks the
-/// user. A failure is told in a box, and the old file stays whole.
-void Save_Main_File(Session& session);
+/// user. A failure is told in a box, and the old file stays whole. Gives whether it was saved.
+bool Save_Main_File(Session& session);
 
 /// Loads `Main`, and the flow tests that the file names. An empty name asks the user. Gives whether
 /// the file was read to its end and the engine calculated.

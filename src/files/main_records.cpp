@@ -1,14 +1,16 @@
 #include "files/main_records.h"
 
-#include "core/text.h"
+#include "base/text.h"
+#include "core/settings.h"
 #include "engine/mode_switches.h"
 #include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
 #include "files/logo.h"
-#include "files/record_reading.h"
+#include "records/record_reading.h"
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <span>
 
 namespace kestrum {
@@ -50,7 +52,7 @@ constexpr std::array company_keys{
 /// The four check boxes of `Form50` with the shared variables that follow them.
 struct Compare_Switch {
     Control& (*box)(const Compare_Screen& compare);
-    int Session::*variable;
+    int Shared_State::*variable;
 };
 
 constexpr std::array compare_switches{
@@ -87,7 +89,7 @@ bool Put_Field(Session& session, const Record& record) {
     if (found == field_keys.end()) {
         return false;
     }
-    const int row = session.number.Read_Integer(record.Row_Text());
+    const int row = session.numbers.Read_Integer(record.Row_Text());
     if (std::ranges::find(found->rows, row) == found->rows.end()) {
         return false;
     }
@@ -135,7 +137,7 @@ bool Put_Option(Session& session, const Record& record) {
     if (!Begins(record, key)) {
         return false;
     }
-    const int chosen = session.number.Read_Integer(Middle(record.Line(), key.size() + 1));
+    const int chosen = session.numbers.Read_Integer(Middle(record.Line(), key.size() + 1));
     const Control_Array& options = session.Main().Option4;
     static_cast<void>(options(chosen)); // raises before any option changes
     for (int index = 0; index < options.Size(); ++index) {
@@ -154,24 +156,32 @@ bool Put_Company(Session& session, const Record& record) {
     return false;
 }
 
-/// A place written in either decimal mode.
-Real Place_Value(Session& session, const Record& record) {
-    return session.number.Read(session.number.Text_To_Number_String(record.Value()));
+/// A place written in either decimal mode, of single precision's range.
+double Place_Value(Session& session, const Record& record) {
+    constexpr auto most = static_cast<double>(std::numeric_limits<float>::max());
+    const Real value = session.numbers.Read_Either_Mark(record.Value());
+    if (value > most || value < -most) {
+        Fail(error::overflow);
+    }
+    return value.Value();
 }
 
 bool Put_Logo(Session& session, const Record& record) {
     Control& picture = session.Form60().Picture2;
     Position position = picture.Moved_To();
     if (Begins(record, "logo_sw")) {
-        session.logo_on = session.number.Read_Integer(record.Value());
+        session.logo_on = Switch_Of(session.numbers.Read_Integer(record.Value()));
+        if (session.logo_on == 0) {
+            Show_Logo(session);
+        }
     } else if (Begins(record, "logo_name")) {
         session.logo_file = record.Value();
         Show_Logo(session);
     } else if (Begins(record, "logo_top")) {
-        position.top = Place_Value(session, record).Value();
+        position.top = Place_Value(session, record);
         picture.Move_To(position);
     } else if (Begins(record, "logo_left")) {
-        position.left = Place_Value(session, record).Value();
+        position.left = Place_Value(session, record);
         picture.Move_To(position);
     } else {
         return false;
@@ -193,11 +203,12 @@ bool Put_Compare_Switch(Session& session, const Record& record) {
 
 bool Put_Grid(Session& session, const Record& record) {
     if (Begins(record, "grid_sw")) {
-        session.grid_on = session.number.Read_Integer(record.Value());
+        session.grid_on = Switch_Of(session.numbers.Read_Integer(record.Value()));
     } else if (Begins(record, "grid_color")) {
-        session.grid_colour = session.number.Read_Long(record.Value());
+        session.grid_colour = Colour_Of(session.numbers.Read_Long(record.Value()));
     } else if (Begins(record, "grid_drawstyle")) {
-        session.graph.grid_style = session.number.Read_Integer(record.Value());
+        session.graph.grid_style =
+            Choice_Of(session.numbers.Read_Integer(record.Value()), Line_Style::Dot);
     } else {
         return false;
     }
@@ -205,19 +216,19 @@ bool Put_Grid(Session& session, const Record& record) {
 }
 
 void Write_Look(Session& session, Record_Writer& writer) {
-    const Numeric_Text& number = session.number;
+    const Numeric_Text& numbers = session.numbers;
     const Position logo = session.Form60().Picture2.Moved_To();
-    writer.Write_Line("Logo_SW", number.Plain(session.logo_on));
+    writer.Write_Line("Logo_SW", numbers.Plain(session.logo_on));
     writer.Write_Line("Logo_Name", session.logo_file);
-    writer.Write_Line("Logo_Top", number.Plain(logo.top));
-    writer.Write_Line("Logo_Left", number.Plain(logo.left));
+    writer.Write_Line("Logo_Top", numbers.Plain(logo.top));
+    writer.Write_Line("Logo_Left", numbers.Plain(logo.left));
     for (std::size_t at = 0; at < compare_switches.size(); ++at) {
-        writer.Write_Line("Form50Check" + number.Fmt_Whole(static_cast<int>(at) + 1),
+        writer.Write_Line("Form50Check" + numbers.Fmt_Whole(static_cast<int>(at) + 1),
                           Yes_Or_No(session.*compare_switches[at].variable));
     }
-    writer.Write_Line("Grid_SW", number.Plain(session.grid_on));
-    writer.Write_Line("Grid_Color", number.Plain(session.grid_colour));
-    writer.Write_Line("Grid_DrawStyle", number.Plain(session.graph.grid_style));
+    writer.Write_Line("Grid_SW", numbers.Plain(session.grid_on));
+    writer.Write_Line("Grid_Color", numbers.Plain(session.grid_colour));
+    writer.Write_Line("Grid_DrawStyle", numbers.Plain(static_cast<int>(session.graph.grid_style)));
 }
 
 void Write_Fields(Session& session, Record_Writer& writer) {
@@ -225,7 +236,7 @@ void Write_Fields(Session& session, Record_Writer& writer) {
         for (std::size_t at = 0; at < entry.rows.size(); ++at) {
             const int row = entry.rows.at(at);
             if (at == 0 || row != entry.rows.front()) {
-                writer.Write_Line(std::string(entry.array) + "_" + session.number.Fmt_Whole(row),
+                writer.Write_Line(std::string(entry.array) + "_" + session.numbers.Fmt_Whole(row),
                                   session.Main().Array(entry.array)(row).Text());
             }
         }
@@ -236,17 +247,17 @@ void Write_Fields(Session& session, Record_Writer& writer) {
 
 void Write_Main_Records(Session& session, Record_Writer& writer) {
     const Engine_Screen& main = session.Main();
-    const Numeric_Text& number = session.number;
+    const Numeric_Text& numbers = session.numbers;
     // The boxes before the fields: a reader converts what its fields hold and then fills them.
     writer.Write_Line("Check1", Yes_Or_No(main.Check1.Value()));
     writer.Write_Line("Check2", Yes_Or_No(main.Check2.Value()));
     writer.Write_Line("Check3", Yes_Or_No(main.Check3.Value()));
     for (int index = 0; index < main.Text1.Size(); ++index) {
-        writer.Write_Line("Flow" + number.Fmt_Whole(index + 1), main.Text1(index).Text());
+        writer.Write_Line("Flow" + numbers.Fmt_Whole(index + 1), main.Text1(index).Text());
     }
     for (int index = 0; index < main.Option4.Size(); ++index) {
         if (main.Option4(index).Value() != 0) {
-            writer.Write_Line("Option4", number.Fmt_Whole(index));
+            writer.Write_Line("Option4", numbers.Fmt_Whole(index));
         }
     }
     for (const Company_Key& entry : company_keys) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/session.h"
-#include "files/records.h"
+#include "records/records.h"
 
 namespace kestrum {
 

@@ -1,9 +1,9 @@
 #include "files/preloads.h"
 
-#include "core/chosen_file.h"
-#include "core/text.h"
+#include "base/text.h"
 #include "files/flow_data_file.h"
 #include "platform/file_store.h"
+#include "records/named_files.h"
 
 namespace kestrum {
 

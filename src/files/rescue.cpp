@@ -1,208 +1,261 @@
 #include "files/rescue.h"
 
-#include "core/text.h"
+#include "base/text.h"
 #include "engine/engine_calculation.h"
 #include "files/flow_data_file.h"
 #include "files/main_data_file.h"
+#include "platform/file_moves.h"
 #include "platform/file_store.h"
-#include "sheet/flow_calculation.h"
 
-#include <array>
+#include <algorithm>
+#include <utility>
 
 namespace kestrum {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> kept_screens{"Main",  "Form1", "Form2",
-                                                       "Form3", "Form4", "Form5"};
-constexpr std::string_view lock_name = "in-use";
-/// Holds the decimal separator that the copies are written with.
-constexpr std::string_view point_name = "point";
-
-/// Runs what may fail without a word.
-template <typename Action>
-bool Quietly(Action action) {
-    try {
-        action();
-        return true;
-    } catch (const Run_Time_Error&) {
-        return false;
-    }
-}
-
-std::string Content_If_Any(const std::string& path) {
-    std::string content;
-    Quietly([&] { content = Read_Whole_File(path); });
-    return content;
-}
-
-/// "Form3" as the user knows it, with the part number of the test.
-std::string Words_For(const std::string& screen, const std::string& content) {
-    if (screen == "Main") {
-        return "Main";
-    }
-    constexpr std::string_view key = "Text102_0 = ";
-    const std::size_t at = content.find(key);
-    const std::size_t begin = at + key.size();
-    const std::string part = at == std::string::npos
-                                 ? std::string()
-                                 : content.substr(begin, content.find('\r', begin) - begin);
-    return "Flow Test " + screen.substr(screen.size() - 1) + " (" + part + ")";
+Screen_Id Screen_At(std::size_t index) {
+    return Rescue_Folder::kept_screens[index];
 }
 
 } // namespace
 
-Rescue::Rescue(Session& session) : session_(session) {
-    const std::string& home = session.surroundings.folder;
-    constexpr int most_programs = 9;
-    for (int number = 1; number <= most_programs && folder_.empty(); ++number) {
-        std::string name = "rescue";
-        if (number > 1) {
-            name += "-" + session.number.Fmt_Whole(number);
-        }
-        const std::string folder = Join_Path(home, name);
-        if (Make_Folder(folder) && lock_.Take(Join_Path(folder, lock_name))) {
-            folder_ = folder;
-        }
+Rescue::Rescue(Session& session) : session_(session), folder_(Free_Folder(true)) {
+    Note();
+    for (Kept_Screen& screen : screens_) {
+        screen.handed = screen.noted;
     }
 }
 
-std::string Rescue::Path_Of(const std::string& screen) const {
-    return Join_Path(folder_, screen + (screen == "Main" ? ".dta" : ".dat"));
+Rescue::~Rescue() {
+    constexpr std::chrono::seconds long_enough{60};
+    Flush(long_enough);
 }
 
-std::vector<Rescue::Found_Copy> Rescue::Found() const {
-    std::vector<Found_Copy> copies;
-    for (const std::string_view name : kept_screens) {
-        const std::string screen(name);
-        if (!folder_.empty() && Can_Be_Read(Path_Of(screen))) {
-            copies.push_back({screen, Path_Of(screen)});
+std::unique_ptr<Rescue_Folder> Rescue::Free_Folder(bool with_old_copies) const {
+    for (int number = 1; number <= Rescue_Folder::most_programs; ++number) {
+        auto folder = std::make_unique<Rescue_Folder>(session_.surroundings.folder, number);
+        if (folder->Take() && (with_old_copies || folder->Is_Free_Of_Copies())) {
+            return folder;
         }
     }
-    return copies;
+    return nullptr;
 }
 
-std::string Rescue::Inputs_Of(Screen& screen) {
+Rescue_Folders Rescue::Left_Folders() const {
+    Rescue_Folders folders;
+    for (int number = 1; number <= Rescue_Folder::most_programs; ++number) {
+        auto folder = std::make_unique<Rescue_Folder>(session_.surroundings.folder, number);
+        const bool is_own = folder_ && folder->Path() == folder_->Path();
+        if (!is_own && File_Exists(folder->Path()) && folder->Take()) {
+            folders.push_back(std::move(folder));
+        }
+    }
+    return folders;
+}
+
+void Rescue::Offer() {
+    if (!folder_) {
+        session_.Message("No rescue copies can be kept: nine programs that run in this folder keep "
+                         "theirs already, or it cannot be written. Save your work yourself.",
+                         Box_Icon::Exclamation);
+        return;
+    }
+    left_folders_ = Left_Folders();
+    std::vector<const Rescue_Folder*> folders{folder_.get()};
+    for (const auto& folder : left_folders_) {
+        folders.push_back(folder.get());
+    }
+    const std::vector<Left_Copy> copies = Left_Copies(folders);
+    if (!copies.empty()) {
+        for (const Left_Copy& copy : Offer_Copies(session_, copies)) {
+            if (copy.folder != folder_.get()) {
+                loaded_copies_.push_back(copy.path);
+            }
+        }
+        Note();
+    }
+    Write();
+}
+
+std::optional<std::string> Rescue::Inputs_Of(Screen& screen) {
     const int written = session_.records_written;
-    std::string inputs;
-    Quietly([&] {
-        inputs = screen.Name() == "Main"
+    std::optional<std::string> inputs;
+    try {
+        inputs = screen.Kind() == Screen_Kind::Engine
                      ? Main_File_Text(session_)
-                     : Flow_File_Text(session_, static_cast<Flow_Sheet&>(screen));
-    });
+                     : Flow_File_Text(session_, session_.Sheet(screen.Id().number));
+    } catch (const Run_Time_Error&) {
+        inputs.reset(); // the last good copy is better than none
+    }
     session_.records_written = written;
     return inputs;
 }
 
-void Rescue::Note_Present_Inputs() {
-    for (const std::string_view name : kept_screens) {
-        if (session_.Is_Loaded(name)) {
-            safe_inputs_.insert_or_assign(std::string(name),
-                                          Inputs_Of(*session_.Screen_Named(name)));
-        }
-    }
-}
-
-void Rescue::Offer() {
-    Note_Present_Inputs();
-    const std::vector<Found_Copy> copies = Found();
-    if (copies.empty()) {
+void Rescue::Note() {
+    if (is_finished_) {
         return;
     }
-    std::string text = "The program has ended without its exit. What stood in these screens then "
-                       "is still here:\r\n\r\n";
-    for (const Found_Copy& copy : copies) {
-        text += Words_For(copy.screen, Content_If_Any(copy.path)) + " -- " +
-                Time_Of_File(copy.path) + "\r\n";
+    for (std::size_t index = 0; index < screens_.size(); ++index) {
+        Note_Screen(index);
     }
-    text += "\r\nDo you want to load it?";
-    const Box_Answer answer = session_.Message(
-        Box{.text = text, .title = {}, .icon = Box_Icon::Question, .buttons = Box_Buttons::Yes_No});
-    if (answer == Box_Answer::Yes) {
-        Load(copies);
-        Keep();
-    } else {
-        Put_Aside(copies);
+    Note_Units();
+    Tell_Failed_Writing();
+}
+
+/// A full disk must not be found out by the next crash.
+void Rescue::Tell_Failed_Writing() {
+    if (writer_.Has_Failed() && !std::exchange(failure_is_told_, true)) {
+        session_.Message("The rescue copies cannot be written; the disk may be full. Save your "
+                         "work yourself.",
+                         Box_Icon::Exclamation);
     }
 }
 
-void Rescue::Load(const std::vector<Found_Copy>& copies) {
-    const std::string point = Content_If_Any(Join_Path(folder_, point_name));
-    const bool same_point = point.size() == 1 && point.front() == session_.number.Point();
-    for (const Found_Copy& copy : copies) {
-        const std::string content = Content_If_Any(copy.path);
-        const bool taken = Quietly([&] {
-            if (copy.screen == "Main") {
-                Restore_Main_Inputs(session_, content, same_point);
-            } else {
-                auto& sheet = static_cast<Flow_Sheet&>(*session_.Screen_Named(copy.screen));
-                Restore_Flow_Inputs(session_, sheet, content, same_point);
-            }
-        });
-        if (!taken) {
-            session_.Message("This copy could not be read: " + copy.path, Box_Icon::Exclamation);
-        }
+/// No file of that length is written or read, and it must not keep the other screens from theirs.
+bool Rescue::Is_Too_Long(Kept_Screen& kept, Screen_Id screen, std::string_view inputs) {
+    const bool is_too_long = inputs.size() > most_text_bytes;
+    if (is_too_long && !kept.is_too_long) {
+        session_.Message("The comments are too long for a rescue copy, and for any file: " +
+                             Title_Of(screen),
+                         Box_Icon::Exclamation);
     }
-    // The failure that ended the last run may still stand in a field: it must not end this one.
-    Quietly([&] { Calc_Engine(session_); });
-    for (const Found_Copy& copy : copies) {
-        if (copy.screen != "Main") {
-            Quietly([&] {
-                Calc_Flow_Test(session_,
-                               static_cast<Flow_Sheet&>(*session_.Screen_Named(copy.screen)));
-            });
-        }
-    }
+    kept.is_too_long = is_too_long;
+    return is_too_long;
 }
 
-void Rescue::Put_Aside(const std::vector<Found_Copy>& copies) {
-    const std::string aside = Join_Path(session_.surroundings.folder, "rescue-declined");
-    if (!Make_Folder(aside)) {
+void Rescue::Note_Screen(std::size_t index) {
+    Kept_Screen& kept = screens_.at(index);
+    if (!session_.Is_Loaded(Screen_At(index))) {
+        if (kept.is_loaded) {
+            kept.is_loaded = false; // its last copy stays, for its window may be missed
+            Write();
+        }
         return;
     }
-    for (const Found_Copy& copy : copies) {
-        Move_File(copy.path, Join_Path(aside, Name_In_Folder(folder_, copy.path)));
-    }
-}
-
-void Rescue::Keep() {
-    if (folder_.empty()) {
+    std::optional<std::string> inputs = Inputs_Of(session_.The(Screen_At(index)));
+    if (!inputs || Is_Too_Long(kept, Screen_At(index), *inputs)) {
         return;
     }
-    for (const std::string_view name : kept_screens) {
-        const std::string screen(name);
-        if (!session_.Is_Loaded(name)) {
-            safe_inputs_.erase(screen); // its last copy stays, for its window may be missed
-            continue;
-        }
-        const std::string inputs = Inputs_Of(*session_.Screen_Named(name));
-        const auto [known, is_new] = safe_inputs_.try_emplace(screen, inputs);
-        if (!is_new && known->second != inputs) {
-            Write_Copy(screen, inputs);
+    if (!std::exchange(kept.is_loaded, true)) {
+        kept.handed = *inputs; // the stored texts of a new window are no work
+    }
+    kept.noted = *std::move(inputs);
+}
+
+/// All copies of a folder are in the same units. That of a closed sheet does not follow a switch.
+void Rescue::Note_Units() {
+    if (!session_.Is_Loaded(Screen_Id{})) {
+        return;
+    }
+    std::string units = Present_Units(session_);
+    if (units == units_) {
+        return;
+    }
+    units_ = std::move(units);
+    units_are_due_ = true;
+    for (std::size_t index = 0; index < screens_.size(); ++index) {
+        Kept_Screen& kept = screens_.at(index);
+        if (!kept.is_loaded && std::exchange(kept.has_copy, false) && folder_) {
+            constexpr std::chrono::seconds long_enough{5};
+            writer_.Flush(long_enough);
+            Put_Copy_Aside(session_, folder_->Path_Of(Screen_At(index)));
         }
     }
 }
 
-void Rescue::Write_Copy(const std::string& screen, const std::string& inputs) {
-    const bool written = Quietly([&] {
-        if (!point_noted_) {
-            Write_Whole_File(Join_Path(folder_, point_name),
-                             std::string(1, session_.number.Point()));
-            point_noted_ = true;
+bool Rescue::Is_Anything_Due() const {
+    return writer_.Has_Failed() || std::ranges::any_of(screens_, [](const Kept_Screen& kept) {
+               return kept.noted != kept.handed;
+           });
+}
+
+/// A folder that was removed under the program is made again, with all its copies.
+bool Rescue::Hold_Folder() {
+    if (folder_ && folder_->Is_Held()) {
+        return true;
+    }
+    folder_ = Free_Folder(false);
+    if (!folder_) {
+        return false;
+    }
+    for (Kept_Screen& kept : screens_) {
+        if (kept.has_copy) {
+            kept.handed.clear();
         }
-        Write_Whole_File(Path_Of(screen), inputs);
-    });
-    if (written) {
-        safe_inputs_[screen] = inputs;
+    }
+    units_are_due_ = true;
+    return true;
+}
+
+Rescue_Set Rescue::Take_Due() {
+    Rescue_Set due;
+    for (std::size_t index = 0; index < screens_.size(); ++index) {
+        Kept_Screen& kept = screens_.at(index);
+        if (kept.noted != kept.handed) {
+            due.emplace(Rescue_Folder::File_Of(Screen_At(index)), kept.noted);
+            kept.handed = kept.noted;
+            kept.has_copy = true;
+        }
+    }
+    if (std::exchange(units_are_due_, false)) {
+        due.emplace(Rescue_Folder::point_name, std::string(1, session_.numbers.Point()));
+        due.emplace(Rescue_Folder::units_name, units_);
+    }
+    return due;
+}
+
+void Rescue::Write() {
+    if (is_finished_) {
+        return;
+    }
+    if (Is_Anything_Due() && Hold_Folder()) {
+        writer_.Put(folder_->Path(), Take_Due());
+    }
+    Retire_Loaded_Copies();
+}
+
+void Rescue::Retire_Loaded_Copies() {
+    if (!left_folders_.empty() && !Is_Anything_Due() && writer_.Is_Idle()) {
+        Remove_Loaded_Copies();
     }
 }
 
-void Rescue::Remove() {
-    if (!folder_.empty()) {
-        Remove_Folder(folder_);
-        lock_.Release();
-        folder_.clear();
+void Rescue::Remove_Loaded_Copies() {
+    for (const std::string& path : std::exchange(loaded_copies_, {})) {
+        Remove_File(path);
     }
+    for (const auto& folder : std::exchange(left_folders_, {})) {
+        folder->Leave();
+    }
+}
+
+bool Rescue::Flush(std::chrono::milliseconds at_most) {
+    const bool is_done = writer_.Flush(at_most);
+    Retire_Loaded_Copies();
+    return is_done;
+}
+
+void Rescue::Finish(bool is_saved) {
+    if (is_finished_) {
+        return;
+    }
+    if (!is_saved) {
+        constexpr std::chrono::seconds long_enough{60};
+        Write();
+        Flush(long_enough);
+    }
+    is_finished_ = true;
+    writer_.Stop();
+    if (is_saved && folder_) {
+        folder_->Remove_Copies();
+        folder_->Leave();
+    }
+    if (is_saved) {
+        Remove_Loaded_Copies();
+    }
+    folder_.reset();
+    left_folders_.clear();
 }
 
 } // namespace kestrum

@@ -40,14 +40,14 @@ std::string Cut(std::string text, double size, std::size_t width, char point) {
 
 } // namespace
 
-std::string Format_Axis_Number(const Numeric_Text& number, double value) {
+std::string Format_Axis_Number(const Numeric_Text& numbers, double value) {
     constexpr double tiny = 0.001;
     constexpr double small = 0.1;
     constexpr double large = 99999;
     if (value == 0) {
         return "0";
     }
-    std::string text = Without_Leading_Zero(number.Fmt_Up_To_Six(value));
+    std::string text = Without_Leading_Zero(numbers.Fmt_Up_To_Six(value));
     const double size = std::fabs(value);
     if (size < tiny) {
         return text;
@@ -57,12 +57,12 @@ std::string Format_Axis_Number(const Numeric_Text& number, double value) {
             return text.substr(0, 7);
         }
         return value < small ? text.substr(0, 6)
-                             : Without_Leading_Zero(number.Fmt_Up_To_Four(value));
+                             : Without_Leading_Zero(numbers.Fmt_Up_To_Four(value));
     }
     if (size >= large) {
-        return text.substr(0, text.find(number.Point()));
+        return text.substr(0, text.find(numbers.Point()));
     }
-    return Cut(text, size, value > 0 ? 5 : 6, number.Point());
+    return Cut(text, size, value > 0 ? 5 : 6, numbers.Point());
 }
 
 } // namespace kestrum

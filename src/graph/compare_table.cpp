@@ -29,10 +29,21 @@ std::string Label_Of(const Flow_Sheet& sheet) {
            sheet.Text102(0).Text();
 }
 
+void Give_Side(const Control_Array& column, Side side) {
+    constexpr int below_label = 11;
+    for (int row = below_label; row <= last_lift_row; ++row) {
+        Look look = column(row).Present_Look();
+        look.side = side;
+        column(row).Set_Look(look);
+    }
+}
+
 void Fill_Test_Head(const Test_Columns& test, const Flow_Sheet& sheet, const Compare_Type& type) {
     constexpr int label_row = 10;
     constexpr int quarter_diameter_row = 11;
     constexpr int unit_row = 12;
+    Give_Side(test.intake, Side::Intake);
+    Give_Side(test.exhaust, Side::Exhaust);
     test.intake(label_row).Set_Text("Test " + test.label);
     test.intake(quarter_diameter_row).Set_Text(sheet.Text102(9).Text());
     test.exhaust(quarter_diameter_row).Set_Text(sheet.Text103(9).Text());
@@ -108,10 +119,24 @@ std::array<const Control_Array*, 4> Derived_Columns(const Compare_Screen& table)
     return {&table.Text107, &table.Text108, &table.Text109, &table.Text110};
 }
 
+using Column_Sides = std::array<Side, 4>;
+
+/// Which valve each of the four derived columns belongs to.
+Column_Sides Derived_Sides(const Compare_Type& type) {
+    const bool differences = type.comparison == Comparison::Difference ||
+                             type.comparison == Comparison::Intake_Difference;
+    return differences ? Column_Sides{Side::Intake, Side::Both, Side::Exhaust, Side::Both}
+                       : Column_Sides{Side::Intake, Side::Exhaust, Side::Intake, Side::Exhaust};
+}
+
 void Fill_Headings(Session& session, const Compare_Type& type) {
     constexpr int first_row = 10;
     const auto columns = Derived_Columns(session.Form50());
     const Headings headings = Headings_For(session, type);
+    const Column_Sides sides = Derived_Sides(type);
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        Give_Side(*columns[column], sides[column]);
+    }
     for (std::size_t line = 0; line < headings.size(); ++line) {
         for (std::size_t column = 0; column < columns.size(); ++column) {
             (*columns[column])(first_row + static_cast<int>(line)).Set_Text(headings[line][column]);
@@ -129,7 +154,7 @@ void Zero_First_Rows(const Compare_Screen& table) {
 void Fill_Differences(Session& session, const Flow_Sheet& sheet, const Compare_Type& type,
                       int row) {
     const Compare_Screen& table = session.Form50();
-    const Numeric_Text& number = session.number;
+    const Numeric_Text& numbers = session.numbers;
     Copy_Values(To_Columns(session), sheet, type, row);
     table.Text109(row).Set_Text("");
     table.Text110(row).Set_Text("");
@@ -137,8 +162,8 @@ void Fill_Differences(Session& session, const Flow_Sheet& sheet, const Compare_T
         return;
     }
     const auto difference = [&](const Control& to, const Control& from) {
-        const Real minuend = number(to); // read first
-        return (number.*type.format)(minuend - number(from));
+        const Real minuend = numbers(to); // read first
+        return (numbers.*type.format)(minuend - numbers(from));
     };
     table.Text107(row).Set_Text(difference(table.Text104(row), table.Text102(row)));
     if (type.comparison == Comparison::Difference) {
@@ -193,7 +218,7 @@ void Fill_To(Session& session, const Flow_Sheet& sheet, const Compare_Type& type
 
 void Report_Failure(Session& session, const Run_Time_Error& failure) {
     // The From label stands here for both halves; wanted.
-    std::string text = "Error Number " + session.number.Fmt_Whole(failure.Number()) + " -- " +
+    std::string text = "Error Number " + session.numbers.Fmt_Whole(failure.Number()) + " -- " +
                        failure.Description() + "\r\n\r\nPlease Save your Data for Flow Test " +
                        session.compare_from_label +
                        "\r\n\r\nIf you can NOT Find the Reason for this Error. Please the Sent the "

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/numeric_text.h"
+#include "base/numeric_text.h"
 
 #include <string_view>
 

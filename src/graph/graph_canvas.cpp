@@ -1,8 +1,9 @@
 #include "graph/graph_canvas.h"
 
-#include "core/real.h"
+#include "base/real.h"
 
 #include <cmath>
+#include <utility>
 
 namespace kestrum {
 
@@ -10,33 +11,65 @@ Graph_Canvas::Graph_Canvas(Session& session)
     : pen_width(session.graph.draw_width), font_size(12 * session.scale_font), session_(session) {}
 
 void Graph_Canvas::Line(double x1, double y1, double x2, double y2, int colour) const {
-    State().canvas.Line(x1, y1, x2, y2, colour, pen_width);
+    State().canvas.Line(x1, y1, x2, y2, colour, pen_width, Line_Style::Solid, role);
 }
 
 void Graph_Canvas::Grid_Line(double x1, double y1, double x2, double y2) const {
     State().canvas.Line(x1, y1, x2, y2, Swapped_Colour(session_.grid_colour), pen_width,
-                        static_cast<Line_Style>(session_.graph.grid_style));
+                        session_.graph.grid_style, role);
 }
 
 void Graph_Canvas::Vertical_Line(double x, int colour) const {
     if (State().x_per_unit != 0) {
-        const double at = x / State().x_per_unit;
-        Line(at, 0, at, State().plot_bottom, colour);
+        const double at = (Real(x) / State().x_per_unit).Value();
+        State().canvas.Line(at, 0, at, State().plot_bottom, colour, pen_width);
     }
 }
 
 void Graph_Canvas::Text(double x, double y, std::string_view text) const {
-    State().canvas.Text(x, y, text, font_size, Text_Colour());
+    State().canvas.Add(Text_Step(x, y, text));
+}
+
+void Graph_Canvas::Text_Before(double x, double y, std::string_view text) const {
+    Draw_Operation step = Text_Step(x, y, text);
+    step.anchor = Text_Anchor::Right;
+    step.cell = State().plot_left;
+    State().canvas.Add(std::move(step));
+}
+
+void Graph_Canvas::Legend_Text(double x, double y, std::string_view text,
+                               const Curve_Sample& curves) const {
+    Draw_Operation step = Text_Step(x, y, text);
+    step.role = Draw_Role::Legend;
+    step.width = curves.pen_width;
+    step.curves = curves.colours;
+    State().canvas.Add(std::move(step));
+}
+
+Draw_Operation Graph_Canvas::Text_Step(double x, double y, std::string_view text) const {
+    return {.kind = Draw_Kind::Text,
+            .x1 = x,
+            .y1 = y,
+            .x2 = x + Text_Width(text),
+            .size = font_size,
+            .colour = Text_Colour(),
+            .role = role,
+            .cell = x,
+            .text = std::string(text)};
 }
 
 void Graph_Canvas::Text_In_Span(std::string_view text, double left, double right, double y,
                                 Span_Mode mode) const {
     const double room = right - left - Text_Width(text);
-    double x = left;
-    if (room > 0 && mode != Span_Mode::Left) {
-        x += mode == Span_Mode::Center ? room / 2 : room;
+    if (room <= 0 || mode == Span_Mode::Left) {
+        return Text(left, y, text);
     }
-    Text(x, y, text);
+    const bool centred = mode == Span_Mode::Center;
+    Draw_Operation step = Text_Step(left + (centred ? room / 2 : room), y, text);
+    step.anchor = centred ? Text_Anchor::Centre : Text_Anchor::Right;
+    step.cell = left;
+    step.x2 = right;
+    State().canvas.Add(std::move(step));
 }
 
 void Graph_Canvas::Mark(const Curve_Point& point, int colour) const {
@@ -46,6 +79,10 @@ void Graph_Canvas::Mark(const Curve_Point& point, int colour) const {
     const double scale = std::pow(session_.canvas_x_size / design_size, 0.3333);
     const Curve_Point at = Mapped(point);
     State().canvas.Circle(at.x, at.y, scale * radius, colour, pen_width);
+}
+
+bool Graph_Canvas::Has_Scale() const {
+    return State().x_per_unit != 0 && State().y_per_unit != 0;
 }
 
 Curve_Point Graph_Canvas::Mapped(const Curve_Point& point) const {

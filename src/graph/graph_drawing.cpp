@@ -3,6 +3,7 @@
 #include "graph/curve_fit.h"
 #include "graph/graph_canvas.h"
 #include "graph/graph_frame.h"
+#include "graph/graph_legend.h"
 #include "graph/graph_series.h"
 #include "graph/user_axis.h"
 
@@ -15,16 +16,6 @@ namespace {
 
 constexpr int black = 0x000000;
 constexpr std::size_t fewest_points = 3;
-constexpr int samples_per_point = 100;
-
-/// Colours of a graph and of its overlays, 0xRRGGBB.
-struct Scheme {
-    int intake;
-    int exhaust;
-};
-
-constexpr std::array<Scheme, 4> schemes{
-    {{0x0000FF, 0xFF0000}, {0x006400, 0x000000}, {0x00FFFF, 0xFF00FF}, {0x00FF00, 0x8B0000}}};
 
 /// One of the four curves.
 struct Curve {
@@ -52,8 +43,9 @@ std::vector<Curve_Point> Points_Of(const Curve& curve) {
 void Draw_Curve(Graph_Canvas& canvas, const Curve& curve, const std::vector<Curve_Point>& points) {
     Session& session = canvas.Owner();
     canvas.pen_width = curve.pen_width;
+    canvas.role = Draw_Role::Curve;
     if (session.Form50().Check1.Value() != 0) {
-        canvas.Vertical_Line(session.number(curve.quarter_diameter).Value(), curve.colour);
+        canvas.Vertical_Line(session.numbers(curve.quarter_diameter).Value(), curve.colour);
     }
     const int samples = curve.point_count * samples_per_point - 1;
     canvas.State().canvas.Reserve(static_cast<std::size_t>(samples));
@@ -70,11 +62,11 @@ void Draw_Curve(Graph_Canvas& canvas, const Curve& curve, const std::vector<Curv
     }
 }
 
-/// Draws a curve unless it has too few points.
+/// Draws a curve unless it has too few points, or an axis no length.
 bool Try_Curve(Graph_Canvas& canvas, const Curve& curve) {
     const std::vector<Curve_Point> points = Points_Of(curve);
     canvas.State().curve_point_count = static_cast<int>(points.size());
-    if (points.size() < fewest_points) {
+    if (points.size() < fewest_points || !canvas.Has_Scale()) {
         return false;
     }
     canvas.State().curve_colour = curve.colour;
@@ -82,7 +74,7 @@ bool Try_Curve(Graph_Canvas& canvas, const Curve& curve) {
     return true;
 }
 
-void Report_Short_Curve(Session& session) {
+void Report_Failed_Graph(Session& session) {
     session.Message("There is a Problem Generating your Graph\r\n\r\nThere is one known Problem "
                     "which can cause this error and that is not having enough data point to "
                     "Graph.\r\n\r\nOne cause of this is trying to Graph % Change when the 2 lift "
@@ -92,23 +84,22 @@ void Report_Short_Curve(Session& session) {
 }
 
 void Draw_Curves(Graph_Canvas& canvas) {
-    constexpr double thin = 2; // the From test
-    constexpr double thick = 4;
     Session& session = canvas.Owner();
     const Graph_State& graph = session.graph;
     const Compare_Screen& table = session.Form50();
-    const Scheme& scheme = schemes.at(static_cast<std::size_t>(graph.plus_count));
+    const Legend_Curves& colours = Colours_Of(graph.plus_count);
     const Shown_Sides shown = Sides_Shown(table);
     const int from = graph.from_point_count;
     const int to = graph.to_point_count;
     const std::array<std::pair<bool, Curve>, 4> curves{{
         {shown.intake,
-         {graph.from_x, graph.from_intake, from, scheme.intake, thin, table.Text102(11)}},
+         {graph.from_x, graph.from_intake, from, colours.intake, thin_pen, table.Text102(11)}},
         {shown.exhaust,
-         {graph.from_x, graph.from_exhaust, from, scheme.exhaust, thin, table.Text103(11)}},
-        {shown.intake, {graph.to_x, graph.to_intake, to, scheme.intake, thick, table.Text104(11)}},
+         {graph.from_x, graph.from_exhaust, from, colours.exhaust, thin_pen, table.Text103(11)}},
+        {shown.intake,
+         {graph.to_x, graph.to_intake, to, colours.intake, thick_pen, table.Text104(11)}},
         {shown.exhaust,
-         {graph.to_x, graph.to_exhaust, to, scheme.exhaust, thick, table.Text105(11)}},
+         {graph.to_x, graph.to_exhaust, to, colours.exhaust, thick_pen, table.Text105(11)}},
     }};
     bool failed = false;
     for (std::size_t at = 0; at < curves.size(); ++at) {
@@ -119,7 +110,7 @@ void Draw_Curves(Graph_Canvas& canvas) {
         }
         if (!Try_Curve(canvas, curves[at].second) && !failed) {
             failed = true;
-            Report_Short_Curve(session);
+            Report_Failed_Graph(session);
         }
     }
 }
@@ -148,18 +139,22 @@ double Legend_Offset_For(const Session& session) {
 void Draw_Graph(Session& session) {
     Graph_State& graph = session.graph;
     Graph_Canvas canvas(session);
-    graph.from_sample_count = graph.from_point_count * samples_per_point;
-    graph.to_sample_count = graph.to_point_count * samples_per_point;
+    bool has_axes = true;
     if (graph.plus_count == 0) {
         graph.legend_offset = 0;
         graph.canvas.Clear();
-        Draw_Graph_Frame(canvas);
+        has_axes = Draw_Graph_Frame(canvas);
         Draw_Axis_Labels(canvas);
+        Draw_Graph_Legend(canvas);
     } else {
         graph.legend_offset = Legend_Offset_For(session);
         Draw_Graph_Legend(canvas);
     }
-    Draw_Curves(canvas);
+    if (has_axes) {
+        Draw_Curves(canvas);
+    } else {
+        Report_Failed_Graph(session);
+    }
     Draw_Markers(canvas);
     session.Form60().Picture1.Repaint();
 }
@@ -169,11 +164,15 @@ void Draw_Zero_Line(Session& session) {
     constexpr double text_left = 5;
     const Graph_State& graph = session.graph;
     Graph_Canvas canvas(session);
+    canvas.role = Draw_Role::Axis_Number;
+    if (!canvas.Has_Scale()) {
+        return; // the graph has failed, and was told so
+    }
     canvas.pen_width = Compare_Screen::Chosen(session.Form50().Option4) == 0 ? 5 : 6;
     for (int piece = 0; piece < pieces; ++piece) {
         const Curve_Point from = canvas.Mapped({graph.x_high / pieces * piece, 0});
         const Curve_Point to = canvas.Mapped({graph.x_high / pieces * (piece + 1), 0});
-        canvas.Line(from.x, from.y, to.x, to.y, black);
+        session.graph.canvas.Line(from.x, from.y, to.x, to.y, black, canvas.pen_width);
     }
     canvas.Text_In_Span("0.0 - Zero Line ", text_left, session.canvas_x_size,
                         graph.y_low / graph.y_per_unit + session.canvas_y_size + 2,

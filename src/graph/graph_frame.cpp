@@ -1,11 +1,12 @@
 #include "graph/graph_frame.h"
 
 #include "graph/axis_number.h"
-#include "graph/compare_types.h"
+#include "graph/graph_legend.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <span>
 
 namespace kestrum {
@@ -13,7 +14,6 @@ namespace kestrum {
 namespace {
 
 constexpr int black = 0x000000;
-constexpr double text_left = 62; // of captions and legends, clear of the Y numbers
 
 /// Lifts between two X lines, up to a highest lift.
 struct Line_Step {
@@ -21,15 +21,17 @@ struct Line_Step {
     double step;
 };
 
-constexpr double no_end = 1e300;
+constexpr double no_end = std::numeric_limits<double>::infinity();
 constexpr std::array<Line_Step, 3> us_steps{{{425, 25}, {750, 50}, {no_end, 100}}};
 constexpr std::array<Line_Step, 3> metric_steps{{{20, 1}, {40, 2}, {no_end, 3}}};
 
-/// The X lines at round lifts, the axis drawn out to the next of them.
-void Work_Out_X_Lines(Session& session) {
+/// The X lines at round lifts, the axis drawn out to the next of them. False when they are too
+/// many.
+bool Work_Out_X_Lines(Session& session) {
+    constexpr double most_lines = 2000;
     Graph_State& graph = session.graph;
     if (graph.x_high == 0) {
-        return; // no lift: the usual lines stand
+        return true; // no lift: the usual lines stand
     }
     const std::span<const Line_Step> steps =
         session.Main().Is_Metric() ? std::span<const Line_Step>(metric_steps) : us_steps;
@@ -37,17 +39,26 @@ void Work_Out_X_Lines(Session& session) {
     while (graph.x_high > step->up_to) {
         ++step;
     }
-    const double lines = std::floor(graph.x_high / step->step);
+    const double whole_steps = std::floor(graph.x_high / step->step);
+    const bool is_round = whole_steps * step->step == graph.x_high;
+    const double lines = is_round ? whole_steps : whole_steps + 1;
+    if (lines > most_lines) {
+        return false;
+    }
     session.x_line_count = static_cast<int>(lines);
-    if (lines * step->step != graph.x_high) {
-        session.x_line_count = static_cast<int>(lines) + 1;
-        graph.x_high = (lines + 1) * step->step;
+    if (!is_round) {
+        graph.x_high = lines * step->step;
         graph.x_per_unit = (graph.x_high - graph.x_low) / session.canvas_x_size;
     }
+    return true;
 }
+
+constexpr int usual_grid_colour = 0x909090;
 
 void Draw_Grid(Graph_Canvas& canvas) {
     const Session& session = canvas.Owner();
+    const bool usual = session.grid_colour == usual_grid_colour;
+    canvas.role = usual ? Draw_Role::Grid : Draw_Role::Plain;
     const double width = session.canvas_x_size;
     const double height = session.canvas_y_size;
     for (int line = 1; line < session.x_line_count; ++line) {
@@ -60,22 +71,34 @@ void Draw_Grid(Graph_Canvas& canvas) {
     }
 }
 
-double Grid_Pen(Session& session) {
-    constexpr int usual_colour = 0x909090;
-    const bool solid = session.graph.grid_style == 0;
-    return solid && session.grid_colour != usual_colour ? 2 : 1;
+void Draw_Border(Graph_Canvas& canvas) {
+    const Session& session = canvas.Owner();
+    const double right = session.canvas_x_size;
+    const double bottom = session.canvas_y_size;
+    const double left = session.graph.plot_left;
+    canvas.pen_width = 3;
+    canvas.role = Draw_Role::Frame;
+    canvas.Line(left, bottom, right, bottom, black);
+    canvas.Line(left, 0, left, bottom, canvas.Text_Colour());
+    canvas.Line(left, 0, right, 0, canvas.Text_Colour());
+    canvas.Line(right, 0, right, bottom, canvas.Text_Colour());
+}
+
+double Grid_Pen(const Session& session) {
+    const bool solid = session.graph.grid_style == Line_Style::Solid;
+    return solid && session.grid_colour != usual_grid_colour ? 2 : 1;
 }
 
 /// Writes the axis numbers from the high end down to the low end; gives those of this graph.
-std::span<const std::string> Axis_Numbers(const Numeric_Text& number, double high, double low,
+std::span<const std::string> Axis_Numbers(const Numeric_Text& numbers, double high, double low,
                                           int count, std::vector<std::string>& texts) {
     const auto last = static_cast<std::size_t>(std::max(count - 1, 0));
     texts.resize(std::max(texts.size(), last + 1));
     for (std::size_t line = 0; line < last; ++line) {
-        texts[line] =
-            Format_Axis_Number(number, high - (high - low) / count * static_cast<double>(line + 1));
+        texts[line] = Format_Axis_Number(numbers, high - (high - low) / count *
+                                                             static_cast<double>(line + 1));
     }
-    texts[last] = Format_Axis_Number(number, low);
+    texts[last] = Format_Axis_Number(numbers, low);
     return std::span(texts).first(last + 1);
 }
 
@@ -84,7 +107,7 @@ void Draw_Y_Numbers(const Graph_Canvas& canvas) {
     Graph_State& graph = canvas.State();
     const double step = session.canvas_y_size / session.y_line_count;
     double y = 2;
-    for (const std::string& text : Axis_Numbers(session.number, graph.y_high, graph.y_low,
+    for (const std::string& text : Axis_Numbers(session.numbers, graph.y_high, graph.y_low,
                                                 session.y_line_count, graph.y_label_text)) {
         y += step; // under its own grid line
         canvas.Text_In_Span(" " + text, std::floor(graph.plot_left + 5),
@@ -103,11 +126,15 @@ void Draw_X_Numbers(const Graph_Canvas& canvas) {
     Graph_State& graph = canvas.State();
     const double step = session.canvas_x_size / session.x_line_count;
     double line = session.canvas_x_size;
-    for (const std::string& text : Axis_Numbers(session.number, graph.x_high, graph.x_low,
+    for (const std::string& text : Axis_Numbers(session.numbers, graph.x_high, graph.x_low,
                                                 session.x_line_count, graph.x_label_text)) {
         line -= step;
-        canvas.Text(std::max(line - (canvas.Text_Width(text) + gap), 0.0), X_Number_Row(canvas),
-                    text);
+        const double left = line - (canvas.Text_Width(text) + gap);
+        if (left > 0) {
+            canvas.Text_Before(left, X_Number_Row(canvas), text);
+        } else {
+            canvas.Text(0, X_Number_Row(canvas), text);
+        }
     }
 }
 
@@ -115,7 +142,7 @@ void Draw_Axis_Texts(Graph_Canvas& canvas) {
     constexpr double largest = 24;
     constexpr double smallest = 18;
     Session& session = canvas.Owner();
-    const double left = session.scale_x * text_left;
+    const double left = session.scale_x * legend_left;
     const double number_height = canvas.Text_Height();
     const double number_row = X_Number_Row(canvas);
     const std::string& y_text = session.Form60().Label8.Text();
@@ -148,65 +175,40 @@ void Draw_Caption(Graph_Canvas& canvas, const Control& caption, double y) {
     canvas.Text_In_Span(caption.Text(), left, session.canvas_x_size, y, Span_Mode::Center);
 }
 
-constexpr std::array<std::string_view, 4> legend_texts{
-    "Intake = Blue / Exhaust = Red", "Intake = Dark Green / Exhaust = Black",
-    "Intake = Cyan / Exhaust = Magenta", "Intake = Green / Exhaust = Brown"};
-
 } // namespace
 
-void Draw_Graph_Frame(Graph_Canvas& canvas) {
+bool Draw_Graph_Frame(Graph_Canvas& canvas) {
     constexpr int usual_lines = 10;
     Session& session = canvas.Owner();
     if (session.grid_on != 1) {
-        return;
+        return true;
     }
     session.x_line_count = usual_lines;
     const Compare_Screen& table = session.Form50();
-    if (table.Check2.Value() != 0 && Compare_Screen::Chosen(table.Option4) == 0) {
-        Work_Out_X_Lines(session);
-    }
+    const bool counts_lines =
+        table.Check2.Value() != 0 && Compare_Screen::Chosen(table.Option4) == 0;
+    const bool has_lines = !counts_lines || Work_Out_X_Lines(session);
     const double saved_width = canvas.pen_width;
     canvas.pen_width = Grid_Pen(session);
     Draw_Grid(canvas);
-    canvas.pen_width = 3;
-    const double right = session.canvas_x_size;
-    const double bottom = session.canvas_y_size;
-    const double left = session.graph.plot_left;
-    canvas.Line(left, bottom, right, bottom, black);
-    canvas.Line(left, 0, left, bottom, canvas.Text_Colour());
-    canvas.Line(left, 0, right, 0, canvas.Text_Colour());
-    canvas.Line(right, 0, right, bottom, canvas.Text_Colour());
+    Draw_Border(canvas);
     canvas.pen_width = saved_width;
+    return has_lines;
 }
 
 void Draw_Axis_Labels(Graph_Canvas& canvas) {
     const Session& session = canvas.Owner();
+    canvas.role = Draw_Role::Axis_Number;
     Draw_Y_Numbers(canvas);
     Draw_X_Numbers(canvas);
+    canvas.role = Draw_Role::Heading;
     Draw_Axis_Texts(canvas);
+    canvas.role = Draw_Role::Caption;
     const Compare_Screen& table = canvas.Owner().Form50();
     Draw_Caption(canvas, table.Text71, session.scale_y * 601);
     Draw_Caption(canvas, table.Text72, session.scale_y * 620);
+    canvas.role = Draw_Role::Plain;
     canvas.font_size = session.scale_font * 12;
-    Draw_Graph_Legend(canvas);
-}
-
-void Draw_Graph_Legend(Graph_Canvas& canvas) {
-    Session& session = canvas.Owner();
-    const Graph_State& graph = session.graph;
-    const double left = session.scale_x * text_left;
-    const auto row = [&](double design) { return session.scale_y * design + graph.legend_offset; };
-    canvas.Text(left, row(50), legend_texts.at(static_cast<std::size_t>(graph.plus_count)));
-    const std::string& from = session.compare_from_label;
-    const std::string& to = session.compare_to_label;
-    if (from == to) {
-        canvas.Text(left, row(69), "Flow Test " + from);
-        return;
-    }
-    // In % types the two curves of a side are one.
-    const bool percent = Compare_Type_Of(session.Form50().Type()).Is_Percent();
-    canvas.Text(left, row(69), (percent ? "Flow Test " : "Thin Graph Lines Test ") + from);
-    canvas.Text(left, row(88), (percent ? "Flow Test " : "Thick Graph Lines Test ") + to);
 }
 
 } // namespace kestrum

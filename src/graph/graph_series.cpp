@@ -17,7 +17,7 @@ void Read_X_Column(Session& session, const Control_Array& column, Series& x, int
                    bool sets_limit) {
     count = 0;
     for (int row = zero_lift_row; row <= last_lift_row; ++row) {
-        const double value = session.number(column(row)).Value();
+        const double value = session.numbers(column(row)).Value();
         x.at(static_cast<std::size_t>(count)) = value;
         if (sets_limit) {
             session.graph.x_high = std::max(session.graph.x_high, value);
@@ -40,7 +40,7 @@ void Read_Y_Column(Session& session, const Control_Array& x, const Control_Array
     std::size_t index = 0;
     for (int row = zero_lift_row; row <= last_lift_row; ++row) {
         const Control& cell = column(row);
-        const double value = cell.Text().empty() ? 0 : session.number(cell).Value();
+        const double value = cell.Text().empty() ? 0 : session.numbers(cell).Value();
         series.at(index) = value;
         if (x(row).Text() != "0" && !cell.Text().empty()) {
             graph.y_high = moved.high ? std::max(graph.y_high, value) : graph.y_high;

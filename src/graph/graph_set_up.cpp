@@ -29,7 +29,7 @@ void Set_X_Scale(Session& session) {
         constexpr double nearly_one_step = 0.00999;
         graph.x_high = std::floor((graph.x_high + nearly_one_step) * 100) / 100;
     }
-    graph.x_per_unit = (graph.x_high - graph.x_low) / session.canvas_x_size;
+    graph.x_per_unit = ((Real(graph.x_high) - graph.x_low) / session.canvas_x_size).Value();
 }
 
 void Set_X_Captions(Session& session) {
@@ -88,12 +88,10 @@ void Set_Y_Limits(Session& session, const Compare_Type& type) {
         graph.y_low = metric ? 900 : 50;
         break;
     case Axis_Rule::Tens:
-        graph.y_high = Next_Ten(graph.y_high);
-        graph.y_low = 0;
-        break;
     case Axis_Rule::Tens_Show_Big:
         graph.y_high = Next_Ten(graph.y_high);
-        graph.y_low = show_big ? Tens_Below(graph.y_low, 1) : 0;
+        graph.y_low =
+            show_big && type.axis == Axis_Rule::Tens_Show_Big ? Tens_Below(graph.y_low, 1) : 0;
         break;
     case Axis_Rule::Swirl:
         graph.y_high = Next_Ten(graph.y_high);

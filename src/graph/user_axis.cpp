@@ -10,8 +10,8 @@ bool User_Insists(Session& session, std::string_view end, const Control& field,
     const std::string text =
         "Your User Supplied " + std::string(end) + " Y_Axis of " + field.Text() + " is " +
         std::string(compared) + " Than\r\nthe Calculated Y_Axis of " +
-        session.number.Fmt_Up_To_Six(calculated) + "\r\n\r\nDo you still want to use Your Y_Axis " +
-        std::string(end) + " Value?";
+        session.numbers.Fmt_Up_To_Six(calculated) +
+        "\r\n\r\nDo you still want to use Your Y_Axis " + std::string(end) + " Value?";
     return session.Message(Box{.text = text, .title = {}, .buttons = Box_Buttons::Yes_No}) ==
            Box_Answer::Yes;
 }
@@ -30,16 +30,16 @@ void Apply_High(Session& session, const Compare_Type& type, Real value) {
 
 void Apply_Low(Session& session, Real value) {
     Graph_State& graph = session.graph;
-    const Numeric_Text& number = session.number;
+    const Numeric_Text& numbers = session.numbers;
     if (value <= graph.y_low ||
         User_Insists(session, "Low", session.Form50().Text1, "Higher", graph.y_low)) {
         graph.y_low = value.Value();
     }
     if (graph.y_low >= graph.y_high) {
         constexpr double span = 10;
-        session.Message("Low Y_Axis of " + number.Fmt_Up_To_Six(graph.y_low) +
+        session.Message("Low Y_Axis of " + numbers.Fmt_Up_To_Six(graph.y_low) +
                         " is Equal or Higher Than High Y_Axis of " +
-                        number.Fmt_Up_To_Six(graph.y_high) +
+                        numbers.Fmt_Up_To_Six(graph.y_high) +
                         "\r\n\r\nLow Y_Axis is reset to High Y_Axis - 10");
         graph.y_low = graph.y_high - span;
     }
@@ -53,7 +53,7 @@ std::optional<Real> User_Limit(Session& session, const Control& field) {
         return std::nullopt;
     }
     try {
-        return session.number.Read(session.number.Text_To_Number_String(field.Text()));
+        return session.numbers.Read_Either_Mark(field);
     } catch (const Run_Time_Error&) {
         return std::nullopt;
     }
@@ -61,7 +61,7 @@ std::optional<Real> User_Limit(Session& session, const Control& field) {
 
 void Set_Y_Scale(Session& session) {
     Graph_State& graph = session.graph;
-    graph.y_per_unit = (graph.y_high - graph.y_low) / session.canvas_y_size;
+    graph.y_per_unit = ((Real(graph.y_high) - graph.y_low) / session.canvas_y_size).Value();
 }
 
 void Apply_User_Y_Axis(Session& session, const Compare_Type& type) {

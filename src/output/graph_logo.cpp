@@ -1,7 +1,7 @@
 #include "output/graph_logo.h"
 
-#include "core/chosen_file.h"
 #include "core/logo_picture.h"
+#include "records/named_files.h"
 
 namespace kestrum {
 
@@ -16,7 +16,12 @@ void Put_Logo(Session& session, const std::string& path) {
     const Graph_Screen& screen = session.Form60();
     session.logo_on = path.empty() ? 0 : 1;
     session.logo_file = path;
-    screen.Show_Logo(!path.empty());
+    if (path.empty()) {
+        session.logo_size.reset();
+        screen.Hide_Logo();
+    } else {
+        screen.Show_Logo(session.logo_size.value_or(Extent{}));
+    }
     screen.Picture1.Repaint();
 }
 

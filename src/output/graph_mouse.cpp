@@ -10,11 +10,11 @@ void Show_Values(Session& session, const Curve_Point& at) {
     const Graph_State& graph = session.graph;
     const Graph_Screen& screen = session.Form60();
     if (session.canvas_y_size > 0) {
-        screen.Label18.Set_Text(session.number.Fmt_Eight_Wide(
+        screen.Label18.Set_Text(session.numbers.Fmt_Eight_Wide(
             graph.y_high - at.y / session.canvas_y_size * (graph.y_high - graph.y_low)));
     }
     if (session.canvas_x_size > 0) {
-        screen.Label19.Set_Text(session.number.Fmt_Eight_Wide(
+        screen.Label19.Set_Text(session.numbers.Fmt_Eight_Wide(
             at.x / session.canvas_x_size * (graph.x_high - graph.x_low) + graph.x_low));
     }
 }

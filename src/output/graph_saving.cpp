@@ -1,8 +1,8 @@
 #include "output/graph_saving.h"
 
-#include "core/chosen_file.h"
-#include "core/text.h"
+#include "base/text.h"
 #include "platform/file_store.h"
+#include "records/named_files.h"
 
 #include <array>
 
@@ -26,7 +26,9 @@ std::optional<Placed_Logo> Shown_Logo(Session& session) {
         return std::nullopt;
     }
     const Position& place = picture.Moved_To();
-    return Placed_Logo{.file = session.logo_file, .left = place.left, .top = place.top};
+    return Placed_Logo{.file = Path_Of_Named_File(session, session.logo_file),
+                       .left = place.left,
+                       .top = place.top};
 }
 
 Picture_Format Format_For(std::string_view path) {
@@ -43,8 +45,8 @@ void Write_Graph(Session& session, const std::string& path) {
     if (session.painter == nullptr) {
         Fail(error::invalid_picture);
     }
-    Write_Whole_File(path, session.painter->Picture_Of(session.graph.canvas, Format_For(path),
-                                                       Shown_Logo(session)));
+    Replace_File(path, session.painter->Picture_Of(session.graph.canvas, Format_For(path),
+                                                   Shown_Logo(session)));
 }
 
 void Save_Graph(Session& session) {

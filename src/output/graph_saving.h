@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/session.h"
-#include "platform/painter.h"
+#include "drawing/painter.h"
 
 #include <optional>
 #include <string_view>

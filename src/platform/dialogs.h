@@ -30,6 +30,13 @@ struct Chooser {
     [[nodiscard]] bool Overwrite_Prompt() const { return mode == Chooser_Mode::Save; }
 };
 
+/// What the user chose in a chooser.
+struct Chosen_Path {
+    std::string path;
+    /// The entry of the filter that was in force, from 1.
+    int filter_index = 1;
+};
+
 /// The windows that ask the user something and hold the program until the answer.
 struct Dialogs {
     Dialogs() = default;
@@ -38,8 +45,8 @@ struct Dialogs {
     virtual ~Dialogs() = default;
 
     virtual Box_Answer Show_Box(const Box& box) = 0;
-    /// The chosen path, or nothing when the user cancels.
-    virtual std::optional<std::string> Choose_File(const Chooser& chooser) = 0;
+    /// The choice, or nothing when the user cancels.
+    virtual std::optional<Chosen_Path> Choose_File(const Chooser& chooser) = 0;
 
     /// The chosen colour as a blue-green-red number, or nothing when the user cancels. A face
     /// without such a dialog cancels.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/clock.h"
+
 #include <string>
 
 namespace kestrum {
@@ -20,6 +22,7 @@ struct Surroundings {
     /// The decimal separator of the user's system, "." or ",".
     std::string decimal_point = ".";
     Display display;
+    Clock clock{};
     /// Version of the program, as "5.0.0".
     std::string version;
 };

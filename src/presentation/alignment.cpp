@@ -12,9 +12,9 @@ bool Keeps_Its_Alignment(const Control& control) {
 } // namespace
 
 void Apply_Alignment(Session& session) {
-    const auto alignment = static_cast<Alignment>(session.number.align_mode);
+    const Alignment alignment = session.numbers.align_mode;
     session.For_Each_Loaded([alignment](Screen& screen) {
-        if (screen.Name() == "Form60" || screen.Name() == "Form70") {
+        if (screen.Kind() == Screen_Kind::Graph || screen.Kind() == Screen_Kind::Report) {
             return;
         }
         for (Control& control : screen.Controls()) {

@@ -1,15 +1,18 @@
 #include "presentation/graph_options.h"
 
+#include "core/settings.h"
+
 namespace kestrum {
 
-std::optional<int> Get_Color(Session& session) {
+std::optional<Colour> Get_Color(Session& session) {
     session.picked_color.clear();
-    const auto colour = session.dialogs.Choose_Colour();
-    if (colour) {
-        session.picked_color = session.number.Plain(*colour);
-    } else {
+    const auto chosen = session.dialogs.Choose_Colour();
+    if (!chosen) {
         session.Message("No Color Selected");
+        return std::nullopt;
     }
+    const Colour colour = Colour_Of(*chosen);
+    session.picked_color = session.numbers.Plain(colour);
     return colour;
 }
 
@@ -28,13 +31,13 @@ void Choose_Grid_Colour(Session& session) {
     }
 }
 
-void Set_Grid_Style(Session& session, int style) {
+void Set_Grid_Style(Session& session, Line_Style style) {
     session.graph.grid_style = style;
     session.grid_on = 1;
 }
 
 void Switch_Grid_Off(Session& session) {
-    session.graph.grid_style = 0;
+    session.graph.grid_style = Line_Style::Solid;
     session.grid_on = 0;
 }
 

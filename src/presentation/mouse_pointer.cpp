@@ -3,10 +3,8 @@
 namespace kestrum {
 
 void Set_Plain_Pointer(Session& session) {
-    for (const std::string_view name :
-         {"Main", "Form1", "Form2", "Form3", "Form4", "Form5", "Form50", "Form60", "Form70"}) {
-        session.Screen_Named(name)->plain_pointer = true;
-    }
+    session.plain_pointer = true; // a screen that is not there yet takes it when it is made
+    session.For_Each_Loaded([](Screen& screen) { screen.plain_pointer = true; });
 }
 
 } // namespace kestrum

@@ -1,7 +1,5 @@
 #include "screens/compare_screen.h"
 
-#include "screens/tips.h"
-
 #include <array>
 
 namespace kestrum {
@@ -189,7 +187,7 @@ constexpr auto compare_table = std::to_array<Control_Entry>({
              "\"Type\" and then Graph them on the PRESENT GRAPH.\r\n\r\nNOTE: This can be used a "
              "MAX of 3 times on any Graph."),
     Push_Button("Command3", "Print Calcs").At(12, 2, 2, 2).Tip("Print Report Showing Calculations"),
-    Push_Button("Command5", "PrtSc as &JPG").At(10, 4, 2, 2).Tip(tips::print_screen),
+    Push_Button("Command5", "PrtSc as &JPG").At(10, 4, 2, 2),
     Push_Button("subend", "&Quit").At(12, 4, 2, 2).Tip("Quit / Close the Flow Test compare Screen"),
 });
 
@@ -197,7 +195,7 @@ constexpr auto compare_table = std::to_array<Control_Entry>({
 
 } // namespace
 
-Compare_Screen::Compare_Screen() : Screen("Form50", compare_table) {}
+Compare_Screen::Compare_Screen() : Screen({Screen_Kind::Compare}, compare_table) {}
 
 int Compare_Screen::Chosen(const Control_Array& options) {
     int index = 0;

@@ -25,6 +25,7 @@ constexpr Colour face_colour = 0xF0F0F0;
 Look Starting_Look(const Control_Entry& entry) {
     Look look;
     look.visible = !entry.starts_hidden;
+    look.side = entry.side;
     if (entry.kind != Control_Kind::Text_Box) {
         look.back_colour = entry.back_colour < 0 ? face_colour : entry.back_colour;
         look.tab_stop = entry.kind != Control_Kind::Label && entry.kind != Control_Kind::Frame &&
@@ -47,9 +48,9 @@ Control::Control(Screen& screen, const Control_Entry& entry, int index)
     : screen_(&screen),
       entry_(&entry),
       index_(index),
-      text_(Stored_Text(entry, index)),
-      value_(entry.start_value),
-      look_(Starting_Look(entry)) {}
+      state_{.text = std::string(Stored_Text(entry, index)),
+             .value = entry.start_value,
+             .look = Starting_Look(entry)} {}
 
 std::string Control::Address() const {
     std::string address = screen_->Name();
@@ -67,56 +68,71 @@ std::string Control::Address() const {
 }
 
 void Control::Set_Text(std::string_view new_text) {
-    if (text_ != new_text) {
-        text_ = new_text;
+    if (state_.text != new_text) {
+        state_.text = new_text;
         Mark_Changed();
     }
 }
 
 void Control::Append_Text(std::string_view more) {
-    text_ += more;
+    state_.text += more;
     Mark_Changed();
 }
 
 void Control::Set_Value(int new_value) {
-    if (value_ != new_value) {
-        value_ = new_value;
+    if (state_.value != new_value) {
+        state_.value = new_value;
         Mark_Changed();
     }
 }
 
 void Control::Set_Look(const Look& new_look) {
-    if (look_ != new_look) {
-        look_ = new_look;
+    if (state_.look != new_look) {
+        state_.look = new_look;
         Mark_Changed();
     }
 }
 
 void Control::Set_Visible(bool visible) {
-    Look changed_look = look_;
+    Look changed_look = state_.look;
     changed_look.visible = visible;
     Set_Look(changed_look);
 }
 
 void Control::Set_Enabled(bool enabled) {
-    Look changed_look = look_;
+    Look changed_look = state_.look;
     changed_look.enabled = enabled;
     Set_Look(changed_look);
 }
 
 void Control::Move_To(const Position& position) {
-    if (position_ != position) {
-        position_ = position;
+    if (state_.position != position) {
+        state_.position = position;
+        Mark_Changed();
+    }
+}
+
+void Control::Set_Extent(const Extent& extent) {
+    if (state_.extent != extent) {
+        state_.extent = extent;
         Mark_Changed();
     }
 }
 
 void Control::Set_Items(std::vector<std::string> new_items) {
-    items_ = std::move(new_items);
+    state_.items = std::move(new_items);
     Mark_Changed();
 }
 
+void Control::Set_State(const Control_State& new_state) {
+    if (state_ != new_state) {
+        state_ = new_state;
+        Mark_Changed();
+    }
+}
+
 void Control::Mark_Changed() {
+    screen_->kept_states_.reset();
     if (!changed_) {
         changed_ = true;
         screen_->changes_.push_back(this);

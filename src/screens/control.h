@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/numeric_text.h"
 #include "screens/control_entry.h"
 
 #include <string>
@@ -9,8 +10,6 @@
 namespace kestrum {
 
 class Screen;
-
-enum class Alignment { Left = 0, Right = 1, Center = 2 };
 
 struct Font {
     std::string name = "Arial";
@@ -39,6 +38,8 @@ struct Look {
     Colour back_colour = input_back;
     Colour text_colour = input_text;
     Alignment alignment = Alignment::Left;
+    /// The valve that the cell belongs to; a comparison gives its columns theirs.
+    Side side = Side::Both;
     Font font{};
 
     bool operator==(const Look&) const = default;
@@ -49,6 +50,26 @@ struct Position {
     double top = 0;
 
     bool operator==(const Position&) const = default;
+};
+
+/// Size of a picture in its own units.
+struct Extent {
+    double width = 0;
+    double height = 0;
+
+    bool operator==(const Extent&) const = default;
+};
+
+/// All of a control that can change.
+struct Control_State {
+    std::string text;
+    int value = 0;
+    Look look{};
+    Position position{};
+    Extent extent{};
+    std::vector<std::string> items{};
+
+    bool operator==(const Control_State&) const = default;
 };
 
 /// One control of a screen with its present state. A field of the system is a control of the kind
@@ -69,34 +90,43 @@ public:
     [[nodiscard]] std::string Address() const;
 
     /// The text of a field or a combo box, the caption of anything else.
-    [[nodiscard]] const std::string& Text() const { return text_; }
+    [[nodiscard]] const std::string& Text() const { return state_.text; }
 
     void Set_Text(std::string_view new_text);
     void Append_Text(std::string_view more);
 
     /// State of a check box (0 or 1) or an option button.
-    [[nodiscard]] int Value() const { return value_; }
+    [[nodiscard]] int Value() const { return state_.value; }
 
     void Set_Value(int new_value);
 
-    [[nodiscard]] const Look& Present_Look() const { return look_; }
+    [[nodiscard]] const Look& Present_Look() const { return state_.look; }
 
     void Set_Look(const Look& new_look);
     void Set_Visible(bool visible);
     void Set_Enabled(bool enabled);
 
     /// Where the user or a file has put a picture, in the units of its surface.
-    [[nodiscard]] const Position& Moved_To() const { return position_; }
+    [[nodiscard]] const Position& Moved_To() const { return state_.position; }
 
     void Move_To(const Position& position);
+
+    /// Size of a picture; nothing for any other control.
+    [[nodiscard]] const Extent& Picture_Extent() const { return state_.extent; }
+
+    void Set_Extent(const Extent& extent);
 
     /// What a picture shows has changed.
     void Repaint() { Mark_Changed(); }
 
     /// Entries of a combo box.
-    [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
+    [[nodiscard]] const std::vector<std::string>& Items() const { return state_.items; }
 
     void Set_Items(std::vector<std::string> new_items);
+
+    [[nodiscard]] const Control_State& Present_State() const { return state_; }
+
+    void Set_State(const Control_State& new_state);
 
 private:
     friend class Screen;
@@ -105,11 +135,7 @@ private:
     Screen* screen_;
     const Control_Entry* entry_;
     int index_;
-    std::string text_;
-    int value_ = 0;
-    Look look_;
-    Position position_;
-    std::vector<std::string> items_;
+    Control_State state_;
     bool changed_ = false;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screens/cell_role.h"
+
 #include <string_view>
 
 namespace kestrum {
@@ -78,6 +80,10 @@ struct Control_Entry {
     bool starts_hidden = false;
     /// Starting back colour as a blue-green-red number; -1 for the usual one of the kind.
     int back_colour = -1;
+    /// What the number of a cell measures, of which valve, and what it is to the calculation.
+    Quantity quantity = Quantity::None;
+    Side side = Side::Both;
+    Cell_Role role = Cell_Role::None;
 
     // The words of which the tables are built; each gives a changed copy.
 
@@ -151,6 +157,21 @@ struct Control_Entry {
     [[nodiscard]] constexpr Control_Entry Coloured(int blue_green_red) const {
         Control_Entry entry = *this;
         entry.back_colour = blue_green_red;
+        return entry;
+    }
+
+    [[nodiscard]] constexpr Control_Entry Of(Quantity what) const {
+        Control_Entry entry = *this;
+        entry.quantity = what;
+        return entry;
+    }
+
+    /// A cell of one valve. One with a role measures what its role does.
+    [[nodiscard]] constexpr Control_Entry Of(Side valve, Cell_Role what = Cell_Role::None) const {
+        Control_Entry entry = *this;
+        entry.side = valve;
+        entry.role = what;
+        entry.quantity = Quantity_Of(what);
         return entry;
     }
 

@@ -12,6 +12,7 @@ using enum Control_Kind;
 using enum Key_Filter;
 using enum Leave_Check;
 using enum Leave_Step;
+using enum Quantity;
 
 constexpr int marker_colour = 0x00A020; // green
 
@@ -27,15 +28,18 @@ constexpr auto engine_table = std::to_array<Control_Entry>({
 
     Blanks("Text102", 0, 0),
     Captions("Text102", 1, 2, "Peak VE|Port Vel Ft/Sec"),
-    Result("Text102", 3, "616"),
+    Result("Text102", 3, "616").Of(Speed),
     Blanks("Text102", 4, 4),
     Captions("Text102", 5, 7, "Mean|Piston speed|Ft/Min"),
-    Result("Text102", 8, "4691").Tip("The \"Mean Port Speed\" is Calculated for 'Peak HP RPM'."),
+    Result("Text102", 8, "4691")
+        .Of(Speed)
+        .Tip("The \"Mean Port Speed\" is Calculated for 'Peak HP RPM'."),
     Input("Text102", 9, "203").At(1, 14).Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
 
     Blanks("Text103", 0, 0),
     Captions("Text103", 1, 2, "Mean|Port Area"),
     Input("Text103", 3, "2.75")
+        .Of(Area)
         .Filter(Unsigned_Decimal)
         .Check(Not_Zero)
         .Selects()
@@ -43,60 +47,70 @@ constexpr auto engine_table = std::to_array<Control_Entry>({
              "Calculated from your input."),
     Blanks("Text103", 4, 4),
     Captions("Text103", 5, 7, "CFM @|Peak|Lift"),
-    Input("Text103", 8, "322").Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
+    Input("Text103", 8, "322").Of(Flow).Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
     Caption("Text103", 9, "Port Length").At(2, 14),
 
     Blanks("Text104", 0, 0),
     Captions("Text104", 1, 2, "Bore|Inches"),
-    Input("Text104", 3, "4.125").Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
+    Input("Text104", 3, "4.125").Of(Length).Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
     Blanks("Text104", 4, 4),
     Captions("Text104", 5, 7, "Best|Torque|Output"),
-    Result("Text104", 8, "581"),
-    Input("Text104", 9, "5.1").At(3, 14).Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
+    Result("Text104", 8, "581").Of(Torque),
+    Input("Text104", 9, "5.1")
+        .Of(Length)
+        .At(3, 14)
+        .Filter(Unsigned_Decimal)
+        .Check(Not_Zero)
+        .Selects(),
 
     Blanks("Text105", 0, 0),
     Captions("Text105", 1, 2, "Stroke|Inches"),
-    Input("Text105", 3, "4").Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
+    Input("Text105", 3, "4").Of(Length).Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
     Blanks("Text105", 4, 4),
     Captions("Text105", 5, 7, "Cyl. Head|Port Area|HP limitation"),
-    Result("Text105", 8, "685"),
+    Result("Text105", 8, "685").Of(Power),
     Caption("Text105", 9, "Port Area").At(4, 14),
 
     Blanks("Text106", 0, 0),
     Captions("Text106", 1, 2, "Piston|Area"),
-    Result("Text106", 3, "13.36"),
+    Result("Text106", 3, "13.36").Of(Area),
     Blanks("Text106", 4, 4),
     Captions("Text106", 5, 7, "Cyl. Head|Airflow|HP limitation"),
-    Result("Text106", 8, "740"),
-    Input("Text106", 9, "2.43").At(5, 14).Filter(Unsigned_Decimal).Check(Not_Zero).Selects(),
+    Result("Text106", 8, "740").Of(Power),
+    Input("Text106", 9, "2.43")
+        .Of(Area)
+        .At(5, 14)
+        .Filter(Unsigned_Decimal)
+        .Check(Not_Zero)
+        .Selects(),
 
     Blanks("Text107", 0, 0),
     Captions("Text107", 1, 2, "Engine|CID"),
-    Result("Text107", 3, "427.7"),
+    Result("Text107", 3, "427.7").Of(Displacement),
     Blanks("Text107", 4, 4),
     Captions("Text107", 5, 7, "Torque|per|Cubic Inch"),
-    Result("Text107", 8, "1.359"),
+    Result("Text107", 8, "1.359").Of(Torque),
 
     Blanks("Text108", 0, 0),
     Captions("Text108", 1, 2, "Cylinder|CID"),
-    Result("Text108", 3, "53.46"),
+    Result("Text108", 3, "53.46").Of(Displacement),
     Blanks("Text108", 4, 4),
     Captions("Text108", 5, 7, "Torque|per|Liter"),
-    Result("Text108", 8, "82.9"),
+    Result("Text108", 8, "82.9").Of(Torque),
 
     Blanks("Text109", 0, 0),
     Captions("Text109", 1, 2, "Peak HP|RPM"),
     Result("Text109", 3, "7037").Filter(Digits_Only).Check(Not_Zero).Selects(),
     Blanks("Text109", 4, 4),
     Captions("Text109", 5, 7, "HP|per|Cube"),
-    Result("Text109", 8, "1.6"),
+    Result("Text109", 8, "1.6").Of(Power),
 
     Blanks("Text110", 0, 0),
     Captions("Text110", 1, 2, "Shift|RPM"),
     Result("Text110", 3, "7530"),
     Blanks("Text110", 4, 4),
     Captions("Text110", 5, 7, "HP|per|Liter"),
-    Result("Text110", 8, "97.6"),
+    Result("Text110", 8, "97.6").Of(Power),
 
     Captions("Text111", 0, 2, "Number|of|Cylinder"),
     Input("Text111", 3, "8").Filter(Digits_Only).Check(Not_Zero).Selects(),
@@ -264,6 +278,6 @@ constexpr auto engine_table = std::to_array<Control_Entry>({
 
 } // namespace
 
-Engine_Screen::Engine_Screen() : Screen("Main", engine_table) {}
+Engine_Screen::Engine_Screen() : Screen({Screen_Kind::Engine}, engine_table) {}
 
 } // namespace kestrum

@@ -42,6 +42,8 @@ public:
     Control& Label7 = The("Label7");
     Control& Frame4 = The("Frame4");
     Control& Frame96 = The("Frame96");
+    Control& Frame99 = The("Frame99");
+    Control& Combo1 = The("Combo1"); // the printers
     Control& MouseP = The("MouseP");
     Control& FullScrRes = The("FullScrRes");
     Control& AspectRatio = The("AspectRatio");

@@ -13,6 +13,9 @@ using enum Control_Kind;
 using enum Key_Filter;
 using enum Leave_Check;
 using enum Leave_Step;
+using enum Side;
+using enum Quantity;
+using Role = Cell_Role;
 
 // Kinds of cell that recur.
 
@@ -48,104 +51,126 @@ constexpr std::string_view sample_lifts =
 
 constexpr auto sheet_table = std::to_array<Control_Entry>({
     // Page 1, column by column.
-    Captions("Text101", 0, 11,
-             "Part #|Port Vol In|Mean area|In. Valve|Stem Dia|Valve Area|Throat dia In|"
-             "Throat area In.|In. Cntr Length|0.25D In./Ex|Ex. Pipe Used?|Avg CFM"),
+    Caption("Text101", 0, "Part #"),
+    Caption("Text101", 1, "Port Vol In").Of(Intake),
+    Caption("Text101", 2, "Mean area"),
+    Caption("Text101", 3, "In. Valve").Of(Intake),
+    Captions("Text101", 4, 5, "Stem Dia|Valve Area"),
+    Captions("Text101", 6, 8, "Throat dia In|Throat area In.|In. Cntr Length").Of(Intake),
+    Caption("Text101", 9, "0.25D In./Ex"),
+    Caption("Text101", 10, "Ex. Pipe Used?").Of(Exhaust),
+    Caption("Text101", 11, "Avg CFM"),
     Blanks("Text101", 12, 12),
     Heading("Text101", "Actual|Valve|Lift Inch"),
-    Lift_Inputs("Text101", sample_lifts).Check(Not_Blank, Copy_Lift),
+    Lift_Inputs("Text101", sample_lifts).Check(Not_Blank, Copy_Lift).Of(Lift),
 
     Free_Text("Text102", 0, "E7TE"),
-    Dimension("Text102", 1, "203"),
-    Result("Text102", 2, "2.306").Selects(),
-    Dimension("Text102", 3, "2.02"),
-    Dimension("Text102", 4, "0.342"),
-    Result("Text102", 5, "3.205"),
-    Dimension("Text102", 6, "1.55"),
-    Result("Text102", 7, "1.89"),
-    Dimension("Text102", 8, "5.37"),
-    Result("Text102", 9, "505"),
-    Free_Text("Text102", 10, "No"),
-    Result("Text102", 11, ""),
+    Dimension("Text102", 1, "203").Of(Intake, Role::Port_Volume),
+    Result("Text102", 2, "2.306").Selects().Of(Intake, Role::Mean_Area),
+    Dimension("Text102", 3, "2.02").Of(Intake, Role::Valve_Diameter),
+    Dimension("Text102", 4, "0.342").Of(Intake, Role::Stem_Diameter),
+    Result("Text102", 5, "3.205").Of(Intake, Role::Valve_Area),
+    Dimension("Text102", 6, "1.55").Of(Intake, Role::Throat_Diameter),
+    Result("Text102", 7, "1.89").Of(Intake, Role::Throat_Area),
+    Dimension("Text102", 8, "5.37").Of(Intake, Role::Port_Length),
+    Result("Text102", 9, "505").Of(Intake, Role::Quarter_Diameter),
+    Free_Text("Text102", 10, "No").Of(Exhaust),
+    Result("Text102", 11, "").Of(Intake, Role::Mean_Flow),
     Blanks("Text102", 12, 12),
-    Heading("Text102", "CFM|Corrected|Intake"),
-    Lift_Results("Text102"),
+    Heading("Text102", "CFM|Corrected|Intake").Of(Intake),
+    Lift_Results("Text102").Of(Intake, Role::Corrected_Flow),
 
-    Captions("Text103", 0, 8,
-             "Bore Dia|Port Vol Ex|Mean area|Ex. Valve|Stem Dia|Valve Area|Throat dia Ex|"
-             "Throat area Ex|Ex Cntr Length"),
+    Caption("Text103", 0, "Bore Dia"),
+    Caption("Text103", 1, "Port Vol Ex").Of(Exhaust),
+    Caption("Text103", 2, "Mean area"),
+    Caption("Text103", 3, "Ex. Valve").Of(Exhaust),
+    Captions("Text103", 4, 5, "Stem Dia|Valve Area"),
+    Captions("Text103", 6, 8, "Throat dia Ex|Throat area Ex|Ex Cntr Length").Of(Exhaust),
     // The exhaust's figure stands under the other exhaust figures, in the fourth column.
-    Result("Text103", 9, "400").At(3, 9),
+    Result("Text103", 9, "400").At(3, 9).Of(Exhaust, Role::Quarter_Diameter),
     Blanks("Text103", 10, 10),
-    Result("Text103", 11, ""),
+    Result("Text103", 11, "").Of(Exhaust, Role::Mean_Flow),
     Blanks("Text103", 12, 12),
-    Heading("Text103", "CFM|Corrected|Exhaust"),
-    Lift_Results("Text103"),
+    Heading("Text103", "CFM|Corrected|Exhaust").Of(Exhaust),
+    Lift_Results("Text103").Of(Exhaust, Role::Corrected_Flow),
 
-    Dimension("Text104", 0, "4.11"),
-    Dimension("Text104", 1, "75"),
-    Result("Text104", 2, "1.589"),
-    Dimension("Text104", 3, "1.6"),
-    Dimension("Text104", 4, "0.342"),
-    Result("Text104", 5, "2.011"),
-    Dimension("Text104", 6, "1.28"),
-    Result("Text104", 7, "1.29"),
-    Dimension("Text104", 8, "2.88"),
+    Dimension("Text104", 0, "4.11").Of(Length),
+    Dimension("Text104", 1, "75").Of(Exhaust, Role::Port_Volume),
+    Result("Text104", 2, "1.589").Of(Exhaust, Role::Mean_Area),
+    Dimension("Text104", 3, "1.6").Of(Exhaust, Role::Valve_Diameter),
+    Dimension("Text104", 4, "0.342").Of(Exhaust, Role::Stem_Diameter),
+    Result("Text104", 5, "2.011").Of(Exhaust, Role::Valve_Area),
+    Dimension("Text104", 6, "1.28").Of(Exhaust, Role::Throat_Diameter),
+    Result("Text104", 7, "1.29").Of(Exhaust, Role::Throat_Area),
+    Dimension("Text104", 8, "2.88").Of(Exhaust, Role::Port_Length),
     Blanks("Text104", 9, 9).At(2, 9),
     Blanks("Text104", 10, 12),
-    Heading("Text104", "Effective|Lift Inch|In."),
-    Lift_Results("Text104"),
+    Heading("Text104", "Effective|Lift Inch|In.").Of(Intake),
+    Lift_Results("Text104").Of(Intake, Role::Effective_Lift),
 
-    Caption("Text105", 0, "In corner top").Tip(tips::corner_in_top),
-    Caption("Text105", 1, "In corner bot").Tip(tips::corner_in_bottom),
-    Captions("Text105", 2, 3, "In Width|Ex. Width"),
+    Caption("Text105", 0, "In corner top").Tip(tips::corner_in_top).Of(Intake),
+    Caption("Text105", 1, "In corner bot").Tip(tips::corner_in_bottom).Of(Intake),
+    Caption("Text105", 2, "In Width").Of(Intake),
+    Caption("Text105", 3, "Ex. Width").Of(Exhaust),
     Caption("Text105", 4, "Area Ratio").Tip(tips::area_ratio_in),
     Caption("Text105", 5, "Area Ratio").Tip(tips::area_ratio_ex),
-    Caption("Text105", 6, "# Int Valves"),
+    Caption("Text105", 6, "# Int Valves").Of(Intake),
     Blanks("Text105", 7, 10),
     Caption("Text105", 11, "Total CFM"),
     Blanks("Text105", 12, 12),
-    Heading("Text105", "Effective|Lift Inch|Ex"),
-    Lift_Results("Text105"),
+    Heading("Text105", "Effective|Lift Inch|Ex").Of(Exhaust),
+    Lift_Results("Text105").Of(Exhaust, Role::Effective_Lift),
 
-    Corner("Text106", 0),
-    Corner("Text106", 1),
-    Dimension("Text106", 2, "1.215"),
-    Dimension("Text106", 3, "1.37"),
+    Corner("Text106", 0).Of(Intake, Role::Top_Corner),
+    Corner("Text106", 1).Of(Intake, Role::Bottom_Corner),
+    Dimension("Text106", 2, "1.215").Of(Intake, Role::Port_Width),
+    Dimension("Text106", 3, "1.37").Of(Exhaust, Role::Port_Width),
     // A caption with the handlers of the cells above it; it stays locked all the same.
-    Caption("Text106", 4, "Intake").Filter(Unsigned_Decimal).Check(Not_Blank).Selects(),
-    Caption("Text106", 5, "Exhaust"),
-    Input("Text106", 6, "1").Filter(Digits_Only).Check(Not_Blank, Intake_Count).Selects(),
+    Caption("Text106", 4, "Intake").Filter(Unsigned_Decimal).Check(Not_Blank).Selects().Of(Intake),
+    Caption("Text106", 5, "Exhaust").Of(Exhaust),
+    Input("Text106", 6, "1")
+        .Filter(Digits_Only)
+        .Check(Not_Blank, Intake_Count)
+        .Selects()
+        .Of(Intake),
     Captions("Text106", 7, 8, "Test|Correct"),
     Blanks("Text106", 9, 10),
-    Result("Text106", 11, ""),
-    Caption("Text106", 12, "CFM"),
-    Heading("Text106", "Observed|Flow|Intake"),
-    Lift_Inputs("Text106", "0|35.8|73|110|145|169|193.5|211.5|230|257.4|268|277|282|284|285"),
+    Result("Text106", 11, "").Of(Intake, Role::Total_Flow),
+    Caption("Text106", 12, "CFM").Of(Intake),
+    Heading("Text106", "Observed|Flow|Intake").Of(Intake),
+    Lift_Inputs("Text106", "0|35.8|73|110|145|169|193.5|211.5|230|257.4|268|277|282|284|285")
+        .Of(Intake, Role::Observed_Flow),
 
-    Caption("Text107", 0, "Ex corner top").Tip(tips::corner_ex_top),
-    Caption("Text107", 1, "Ex corner bot").Tip(tips::corner_ex_bottom),
-    Captions("Text107", 2, 3, "In Height|Ex Height"),
-    Result("Text107", 4, "0.812"),
-    Result("Text107", 5, "0.896"),
-    Captions("Text107", 6, 8, "# Exh Valves|Pressure|To:-------"),
+    Caption("Text107", 0, "Ex corner top").Tip(tips::corner_ex_top).Of(Exhaust),
+    Caption("Text107", 1, "Ex corner bot").Tip(tips::corner_ex_bottom).Of(Exhaust),
+    Caption("Text107", 2, "In Height").Of(Intake),
+    Caption("Text107", 3, "Ex Height").Of(Exhaust),
+    Result("Text107", 4, "0.812").Of(Intake, Role::Area_Ratio),
+    Result("Text107", 5, "0.896").Of(Exhaust, Role::Area_Ratio),
+    Caption("Text107", 6, "# Exh Valves").Of(Exhaust),
+    Captions("Text107", 7, 8, "Pressure|To:-------"),
     Blanks("Text107", 9, 10),
-    Result("Text107", 11, ""),
-    Caption("Text107", 12, "CFM"),
-    Heading("Text107", "Observed|Flow|Exhaust"),
-    Lift_Inputs("Text107", "0|24.6|52|77|109|136.6|147.7|161|179|187.9|188.6|198.6|207|215|222"),
+    Result("Text107", 11, "").Of(Exhaust, Role::Total_Flow),
+    Caption("Text107", 12, "CFM").Of(Exhaust),
+    Heading("Text107", "Observed|Flow|Exhaust").Of(Exhaust),
+    Lift_Inputs("Text107", "0|24.6|52|77|109|136.6|147.7|161|179|187.9|188.6|198.6|207|215|222")
+        .Of(Exhaust, Role::Observed_Flow),
 
-    Corner("Text108", 0),
-    Corner("Text108", 1),
-    Dimension("Text108", 2, "2.17"),
-    Dimension("Text108", 3, "1.34"),
+    Corner("Text108", 0).Of(Exhaust, Role::Top_Corner),
+    Corner("Text108", 1).Of(Exhaust, Role::Bottom_Corner),
+    Dimension("Text108", 2, "2.17").Of(Intake, Role::Port_Height),
+    Dimension("Text108", 3, "1.34").Of(Exhaust, Role::Port_Height),
     Blanks("Text108", 4, 5),
-    Input("Text108", 6, "1").Filter(Digits_Only).Check(Not_Blank, Exhaust_Count).Selects(),
+    Input("Text108", 6, "1")
+        .Filter(Digits_Only)
+        .Check(Not_Blank, Exhaust_Count)
+        .Selects()
+        .Of(Exhaust),
     Dimension("Text108", 7, "28"),
     Dimension("Text108", 8, "28").Check(Not_Blank),
     Blanks("Text108", 9, 12),
     Heading("Text108", "Actual|Valve|Lift Inch"),
-    Results("Text108", zero_lift_row, last_lift_row, sample_lifts),
+    Results("Text108", zero_lift_row, last_lift_row, sample_lifts).Of(Lift),
 
     Blanks("Text109", 0, 1),
     Caption("Text109", 2, "Area").Tip(tips::port_in),
@@ -155,91 +180,97 @@ constexpr auto sheet_table = std::to_array<Control_Entry>({
     Blanks("Text109", 7, 7),
     Caption("Text109", 8, "Correx"),
     Blanks("Text109", 9, 12),
-    Heading("Text109", "CFM|Sq In|In."),
-    Lift_Results("Text109"),
+    Heading("Text109", "CFM|Sq In|In.").Of(Intake),
+    Lift_Results("Text109").Of(Intake, Role::Flow_Per_Area),
 
     Blanks("Text110", 0, 1),
-    Result("Text110", 2, "2.602"),
-    Result("Text110", 3, "1.801"),
+    Result("Text110", 2, "2.602").Of(Intake, Role::Port_Area),
+    Result("Text110", 3, "1.801").Of(Exhaust, Role::Port_Area),
     Blanks("Text110", 4, 4),
-    Dimension("Text110", 5, "9.0"),
-    Dimension("Text110", 6, "700"),
+    Dimension("Text110", 5, "9.0").Of(Ratio),
+    Dimension("Text110", 6, "700").Of(Lift),
     Blanks("Text110", 7, 7),
-    Result("Text110", 8, "1"),
+    Result("Text110", 8, "1").Of(Ratio),
     Blanks("Text110", 9, 12),
-    Heading("Text110", "CFM|Sq In|Ex."),
-    Lift_Results("Text110"),
+    Heading("Text110", "CFM|Sq In|Ex.").Of(Exhaust),
+    Lift_Results("Text110").Of(Exhaust, Role::Flow_Per_Area),
 
     Blanks("Text111", 0, 1),
-    Results("Text111", 2, 3, ""),
+    Result("Text111", 2, "").Of(Intake, Role::Bottom_Loss),
+    Result("Text111", 3, "").Of(Exhaust, Role::Bottom_Loss),
     Blanks("Text111", 4, 5),
     Captions("Text111", 6, 8, "Eng Bore|Ratio Throat|Ratio Valve"),
     Blanks("Text111", 9, 9),
     Captions("Text111", 10, 11, "Required|Existing"),
     Blanks("Text111", 12, 12),
-    Heading("Text111", "SAE|CD|In"),
-    Lift_Results("Text111"),
+    Heading("Text111", "SAE|CD|In").Of(Intake),
+    Lift_Results("Text111").Of(Intake, Role::Discharge),
 
     Blanks("Text112", 0, 1),
-    Results("Text112", 2, 3, ""),
+    Result("Text112", 2, "").Of(Intake, Role::Top_Loss),
+    Result("Text112", 3, "").Of(Exhaust, Role::Top_Loss),
     Blanks("Text112", 4, 5),
-    Dimension("Text112", 6, "4.00"),
-    Captions("Text112", 7, 8, "Valve Int|Bore Int"),
+    Dimension("Text112", 6, "4.00").Of(Length),
+    Captions("Text112", 7, 8, "Valve Int|Bore Int").Of(Intake),
     Blanks("Text112", 9, 9),
     Captions("Text112", 10, 11, "In/Ex Rat|In/Ex Rat"),
     Blanks("Text112", 12, 12),
-    Heading("Text112", "SAE|CD|Ex"),
-    Lift_Results("Text112"),
+    Heading("Text112", "SAE|CD|Ex").Of(Exhaust),
+    Lift_Results("Text112").Of(Exhaust, Role::Discharge),
 
     Blanks("Text113", 0, 6),
-    Results("Text113", 7, 8, ""),
+    Result("Text113", 7, "").Of(Intake, Role::Throat_Ratio),
+    Result("Text113", 8, "").Of(Intake, Role::Bore_Ratio),
     Blanks("Text113", 9, 9),
-    Results("Text113", 10, 12, ""),
+    Results("Text113", 10, 12, "").Of(Ratio),
     Heading("Text113", "In/Ex|Flow|Ratio"),
-    Lift_Results("Text113"),
+    Lift_Results("Text113").Of(Ratio),
 
     Blanks("Text114", 0, 6),
-    Captions("Text114", 7, 8, "Valve Exh|Bore Exh"),
+    Captions("Text114", 7, 8, "Valve Exh|Bore Exh").Of(Exhaust),
     Blanks("Text114", 9, 11),
-    Caption("Text114", 12, "fps"),
-    Heading("Text114", "Mean|Port|Vel In."),
-    Lift_Results("Text114"),
+    Caption("Text114", 12, "fps").Of(Intake),
+    Heading("Text114", "Mean|Port|Vel In.").Of(Intake),
+    Lift_Results("Text114").Of(Intake, Role::Port_Velocity),
 
     Blanks("Text115", 0, 6),
-    Results("Text115", 7, 8, ""),
+    Result("Text115", 7, "").Of(Exhaust, Role::Throat_Ratio),
+    Result("Text115", 8, "").Of(Exhaust, Role::Bore_Ratio),
     Blanks("Text115", 9, 11),
-    Caption("Text115", 12, "fps"),
-    Heading("Text115", "Mean|Port|Vel Ex."),
-    Lift_Results("Text115"),
+    Caption("Text115", 12, "fps").Of(Exhaust),
+    Heading("Text115", "Mean|Port|Vel Ex.").Of(Exhaust),
+    Lift_Results("Text115").Of(Exhaust, Role::Port_Velocity),
 
     Lone_Field("Text39", Cell_Use::Caption, "").At(0, 31, 15),
 
     // Page 2.
     Lone(Frame, "Frame1", "").Hidden().At(0, 0, 15, 32),
-    Captions("Text201", 3, 5, "In. Valve|Seat Angle|Seat Width").In("Frame1"),
-    Heading("Text201", "Effective|Valve|Area In.").In("Frame1"),
-    Lift_Results("Text201").In("Frame1"),
+    Caption("Text201", 3, "In. Valve").Of(Intake).In("Frame1"),
+    Captions("Text201", 4, 5, "Seat Angle|Seat Width").In("Frame1"),
+    Heading("Text201", "Effective|Valve|Area In.").Of(Intake).In("Frame1"),
+    Lift_Results("Text201").Of(Intake, Role::Effective_Area).In("Frame1"),
 
     Blanks("Text202", 3, 3).In("Frame1"),
-    Dimension("Text202", 4, "52").In("Frame1"),
-    Dimension("Text202", 5, "0.045").In("Frame1"),
-    Heading("Text202", "Effective|Valve|Area Ex.").In("Frame1"),
-    Lift_Results("Text202").In("Frame1"),
+    Dimension("Text202", 4, "52").Of(Intake, Role::Seat_Angle).In("Frame1"),
+    Dimension("Text202", 5, "0.045").Of(Intake, Role::Seat_Width).In("Frame1"),
+    Heading("Text202", "Effective|Valve|Area Ex.").Of(Exhaust).In("Frame1"),
+    Lift_Results("Text202").Of(Exhaust, Role::Effective_Area).In("Frame1"),
 
-    Captions("Text203", 3, 5, "Ex. Valve|Seat Angle|Seat Width").In("Frame1"),
-    Heading("Text203", "Effective|Valve|Vel In.").In("Frame1"),
-    Lift_Results("Text203").In("Frame1"),
+    Caption("Text203", 3, "Ex. Valve").Of(Exhaust).In("Frame1"),
+    Captions("Text203", 4, 5, "Seat Angle|Seat Width").In("Frame1"),
+    Heading("Text203", "Effective|Valve|Vel In.").Of(Intake).In("Frame1"),
+    Lift_Results("Text203").Of(Intake, Role::Effective_Velocity).In("Frame1"),
 
     Blanks("Text204", 3, 3).In("Frame1"),
-    Dimension("Text204", 4, "42").In("Frame1"),
-    Dimension("Text204", 5, "0.065").In("Frame1"),
-    Heading("Text204", "Effective|Valve|Vel Ex.").In("Frame1"),
-    Lift_Results("Text204").In("Frame1"),
+    Dimension("Text204", 4, "42").Of(Exhaust, Role::Seat_Angle).In("Frame1"),
+    Dimension("Text204", 5, "0.065").Of(Exhaust, Role::Seat_Width).In("Frame1"),
+    Heading("Text204", "Effective|Valve|Vel Ex.").Of(Exhaust).In("Frame1"),
+    Lift_Results("Text204").Of(Exhaust, Role::Effective_Velocity).In("Frame1"),
 
-    Heading("text205", "Effective|SAE|CD In.").In("Frame1"),
-    Lift_Results("text205").In("Frame1"),
-    Heading("Text206", "Effective|SAE|CD Ex.").In("Frame1"),
-    Lift_Results("Text206").In("Frame1"),
+    Heading("text205", "Effective|SAE|CD In.").Of(Intake).In("Frame1"),
+    Lift_Results("text205").Of(Intake, Role::Effective_Discharge).In("Frame1"),
+    Heading("Text206", "Effective|SAE|CD Ex.").Of(Exhaust).In("Frame1"),
+    Lift_Results("Text206").Of(Exhaust, Role::Effective_Discharge).In("Frame1"),
 
     Heading("Text207", "|Swirl|").In("Frame1"),
     Lift_Inputs("Text207",
@@ -247,15 +278,15 @@ constexpr auto sheet_table = std::to_array<Control_Entry>({
         .Filter(Signed_Decimal)
         .In("Frame1"),
 
-    Heading("Text208", "L / D|Ratio|Intake").In("Frame1"),
-    Lift_Results("Text208").In("Frame1"),
-    Heading("Text209", "L / D|Ratio|Exhaust").In("Frame1"),
-    Lift_Results("Text209").In("Frame1"),
+    Heading("Text208", "L / D|Ratio|Intake").Of(Intake).In("Frame1"),
+    Lift_Results("Text208").Of(Intake, Role::Lift_Ratio).In("Frame1"),
+    Heading("Text209", "L / D|Ratio|Exhaust").Of(Exhaust).In("Frame1"),
+    Lift_Results("Text209").Of(Exhaust, Role::Lift_Ratio).In("Frame1"),
 
-    Heading("Text210", "Floating|Depression|Intake").In("Frame1"),
-    Lift_Inputs("Text210", "0").In("Frame1"),
-    Heading("Text211", "Floating|Depression|Exhaust").In("Frame1"),
-    Lift_Inputs("Text211", "0").In("Frame1"),
+    Heading("Text210", "Floating|Depression|Intake").Of(Intake).In("Frame1"),
+    Lift_Inputs("Text210", "0").Of(Intake, Role::Depression).In("Frame1"),
+    Heading("Text211", "Floating|Depression|Exhaust").Of(Exhaust).In("Frame1"),
+    Lift_Inputs("Text211", "0").Of(Exhaust, Role::Depression).In("Frame1"),
 
     Lone(Label, "Label38", "Comments:").In("Frame1").At(5, 3),
     Lone_Field("Text38", Cell_Use::Input, "").Many_Lines().Selects().In("Frame1").At(5, 4, 6, 8),
@@ -277,6 +308,8 @@ constexpr auto sheet_table = std::to_array<Control_Entry>({
     Menu("Import_Data", "Import_Flow_Data_Files",
          "Import Flow Data From a 'FLW' or 'DFW' or DeskTop Dyno, or Dynomation File"),
     Menu("File", "Export", "Export Flow Data in 'DFW' Format"),
+    Menu("File", "Import_CSV", "Import Flow Data From a CSV File"),
+    Menu("File", "Export_CSV", "Export Flow Data in CSV Format"),
     Menu("File", "subend", "Quit / Close").Keys("Ctrl+W"),
     Menu("File", "PrtSc", "&Print Screen to JPG / Image"),
     Menu("File", "Print_Sheet", "Print Flow Sheet for Customer").Keys("Ctrl+P"),
@@ -284,7 +317,26 @@ constexpr auto sheet_table = std::to_array<Control_Entry>({
 
 } // namespace
 
-Flow_Sheet::Flow_Sheet(int number)
-    : Screen(std::string("Form") + static_cast<char>('0' + number), sheet_table), number_(number) {}
+Flow_Sheet::Flow_Sheet(int number) : Screen({Screen_Kind::Sheet, number}, sheet_table) {
+    for (Control& control : Controls()) {
+        const Control_Entry& entry = control.Entry();
+        if (entry.role != Cell_Role::None) {
+            Slot& slot = slots_[Slot_Of(entry.side, entry.role)];
+            slot = {.cell = &control, .column = &Array(entry.array)};
+        }
+    }
+}
+
+std::size_t Flow_Sheet::Slot_Of(Side side, Cell_Role role) {
+    return static_cast<std::size_t>(side) * cell_role_count + static_cast<std::size_t>(role);
+}
+
+Control& Flow_Sheet::Cell(Side side, Cell_Role role) const {
+    return *slots_[Slot_Of(side, role)].cell;
+}
+
+const Control_Array& Flow_Sheet::Column(Side side, Cell_Role role) const {
+    return *slots_[Slot_Of(side, role)].column;
+}
 
 } // namespace kestrum

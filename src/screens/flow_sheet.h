@@ -2,9 +2,11 @@
 
 #include "screens/screen.h"
 
+#include <array>
+#include <cstddef>
+
 namespace kestrum {
 
-inline constexpr int sheet_count = 5;
 inline constexpr int zero_lift_row = 16;
 inline constexpr int first_test_row = 17;
 inline constexpr int last_lift_row = 30;
@@ -15,7 +17,7 @@ class Flow_Sheet : public Screen {
 public:
     explicit Flow_Sheet(int number);
 
-    [[nodiscard]] int Number() const { return number_; }
+    [[nodiscard]] int Number() const { return Id().number; }
 
     // Page 1.
     const Control_Array& Text101 = Array("Text101");
@@ -54,8 +56,20 @@ public:
     /// Page 2.
     Control& Frame1 = The("Frame1");
 
+    /// The cell of the header that has a role for a valve, as the table says.
+    [[nodiscard]] Control& Cell(Side side, Cell_Role role) const;
+    /// The column of the lift rows that has a role for a valve.
+    [[nodiscard]] const Control_Array& Column(Side side, Cell_Role role) const;
+
 private:
-    int number_;
+    struct Slot {
+        Control* cell = nullptr;
+        const Control_Array* column = nullptr;
+    };
+
+    [[nodiscard]] static std::size_t Slot_Of(Side side, Cell_Role role);
+
+    std::array<Slot, static_cast<std::size_t>(side_count* cell_role_count)> slots_{};
 };
 
 } // namespace kestrum

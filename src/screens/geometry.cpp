@@ -8,7 +8,8 @@ namespace {
 
 constexpr double column_width = 1200;
 constexpr double row_height = 285;
-constexpr double canvas_size = 600;
+/// Pixels of the graph's canvas with the two captions under the plot.
+constexpr double canvas_height = 664;
 
 /// "Text104": the fourth column; -1 for a name that tells none.
 int Column_In_Name(std::string_view array) {
@@ -17,6 +18,17 @@ int Column_In_Name(std::string_view array) {
         return -1;
     }
     return (array[5] - '0') * 10 + (array[6] - '0') - 1;
+}
+
+Twips Cell_In_Twips(const Control& control) {
+    const Place place = Place_Of(control);
+    if (place.column < 0) {
+        return {};
+    }
+    return {.left = place.column * column_width,
+            .top = place.row * row_height,
+            .width = place.columns * column_width,
+            .height = place.rows * row_height};
 }
 
 } // namespace
@@ -33,30 +45,27 @@ Place Place_Of(const Control& control) {
 }
 
 Twips Place_In_Twips(const Control& control) {
-    if (control.Entry().kind == Control_Kind::Picture) {
-        return {.left = control.Moved_To().left,
-                .top = control.Moved_To().top,
-                .width = canvas_size,
-                .height = canvas_size};
+    if (control.Entry().kind != Control_Kind::Picture) {
+        return Cell_In_Twips(control);
     }
-    const Place place = Place_Of(control);
-    if (place.column < 0) {
-        return {};
-    }
-    return {.left = place.column * column_width,
-            .top = place.row * row_height,
-            .width = place.columns * column_width,
-            .height = place.rows * row_height};
+    return {.left = control.Moved_To().left,
+            .top = control.Moved_To().top,
+            .width = control.Picture_Extent().width,
+            .height = control.Picture_Extent().height};
 }
 
 Twips Place_In_Twips(const Screen& screen) {
-    Twips size{.left = 0, .top = 0, .width = 0, .height = 0};
+    Twips whole{.left = screen.place.left, .top = screen.place.top, .width = 0, .height = 0};
     for (const Control& control : screen.Controls()) {
-        const Twips place = Place_In_Twips(control);
-        size.width = std::max(size.width, place.left + place.width);
-        size.height = std::max(size.height, place.top + place.height);
+        Twips cell = Cell_In_Twips(control);
+        if (control.Entry().kind == Control_Kind::Picture && cell.height > 0) {
+            // The rows of the canvas are those of the controls beside it; it needs more.
+            cell.height = std::max(cell.height, canvas_height * twips_per_pixel);
+        }
+        whole.width = std::max(whole.width, cell.left + cell.width);
+        whole.height = std::max(whole.height, cell.top + cell.height);
     }
-    return size;
+    return whole;
 }
 
 } // namespace kestrum

@@ -4,6 +4,9 @@
 
 namespace kestrum {
 
+/// On every display.
+inline constexpr double twips_per_pixel = 15;
+
 /// A place on a screen in twips, 1440 to the inch.
 struct Twips {
     double left = 0;
@@ -16,9 +19,9 @@ struct Twips {
 /// and row in its name ("Text104(6)": fourth column, seventh row).
 [[nodiscard]] Place Place_Of(const Control& control);
 
-/// Design place of a control. The canvas of the graph is measured in its own 600 units.
+/// Design place of a control. A picture is measured in its own units, which are pixels.
 [[nodiscard]] Twips Place_In_Twips(const Control& control);
-/// Design size of a screen.
+/// Place of a screen on the display, and its design size.
 [[nodiscard]] Twips Place_In_Twips(const Screen& screen);
 
 } // namespace kestrum

@@ -34,11 +34,18 @@ constexpr auto graph_table = std::to_array<Control_Entry>({
 
 } // namespace
 
-Graph_Screen::Graph_Screen() : Screen("Form60", graph_table) {}
+Graph_Screen::Graph_Screen() : Screen({Screen_Kind::Graph}, graph_table) {}
 
-void Graph_Screen::Show_Logo(bool shown) const {
-    Picture2.Set_Visible(shown);
-    Logo.Set_Text(shown ? "Logo -- Is ON" : logo_is_off);
+void Graph_Screen::Show_Logo(const Extent& size) const {
+    Picture2.Set_Extent(size);
+    Picture2.Set_Visible(true);
+    Logo.Set_Text("Logo -- Is ON");
+}
+
+void Graph_Screen::Hide_Logo() const {
+    Picture2.Set_Extent({});
+    Picture2.Set_Visible(false);
+    Logo.Set_Text(logo_is_off);
 }
 
 } // namespace kestrum

@@ -21,8 +21,9 @@ public:
     Control& Label19 = The("Label19"); // X under the mouse
     Control& Check1 = The("Check1");   // drawing with the mouse
 
-    /// Shows or hides the logo, and what the button says of it.
-    void Show_Logo(bool shown) const;
+    /// Shows a logo of a size, or hides it, and what the button says of it.
+    void Show_Logo(const Extent& size) const;
+    void Hide_Logo() const;
 };
 
 } // namespace kestrum

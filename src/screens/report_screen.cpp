@@ -19,7 +19,19 @@ constexpr Control_Entry Fields(int first, std::string_view captions) {
         .At(first / count, 0);
 }
 
-constexpr auto report_table = std::to_array<Control_Entry>({
+/// A hint stands until the mouse is over another button or over the bare form.
+template <std::size_t count>
+constexpr std::array<Control_Entry, count>
+With_Lasting_Hints(std::array<Control_Entry, count> table) {
+    for (Control_Entry& entry : table) {
+        if (entry.hover == Hover::Hides) {
+            entry = entry.Keeps_Tip();
+        }
+    }
+    return table;
+}
+
+constexpr auto report_table = With_Lasting_Hints(std::to_array<Control_Entry>({
     Lone(Frame, "Frame1", "Show  Information from Main Screen on Report").At(0, 0, 4, 3),
     Members(Check_Box, "Check3", 0, 0, "Yes").Set().In("Frame1").At(0, 0),
     Lone(Frame, "Frame2", "Show These Flow Test on Report").At(0, 3, 4, 6),
@@ -58,12 +70,12 @@ constexpr auto report_table = std::to_array<Control_Entry>({
     Push_Button("subend", "&Quit")
         .At(10, 15, 2, 2)
         .Tip("Quit / Close the Flow Test compare Screen"),
-    Lone_Field("Text38", Cell_Use::Input, "").Many_Lines().Hidden().At(0, 0, 12, 17),
+    Lone_Field("Text38", Cell_Use::None, "").Many_Lines().Hidden().At(0, 0, 12, 17),
     Lone(Label, "Label7", "").Hidden(),
-});
+}));
 
 } // namespace
 
-Report_Screen::Report_Screen() : Screen("Form70", report_table) {}
+Report_Screen::Report_Screen() : Screen({Screen_Kind::Report}, report_table) {}
 
 } // namespace kestrum

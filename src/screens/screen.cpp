@@ -1,6 +1,6 @@
 #include "screens/screen.h"
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -20,7 +20,7 @@ void Control_Array::Refuse(int index) {
     Fail_No_Element(index);
 }
 
-Screen::Screen(std::string_view name, std::span<const Control_Entry> table) : name_(name) {
+Screen::Screen(Screen_Id id, std::span<const Control_Entry> table) : id_(id), name_(Name_Of(id)) {
     std::size_t count = 0;
     for (const Control_Entry& entry : table) {
         count += Member_Count(entry);
@@ -59,6 +59,33 @@ std::vector<Control*> Screen::Take_Changes() {
         control->changed_ = false;
     }
     return std::exchange(changes_, {});
+}
+
+Screen_State Screen::Present_State() {
+    if (!kept_states_) {
+        std::vector<Control_State> states;
+        states.reserve(controls_.size());
+        for (const Control& control : controls_) {
+            states.push_back(control.Present_State());
+        }
+        kept_states_ = std::make_shared<const std::vector<Control_State>>(std::move(states));
+    }
+    return {.caption = caption,
+            .visible = visible,
+            .plain_pointer = plain_pointer,
+            .controls = kept_states_};
+}
+
+void Screen::Set_State(const Screen_State& state) {
+    caption = state.caption;
+    plain_pointer = state.plain_pointer;
+    if (state.controls == kept_states_) {
+        return; // nothing has changed since
+    }
+    for (std::size_t at = 0; at < controls_.size(); ++at) {
+        controls_[at].Set_State((*state.controls)[at]);
+    }
+    kept_states_ = state.controls;
 }
 
 const Control_Array& Screen::Array(std::string_view array_name) const {

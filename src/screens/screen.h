@@ -2,8 +2,10 @@
 
 #include "screens/control.h"
 #include "screens/control_entry.h"
+#include "screens/screen_id.h"
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -39,18 +41,33 @@ private:
     std::vector<Control*> members_;
 };
 
+/// All of a screen that can change. States of one screen share what has not changed between them.
+struct Screen_State {
+    std::string caption;
+    bool visible = false;
+    bool plain_pointer = false;
+    /// In table order.
+    std::shared_ptr<const std::vector<Control_State>> controls;
+};
+
 /// A window of the system: named controls in the order of its table, and nothing that they do.
 class Screen {
 public:
-    Screen(std::string_view name, std::span<const Control_Entry> table);
+    Screen(Screen_Id id, std::span<const Control_Entry> table);
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
     virtual ~Screen() = default;
+
+    [[nodiscard]] Screen_Id Id() const { return id_; }
+
+    [[nodiscard]] Screen_Kind Kind() const { return id_.kind; }
 
     [[nodiscard]] const std::string& Name() const { return name_; }
 
     std::string caption;
     bool visible = false;
+    /// Left and top on the display, in twips.
+    Position place;
     /// Whether the mouse shows as the plain arrow everywhere on the screen.
     bool plain_pointer = false;
 
@@ -67,6 +84,11 @@ public:
     /// paints them.
     [[nodiscard]] std::vector<Control*> Take_Changes();
 
+    [[nodiscard]] Screen_State Present_State();
+    /// Takes over what a screen of the same kind held, but for `visible`: a screen is shown and
+    /// hidden by the session.
+    void Set_State(const Screen_State& state);
+
     /// A control array by its name. A name that the table lacks is a fault of the program.
     [[nodiscard]] const Control_Array& Array(std::string_view array_name) const;
 
@@ -76,11 +98,14 @@ protected:
 private:
     friend class Control;
 
+    Screen_Id id_;
     std::string name_;
     std::vector<Control> controls_;
     std::map<std::string_view, Control_Array, std::less<>> arrays_;
     std::map<std::string_view, Control*, std::less<>> lone_controls_;
     std::vector<Control*> changes_;
+    /// The controls as they stand, if they have been asked for since the last change.
+    std::shared_ptr<const std::vector<Control_State>> kept_states_;
 };
 
 } // namespace kestrum

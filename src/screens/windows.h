@@ -17,6 +17,9 @@ struct Windows {
     /// A screen that shows already is asked for again.
     virtual void Raise(Screen& /*screen*/) {}
 
+    /// Shows a screen again without moving the focus to it.
+    virtual void Show_Behind(Screen& screen) { Show(screen); }
+
     virtual void Hide(Screen& screen) = 0;
     /// The screen is about to be destroyed with all its controls.
     virtual void Unload(Screen& screen) = 0;

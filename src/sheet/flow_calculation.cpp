@@ -1,6 +1,6 @@
 #include "sheet/flow_calculation.h"
 
-#include "core/text.h"
+#include "base/text.h"
 #include "sheet/flow_header.h"
 #include "sheet/flow_rows.h"
 #include "sheet/flow_units.h"
@@ -11,7 +11,7 @@ namespace kestrum {
 namespace {
 
 void Report_Failure(Session& session, const Run_Time_Error& failure) {
-    std::string text = "Error Number " + session.number.Fmt_Whole(failure.Number()) + " -- " +
+    std::string text = "Error Number " + session.numbers.Fmt_Whole(failure.Number()) + " -- " +
                        failure.Description() +
                        "\r\n\r\nPlease Save your Data.\r\n\r\nIf you can NOT Find the Reason for "
                        "this Error. Please the Sent the Saved Data file and a Print Screen of this "
@@ -25,18 +25,19 @@ void Report_Failure(Session& session, const Run_Time_Error& failure) {
 /// `Calc_Flow_US` and `Calc_Flow_Metric`: one body, two descriptions of units.
 void Calc_Flow(Session& session, Flow_Sheet& sheet, const Flow_Units& units) {
     try {
-        const Flow_Context context{session, sheet, units, Intake_Side(session, sheet),
-                                   Exhaust_Side(session, sheet)};
+        const Flow_Context context{session, sheet, units,
+                                   Valve_Side_Of(session, sheet, Side::Intake),
+                                   Valve_Side_Of(session, sheet, Side::Exhaust)};
         Calc_Header(context);
         if (units.sets_up_seats) {
-            Seat_Geometry_Setup(session.number, context.intake, units.factors);
-            Seat_Geometry_Setup(session.number, context.exhaust, units.factors);
+            Seat_Geometry_Setup(session.numbers, context.intake, units.factors);
+            Seat_Geometry_Setup(session.numbers, context.exhaust, units.factors);
         }
-        Flow_Totals totals;
+        session.flow_totals = {};
         for (int row = zero_lift_row; row <= last_lift_row; ++row) {
-            Calc_Lift_Row(context, row, totals);
+            Calc_Lift_Row(context, row);
         }
-        Calc_Averages(context, totals);
+        Calc_Averages(context);
     } catch (const Run_Time_Error& failure) {
         Report_Failure(session, failure);
     }
@@ -45,8 +46,8 @@ void Calc_Flow(Session& session, Flow_Sheet& sheet, const Flow_Units& units) {
 } // namespace
 
 void Calc_Flow_Test(Session& session, Flow_Sheet& sheet) {
-    session.intake_valves = session.number.Read_Integer(sheet.Text106(6).Text());
-    session.exhaust_valves = session.number.Read_Integer(sheet.Text108(6).Text());
+    session.intake_valves = session.numbers.Read_Integer(sheet.Text106(6));
+    session.exhaust_valves = session.numbers.Read_Integer(sheet.Text108(6));
     Calc_Flow(session, sheet, session.Main().Is_Metric() ? Metric_Flow_Units() : Us_Flow_Units());
 }
 

@@ -152,11 +152,12 @@ void Effective_Flow_Area(const Row_Side& at) {
         return;
     }
     const Units& units = at.Factors();
-    Numeric_Text& number = at.context.session.number;
+    Numeric_Text& numbers = at.context.session.numbers;
     // The row's own lift, not the effective one; the velocity takes the area unrounded.
-    const Real area = Effective_Area(at.side, at.Number(at.Lift()) / 1000, units);
+    const Real area = Effective_Area(at.context.session.curtain_areas, at.side,
+                                     at.Number(at.Lift()) / 1000, units);
     at.Put(area_field, area * units.square_inch, at.context.units.effective_area);
-    const Real flow = number.Read(number.Text_To_Number_String(at.Corrected().Text()));
+    const Real flow = numbers.Read_Either_Mark(at.Corrected());
     at.Put(velocity, flow / units.cubic_foot / area * 2.4 * units.foot,
            &Numeric_Text::Fmt_One_Place);
 }
@@ -210,7 +211,8 @@ void Flow_Average(const Flow_Context& context, const Valve_Side& side,
 
 } // namespace
 
-void Calc_Lift_Row(const Flow_Context& context, int row, Flow_Totals& totals) {
+void Calc_Lift_Row(const Flow_Context& context, int row) {
+    Flow_Totals& totals = context.session.flow_totals;
     const Row_Side intake{context, context.intake, row};
     const Row_Side exhaust{context, context.exhaust, row};
     Correct_Flow(intake);
@@ -231,7 +233,8 @@ void Calc_Lift_Row(const Flow_Context& context, int row, Flow_Totals& totals) {
     both(Lift_Ratio);
 }
 
-void Calc_Averages(const Flow_Context& context, const Flow_Totals& totals) {
+void Calc_Averages(const Flow_Context& context) {
+    const Flow_Totals& totals = context.session.flow_totals;
     Required_Ratio(context);
     Existing_Ratio(context, totals);
     const Flow_Totals::Sum& all = totals.ratio_all;

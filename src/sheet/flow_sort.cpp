@@ -4,9 +4,9 @@ namespace kestrum {
 
 namespace {
 
-Real Lift_Of(Numeric_Text& number, const Control& field) {
+Real Lift_Of(Numeric_Text& numbers, const Control& field) {
     try {
-        return number.Read(number.Text_To_Number_String(field.Text()));
+        return numbers.Read_Either_Mark(field);
     } catch (const Run_Time_Error&) {
         return 0;
     }
@@ -38,8 +38,8 @@ void Sort_Flow_Sheet(Session& session, Flow_Sheet& sheet) {
     while (exchanged) {
         exchanged = false;
         for (int row = first_test_row; row < last_lift_row; ++row) {
-            const Real upper = Lift_Of(session.number, sheet.Text101(row));
-            const Real lower = Lift_Of(session.number, sheet.Text101(row + 1));
+            const Real upper = Lift_Of(session.numbers, sheet.Text101(row));
+            const Real lower = Lift_Of(session.numbers, sheet.Text101(row + 1));
             if (!In_Order(upper, lower)) {
                 Exchange_Rows(sheet, row);
                 exchanged = true;

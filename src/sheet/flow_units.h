@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/units.h"
+#include "base/units.h"
 #include "sheet/valve_side.h"
 
 #include <string_view>
@@ -30,10 +30,10 @@ struct Flow_Context {
     Valve_Side intake;
     Valve_Side exhaust;
 
-    [[nodiscard]] Real Number(const Control& field) const { return session.number(field); }
+    [[nodiscard]] Real Number(const Control& field) const { return session.numbers(field); }
 
     void Put(Control& target, Real value, Format format) const {
-        target.Set_Text((session.number.*format)(value));
+        target.Set_Text((session.numbers.*format)(value));
     }
 };
 

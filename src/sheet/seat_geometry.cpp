@@ -12,15 +12,15 @@ constexpr double degree = 0.017453292519943278;
 
 } // namespace
 
-void Seat_Geometry_Setup(const Numeric_Text& number, const Valve_Side& side, const Units& units) {
+void Seat_Geometry_Setup(const Numeric_Text& numbers, const Valve_Side& side, const Units& units) {
     Seat_Geometry& seat = side.seat;
-    seat.throat_limit = (circle * Squared(number(side.throat_diameter) / 2) / units.square_inch -
-                         circle * Squared(number(side.stem_diameter) / units.inch / 2)) *
+    seat.throat_limit = (circle * Squared(numbers(side.throat_diameter) / 2) / units.square_inch -
+                         circle * Squared(numbers(side.stem_diameter) / units.inch / 2)) *
                         side.valves;
-    seat.valve_diameter = number(side.valve_diameter) / units.inch;
+    seat.valve_diameter = numbers(side.valve_diameter) / units.inch;
     // The seat's own width is taken as typed in both unit systems.
-    seat.angle = number(side.seat_angle);
-    seat.width = number(side.seat_width);
+    seat.angle = numbers(side.seat_angle);
+    seat.width = numbers(side.seat_width);
     const Real radians = seat.angle * degree;
     seat.sine = std::sin(radians.Value());
     seat.cosine = std::cos(radians.Value());
@@ -28,23 +28,25 @@ void Seat_Geometry_Setup(const Numeric_Text& number, const Valve_Side& side, con
     seat.radial = seat.cosine * seat.width;
 }
 
-Real Effective_Area(const Valve_Side& side, Real lift, const Units& units) {
+Real Effective_Area(Curtain_Areas& areas, const Valve_Side& side, Real lift, const Units& units) {
     const Seat_Geometry& seat = side.seat;
     const Real inches = lift * units.lift_from_thousand / units.inch;
-    const Real curtain_low =
-        (seat.valve_diameter - 2 * seat.radial + seat.sine * inches * seat.cosine) *
-        (side.valves * Real(circle) * (seat.cosine * inches));
-    Real slant_length = 0;
+    areas.low = (seat.valve_diameter - 2 * seat.radial + seat.sine * inches * seat.cosine) *
+                (side.valves * Real(circle) * (seat.cosine * inches));
+    areas.slant_length = 0;
     if (inches > 0) {
-        slant_length = Power(Squared(inches - seat.width * seat.sine) + Squared(seat.radial), 0.5);
+        areas.slant_length =
+            Power(Squared(inches - seat.width * seat.sine) + Squared(seat.radial), 0.5);
     }
-    const Real curtain_high =
-        side.valves * Real(circle) * (seat.valve_diameter - seat.radial) * slant_length;
+    areas.high =
+        side.valves * Real(circle) * (seat.valve_diameter - seat.radial) * areas.slant_length;
     const Real break_lift = seat.width / seat.sine;
     if (break_lift > inches) {
-        return curtain_low; // not capped by the throat
+        areas.effective = areas.low; // not capped by the throat
+    } else {
+        areas.effective = seat.throat_limit < areas.high ? seat.throat_limit : areas.high;
     }
-    return seat.throat_limit < curtain_high ? seat.throat_limit : curtain_high;
+    return areas.effective;
 }
 
 } // namespace kestrum

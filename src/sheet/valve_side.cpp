@@ -2,85 +2,64 @@
 
 namespace kestrum {
 
-Valve_Side Intake_Side(Session& session, const Flow_Sheet& sheet) {
-    return {.port_volume = sheet.Text102(1),
-            .port_length = sheet.Text102(8),
-            .mean_area = sheet.Text102(2),
-            .valve_diameter = sheet.Text102(3),
-            .stem_diameter = sheet.Text102(4),
-            .valve_area = sheet.Text102(5),
-            .throat_diameter = sheet.Text102(6),
-            .throat_area = sheet.Text102(7),
-            .throat_ratio = sheet.Text113(7),
-            .bore_ratio = sheet.Text113(8),
-            .quarter_diameter = sheet.Text102(9),
-            .seat_angle = sheet.Text202(4),
-            .seat_width = sheet.Text202(5),
-            .width = sheet.Text106(2),
-            .height = sheet.Text108(2),
-            .top_corner = sheet.Text106(0),
-            .bottom_corner = sheet.Text106(1),
-            .top_loss = sheet.Text112(2),
-            .bottom_loss = sheet.Text111(2),
-            .port_area = sheet.Text110(2),
-            .area_ratio = sheet.Text107(4),
-            .area_ratio_guard = sheet.Text102(5),
-            .observed = sheet.Text106,
-            .depression = sheet.Text210,
-            .corrected = sheet.Text102,
-            .effective_lift = sheet.Text104,
-            .flow_per_area = sheet.Text109,
-            .discharge = sheet.Text111,
-            .port_velocity = sheet.Text114,
-            .effective_area = sheet.Text201,
-            .effective_velocity = sheet.Text203,
-            .effective_discharge = sheet.text205,
-            .lift_ratio = sheet.Text208,
-            .total_flow = sheet.Text106(11),
-            .mean_flow = sheet.Text102(11),
-            .valves = session.intake_valves,
-            .seat = session.intake_seat};
+namespace {
+
+using enum Cell_Role;
+
+Valve_Cells Cells_Of(const Flow_Sheet& sheet, Side side) {
+    const auto cell = [&](Cell_Role role) -> Control& { return sheet.Cell(side, role); };
+    return {.port_volume = cell(Port_Volume),
+            .port_length = cell(Port_Length),
+            .mean_area = cell(Mean_Area),
+            .valve_diameter = cell(Valve_Diameter),
+            .stem_diameter = cell(Stem_Diameter),
+            .valve_area = cell(Valve_Area),
+            .throat_diameter = cell(Throat_Diameter),
+            .throat_area = cell(Throat_Area),
+            .throat_ratio = cell(Throat_Ratio),
+            .bore_ratio = cell(Bore_Ratio),
+            .quarter_diameter = cell(Quarter_Diameter),
+            .seat_angle = cell(Seat_Angle),
+            .seat_width = cell(Seat_Width),
+            .width = cell(Port_Width),
+            .height = cell(Port_Height),
+            .top_corner = cell(Top_Corner),
+            .bottom_corner = cell(Bottom_Corner),
+            .top_loss = cell(Top_Loss),
+            .bottom_loss = cell(Bottom_Loss),
+            .port_area = cell(Port_Area),
+            .area_ratio = cell(Area_Ratio),
+            // The exhaust looks at its corner, not at its valve area: files and figures of years
+            // rest on it.
+            .area_ratio_guard = cell(side == Side::Intake ? Valve_Area : Bottom_Corner),
+            .total_flow = cell(Total_Flow),
+            .mean_flow = cell(Mean_Flow)};
 }
 
-Valve_Side Exhaust_Side(Session& session, const Flow_Sheet& sheet) {
-    return {.port_volume = sheet.Text104(1),
-            .port_length = sheet.Text104(8),
-            .mean_area = sheet.Text104(2),
-            .valve_diameter = sheet.Text104(3),
-            .stem_diameter = sheet.Text104(4),
-            .valve_area = sheet.Text104(5),
-            .throat_diameter = sheet.Text104(6),
-            .throat_area = sheet.Text104(7),
-            .throat_ratio = sheet.Text115(7),
-            .bore_ratio = sheet.Text115(8),
-            .quarter_diameter = sheet.Text103(9),
-            .seat_angle = sheet.Text204(4),
-            .seat_width = sheet.Text204(5),
-            .width = sheet.Text106(3),
-            .height = sheet.Text108(3),
-            .top_corner = sheet.Text108(0),
-            .bottom_corner = sheet.Text108(1),
-            .top_loss = sheet.Text112(3),
-            .bottom_loss = sheet.Text111(3),
-            .port_area = sheet.Text110(3),
-            .area_ratio = sheet.Text107(5),
-            // The corner, not the valve area: wanted, though the intake looks at its valve area.
-            .area_ratio_guard = sheet.Text108(1),
-            .observed = sheet.Text107,
-            .depression = sheet.Text211,
-            .corrected = sheet.Text103,
-            .effective_lift = sheet.Text105,
-            .flow_per_area = sheet.Text110,
-            .discharge = sheet.Text112,
-            .port_velocity = sheet.Text115,
-            .effective_area = sheet.Text202,
-            .effective_velocity = sheet.Text204,
-            .effective_discharge = sheet.Text206,
-            .lift_ratio = sheet.Text209,
-            .total_flow = sheet.Text107(11),
-            .mean_flow = sheet.Text103(11),
-            .valves = session.exhaust_valves,
-            .seat = session.exhaust_seat};
+Valve_Columns Columns_Of(const Flow_Sheet& sheet, Side side) {
+    const auto column = [&](Cell_Role role) -> const Control_Array& {
+        return sheet.Column(side, role);
+    };
+    return {.observed = column(Observed_Flow),
+            .depression = column(Depression),
+            .corrected = column(Corrected_Flow),
+            .effective_lift = column(Effective_Lift),
+            .flow_per_area = column(Flow_Per_Area),
+            .discharge = column(Discharge),
+            .port_velocity = column(Port_Velocity),
+            .effective_area = column(Effective_Area),
+            .effective_velocity = column(Effective_Velocity),
+            .effective_discharge = column(Effective_Discharge),
+            .lift_ratio = column(Lift_Ratio)};
+}
+
+} // namespace
+
+Valve_Side Valve_Side_Of(Session& session, const Flow_Sheet& sheet, Side side) {
+    const bool intake = side == Side::Intake;
+    return {Cells_Of(sheet, side), Columns_Of(sheet, side),
+            intake ? session.intake_valves : session.exhaust_valves,
+            intake ? session.intake_seat : session.exhaust_seat};
 }
 
 } // namespace kestrum

@@ -4,10 +4,8 @@
 
 namespace kestrum {
 
-/// One side of a sheet, intake or exhaust: its cells, and the shared values that belong to it.
-/// The calculation has one body for both; where the sides really differ, the difference stands in
-/// that body with the reason.
-struct Valve_Side {
+/// The lone cells of one side of a sheet.
+struct Valve_Cells {
     // Header figures.
     const Control& port_volume;
     const Control& port_length;
@@ -33,7 +31,13 @@ struct Valve_Side {
     Control& area_ratio;
     /// The field whose length guards the area ratio; the two sides do not guard alike.
     const Control& area_ratio_guard;
-    // Lift rows.
+    // Averages.
+    Control& total_flow;
+    Control& mean_flow;
+};
+
+/// Its columns of lift rows.
+struct Valve_Columns {
     const Control_Array& observed;
     const Control_Array& depression;
     const Control_Array& corrected;
@@ -45,15 +49,17 @@ struct Valve_Side {
     const Control_Array& effective_velocity;
     const Control_Array& effective_discharge;
     const Control_Array& lift_ratio; // lift over diameter
-    // Averages.
-    Control& total_flow;
-    Control& mean_flow;
+};
 
+/// One side of a sheet, intake or exhaust: its cells, and the shared values that belong to it.
+/// The calculation has one body for both; where the sides really differ, the difference stands in
+/// that body with the reason.
+struct Valve_Side : Valve_Cells, Valve_Columns {
     int& valves;
     Seat_Geometry& seat;
 };
 
-[[nodiscard]] Valve_Side Intake_Side(Session& session, const Flow_Sheet& sheet);
-[[nodiscard]] Valve_Side Exhaust_Side(Session& session, const Flow_Sheet& sheet);
+/// The cells of a side, as the table of the sheet gives them their roles.
+[[nodiscard]] Valve_Side Valve_Side_Of(Session& session, const Flow_Sheet& sheet, Side side);
 
 } // namespace kestrum

@@ -102,6 +102,10 @@ void Desktop_Bench::Click(std::string_view address) {
     QTest::mouseClick(&Widget(address), Qt::LeftButton);
 }
 
+std::string Desktop_Bench::Help(std::string_view screen) {
+    return From_Qt(Widget(std::string(screen) + ".Label7").accessibleName());
+}
+
 std::string Desktop_Bench::Focus() const {
     const QWidget* const holder = QApplication::focusWidget();
     return holder == nullptr ? "nothing" : From_Qt(holder->objectName());

@@ -43,6 +43,8 @@ public:
     void Enter(std::string_view address, const char* keys);
     void Click(std::string_view address);
 
+    /// What the help line of a window says.
+    [[nodiscard]] std::string Help(std::string_view screen);
     /// Address of the control that has the focus.
     [[nodiscard]] std::string Focus() const;
 

@@ -3,7 +3,12 @@
 #include "desktop/start_options.h"
 #include "desktop/text_bridge.h"
 
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
 #include <QStringList>
+#include <QTemporaryDir>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -18,7 +23,7 @@ struct Filter_Case {
     QStringList entries;
 };
 
-TEST(Dialogs, filters_keep_their_words_and_work_even_when_defective) {
+TEST(Dialogs, Filters_Keep_Their_Words_And_Work_Even_When_Defective) {
     const std::vector<Filter_Case> cases{
         {"Flow Files (*.dat)|*.dat|All Files (*.*)|*.*",
          {QStringLiteral("Flow Files (*.dat) (*.dat)"), QStringLiteral("All Files (*.*) (*)")}},
@@ -26,6 +31,12 @@ TEST(Dialogs, filters_keep_their_words_and_work_even_when_defective) {
         {"No pattern", {QStringLiteral("No pattern (*)")}},
         {"Empty pattern||", {QStringLiteral("Empty pattern (*)")}},
         {"Bracket|*.(dat", {QStringLiteral("Bracket (*)")}},
+        // One pattern is missing: every entry behind it shows all files.
+        {"Flow Files (*.flw, *.dfw)|*.flw; *.dfw|DeskTop Dyno Files (*.dyn)|Dynomation Files "
+         "(*.dym)|*.dym|All Files (*.*)|*.*",
+         {QStringLiteral("Flow Files (*.flw, *.dfw) (*.flw *.dfw)"),
+          QStringLiteral("DeskTop Dyno Files (*.dyn) (Dynomation Files *)"),
+          QStringLiteral("*.dym (All Files *)"), QStringLiteral("*.* (*)")}},
         {"", {}},
     };
     for (const Filter_Case& line : cases) {
@@ -33,7 +44,30 @@ TEST(Dialogs, filters_keep_their_words_and_work_even_when_defective) {
     }
 }
 
-TEST(Dialogs, a_box_shows_the_text_to_the_letter_and_cuts_what_no_display_holds) {
+TEST(Dialogs, A_Chooser_Tells_The_Entry_That_Was_Picked) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.dym"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    QTimer::singleShot(0, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        dialog->selectNameFilter(dialog->nameFilters().at(2));
+        dialog->selectFile(path);
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    Desktop_Dialogs dialogs;
+    const auto choice = dialogs.Choose_File({.mode = Chooser_Mode::Open,
+                                             .filter = "One|*.a|Two|*.b|*.dym|All Files (*.*)",
+                                             .filter_index = 2,
+                                             .folder = From_Qt(folder.path())});
+    ASSERT_TRUE(choice.has_value());
+    EXPECT_EQ(choice->path, From_Qt(path));
+    EXPECT_EQ(choice->filter_index, 3);
+}
+
+TEST(Dialogs, A_Box_Shows_The_Text_To_The_Letter_And_Cuts_What_No_Display_Holds) {
     EXPECT_EQ(Text_For_Box("one\r\ntwo"), QStringLiteral("one\ntwo"));
     EXPECT_EQ(Text_For_Box("<b>&"), QStringLiteral("<b>&"));
     const QString shown = Text_For_Box("Invalid\r\n" + std::string(10'000'000, 'x'));
@@ -42,7 +76,7 @@ TEST(Dialogs, a_box_shows_the_text_to_the_letter_and_cuts_what_no_display_holds)
     EXPECT_TRUE(shown.endsWith(QChar(0x2026)));
 }
 
-TEST(Arguments, what_is_no_option_goes_to_the_session) {
+TEST(Arguments, What_Is_No_Option_Goes_To_The_Session) {
     const std::vector<std::string> arguments{"--folder", "/home/x/fs1", "/FS", "and", "/mp"};
     const Start_Options options = Options_From(arguments);
     EXPECT_EQ(options.folder, "/home/x/fs1");

@@ -24,7 +24,7 @@ std::vector<std::string> Stops(Desktop_Bench& bench, std::size_t count) {
     return stops;
 }
 
-TEST(Focus, tab_goes_down_the_columns_of_the_header_then_along_the_rows) {
+TEST(Focus, Tab_Goes_Down_The_Columns_Of_The_Header_Then_Along_The_Rows) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.Tab_To("Form1.Text102(0)");
@@ -44,7 +44,7 @@ TEST(Focus, tab_goes_down_the_columns_of_the_header_then_along_the_rows) {
                                         "Form1.NextPage", "Form1.Text102(0)"}));
 }
 
-TEST(Focus, the_second_page_has_its_own_order_and_gives_the_focus_back) {
+TEST(Focus, The_Second_Page_Has_Its_Own_Order_And_Gives_The_Focus_Back) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.Click("Form1.NextPage");
@@ -60,7 +60,7 @@ TEST(Focus, the_second_page_has_its_own_order_and_gives_the_focus_back) {
     EXPECT_FALSE(bench.Widget("Form1.Text207(30)").isVisible());
 }
 
-TEST(Focus, tab_passes_over_what_the_program_calculates) {
+TEST(Focus, Tab_Passes_Over_What_The_Program_Calculates) {
     Desktop_Bench bench;
     bench.Tab_To("Main.Text103(3)");
     EXPECT_EQ(Stops(bench, 6),
@@ -71,7 +71,7 @@ TEST(Focus, tab_passes_over_what_the_program_calculates) {
     EXPECT_EQ(Stops(bench, 2), (std::vector<std::string>{"Main.Text101(3)", "Main.Text103(3)"}));
 }
 
-TEST(Focus, a_refused_field_keeps_the_focus_and_shows_one_box) {
+TEST(Focus, A_Refused_Field_Keeps_The_Focus_And_Shows_One_Box) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.Enter("Form1.Text104(6)", "");
@@ -84,7 +84,7 @@ TEST(Focus, a_refused_field_keeps_the_focus_and_shows_one_box) {
     EXPECT_EQ(bench.Take_Events(), Events{});
 }
 
-TEST(Focus, a_limit_shows_its_box_and_takes_the_focus_back) {
+TEST(Focus, A_Limit_Shows_Its_Box_And_Takes_The_Focus_Back) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.Enter("Form1.Text106(6)", "5");
@@ -94,7 +94,7 @@ TEST(Focus, a_limit_shows_its_box_and_takes_the_focus_back) {
     EXPECT_EQ(bench.Edit("Form1.Text106(6)").selectedText(), QStringLiteral("5"));
 }
 
-TEST(Focus, two_refusing_fields_do_not_throw_the_focus_to_and_fro) {
+TEST(Focus, Two_Refusing_Fields_Do_Not_Throw_The_Focus_To_And_Fro) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.At("Form1.Text107(17)").Set_Text("");
@@ -106,7 +106,7 @@ TEST(Focus, two_refusing_fields_do_not_throw_the_focus_to_and_fro) {
     }
 }
 
-TEST(Focus, a_button_waits_for_the_check_of_the_field) {
+TEST(Focus, A_Button_Waits_For_The_Check_Of_The_Field) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     const std::string before = bench.Text("Form1.Text102(18)");
@@ -124,7 +124,7 @@ TEST(Focus, a_button_waits_for_the_check_of_the_field) {
     EXPECT_EQ(bench.Text("Form1.Text102(17)"), "40.0");
 }
 
-TEST(Focus, another_window_or_the_closing_of_this_one_runs_no_check) {
+TEST(Focus, Another_Window_Or_The_Closing_Of_This_One_Runs_No_Check) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.Enter("Form1.Text106(17)", "");
@@ -140,7 +140,7 @@ TEST(Focus, another_window_or_the_closing_of_this_one_runs_no_check) {
     EXPECT_EQ(bench.Take_Events(), Events{});
 }
 
-TEST(Focus, leaving_a_lift_copies_it) {
+TEST(Focus, Leaving_A_Lift_Copies_It) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.Enter("Form1.Text101(20)", "222");
@@ -149,7 +149,7 @@ TEST(Focus, leaving_a_lift_copies_it) {
     EXPECT_EQ(bench.Text("Form1.Text108(20)"), "222");
 }
 
-TEST(Focus, tab_selects_and_the_mouse_places_the_caret) {
+TEST(Focus, Tab_Selects_And_The_Mouse_Places_The_Caret) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     bench.Tab_To("Form1.Text104(6)");
@@ -161,7 +161,15 @@ TEST(Focus, tab_selects_and_the_mouse_places_the_caret) {
     EXPECT_TRUE(bench.Edit("Form1.Text104(6)").hasSelectedText());
 }
 
-TEST(Focus, a_press_whose_release_got_lost_ends_with_the_focus) {
+TEST(Focus, The_Program_Starts_In_Its_First_Field_With_The_Text_Selected) {
+    Desktop_Bench bench;
+    EXPECT_EQ(bench.Focus(), "Main.Text103(3)");
+    EXPECT_EQ(bench.Edit("Main.Text103(3)").selectedText(), QStringLiteral("2.75"));
+    bench.Type("9");
+    EXPECT_EQ(bench.Text("Main.Text103(3)"), "9");
+}
+
+TEST(Focus, A_Press_Whose_Release_Got_Lost_Ends_With_The_Focus) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     QTest::mousePress(&bench.Widget("Form1.Text104(8)"), Qt::LeftButton);

@@ -1,7 +1,7 @@
+#include "desktop/safe_application.h"
 #include "desktop/text_access.h"
 #include "desktop/theme_style.h"
-
-#include <QApplication>
+#include "tests/desktop/typing_child.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,12 @@ int main(int count, char* values[]) { // NOLINT(*-avoid-c-arrays)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     testing::InitGoogleTest(&count, values);
-    const QApplication application(count, values);
+    const kestrum::desktop::Safe_Application application(count, values);
     QApplication::setQuitOnLastWindowClosed(false);
     kestrum::desktop::Apply_Theme();
     kestrum::desktop::Install_Text_Access();
+    if (const char* const folder = kestrum::desktop::Folder_Of_Typing_Child(count, values)) {
+        return kestrum::desktop::Type_And_Wait(folder);
+    }
     return RUN_ALL_TESTS();
 }

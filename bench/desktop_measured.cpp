@@ -1,0 +1,95 @@
+// The desktop program, which measures how long it takes to paint. Told by its environment:
+// KESTRUM_BENCH is "start" (until `Main` is painted) or "sheet" (then the first sheet as well),
+// BENCH_T0 the moment before the start. It prints the figures and ends.
+
+#include "application/events.h"
+#include "desktop/desktop_run.h"
+#include "desktop/program.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <string>
+
+namespace {
+
+using namespace kestrum;
+using namespace kestrum::desktop;
+
+using Nanoseconds = long long;
+
+Nanoseconds Now() {
+    return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+/// Nanoseconds of the steady clock that the caller noted right before the start.
+Nanoseconds Moment_Of_Start() {
+    return qEnvironmentVariable("BENCH_T0").toLongLong();
+}
+
+std::string Milliseconds(Nanoseconds span) {
+    constexpr double per_millisecond = 1e6;
+    constexpr std::size_t longest = 32;
+    std::string digits(longest, '\0');
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + longest,
+                      static_cast<double>(span) / per_millisecond, std::chars_format::fixed, 3)
+            .ptr;
+    digits.resize(static_cast<std::size_t>(end - digits.data()));
+    return digits;
+}
+
+std::string Resident_Kilobytes() {
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    while (status >> word && word != "VmRSS:") {
+    }
+    status >> word;
+    return word;
+}
+
+struct Figures {
+    Nanoseconds main_painted = 0;
+    Nanoseconds sheet_asked_for = 0;
+    Nanoseconds sheet_painted = 0;
+};
+
+void Report(const Figures& figures) {
+    const std::string line =
+        R"({"main_painted_ms":)" + Milliseconds(figures.main_painted - Moment_Of_Start()) +
+        R"(,"sheet_painted_ms":)" + Milliseconds(figures.sheet_painted - figures.sheet_asked_for) +
+        R"(,"rss_kb":)" + Resident_Kilobytes() + "}\n";
+    std::fputs(line.c_str(), stdout);
+    std::fflush(stdout);
+    QCoreApplication::exit(0); // and nothing is written
+}
+
+void Measure(Program& program) {
+    const bool with_sheet = qEnvironmentVariable("KESTRUM_BENCH") == QLatin1String("sheet");
+    const auto figures = std::make_shared<Figures>();
+    program.Its_Windows().on_new_window = [figures, with_sheet, &program](Screen_Window& window,
+                                                                          const Screen& screen) {
+        const bool is_main = screen.Kind() == Screen_Kind::Engine;
+        window.on_first_paint = [figures, with_sheet, is_main, &program] {
+            QGuiApplication::sync(); // the display server has the picture
+            (is_main ? figures->main_painted : figures->sheet_painted) = Now();
+            if (is_main && with_sheet) {
+                figures->sheet_asked_for = Now();
+                Click(program.Its_Session(), *program.Its_Session().Main().Find("Command1", {}));
+                return;
+            }
+            Report(*figures);
+        };
+    };
+}
+
+} // namespace
+
+int main(int count, char* values[]) { // NOLINT(*-avoid-c-arrays)
+    return Run_Desktop(count, values, Measure);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace kestrum::cli {
+
+/// A call of the program that cannot be carried out; it ends with status 2.
+class Usage_Error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace kestrum::cli

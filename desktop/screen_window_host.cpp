@@ -1,0 +1,147 @@
+// What the views of a window tell it, and what it hands on to the session.
+
+#include "application/events.h"
+#include "core/field_handlers.h"
+#include "core/pasted_text.h"
+#include "desktop/help_line.h"
+#include "desktop/screen_window.h"
+#include "desktop/text_bridge.h"
+#include "output/graph_saving.h"
+
+namespace kestrum::desktop {
+
+namespace {
+
+/// Where the focus comes from when the user has not moved it.
+bool Is_Return_Of_Focus(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+void Screen_Window::Clicked(Control& control) {
+    const bool let_in = gate_.Enter_Command([&] { Click(session_, control); });
+    if (!let_in && screen_ != nullptr) {
+        Control_View* const view = View_Of(control);
+        view->Refresh(); // a box that the toolkit has ticked goes back
+    }
+}
+
+void Screen_Window::Picked(Control& combo, const std::string& text) {
+    gate_.Enter_Command([&] { Select(session_, combo, text); });
+}
+
+void Screen_Window::Typed(Control& field, const std::string& text) {
+    help_->Forget();
+    keeper_.Edited(field);
+    gate_.Enter([&] { field.Set_Text(text); });
+}
+
+bool Screen_Window::Passes(const Control& field, char32_t character) {
+    if (Passes_Filter(session_.numbers, field, character)) {
+        return true;
+    }
+    Refuse(Words_For_Refused_Key(session_.numbers, field, character));
+    return false;
+}
+
+std::optional<std::u32string> Screen_Window::Piece_Of(const Control& field, const std::string& rest,
+                                                      const std::string& pasted) {
+    Pasted_Text text = Piece_For(session_.numbers, field, rest, pasted);
+    if (!text.refusal.empty()) {
+        Refuse(text.refusal);
+        return std::nullopt;
+    }
+    return std::move(text.piece);
+}
+
+void Screen_Window::Refuse(const std::string& words) {
+    session_.dialogs.Beep();
+    help_->Tell(To_Qt(words));
+}
+
+void Screen_Window::Raw_Key(const Control& control, char32_t character) {
+    gate_.Enter([&] { Press_Raw_Key(session_, control, character); });
+}
+
+void Screen_Window::Focus_Came(Control_View& view, Qt::FocusReason reason) {
+    if (screen_ == nullptr) {
+        return;
+    }
+    if (reason == Qt::MouseFocusReason && view.control.Is_Text_Box()) {
+        session_.mouse_down = true;
+    }
+    // A window that shows for the first time gets the focus without a move of the user's, too.
+    const bool returns = Is_Return_Of_Focus(reason) && keeper_.Is_At(view.control);
+    if (!keeper_.Is_At(view.control)) {
+        help_->Forget();
+        // While a routine runs the move is its own.
+        gate_.Enter_Command([&] { static_cast<void>(keeper_.Goes_To(view.control)); });
+    }
+    const bool stayed = screen_ != nullptr && focusWidget() == view.Widget();
+    if (stayed && !returns) {
+        view.Show_Selection(Select_Field_Text(session_, view.control));
+    }
+}
+
+void Screen_Window::Focus_Went() {
+    session_.mouse_down = false;
+}
+
+void Screen_Window::Mouse_Down(bool down) {
+    session_.mouse_down = down;
+}
+
+void Screen_Window::Mouse_On(Control& picture, bool on_logo, Mouse_Action action, double x,
+                             double y) {
+    const auto act = [&] {
+        Mouse_On_Picture(session_, on_logo ? session_.Form60().Picture2 : picture, action, x, y);
+    };
+    action == Mouse_Action::Down ? gate_.Enter_Command(act) : gate_.Enter(act);
+}
+
+const Drawing& Screen_Window::Canvas() {
+    return session_.graph.canvas;
+}
+
+std::optional<Placed_Logo> Screen_Window::Logo() {
+    return Shown_Logo(session_);
+}
+
+void Screen_Window::Hovered(Control& control) {
+    if (screen_ == nullptr) {
+        return;
+    }
+    help_->Forget();
+    if (screen_->Find("Label7", std::nullopt) == nullptr) {
+        help_->Show_Words(Lines_To_Qt(control.Entry().tip));
+        return;
+    }
+    gate_.Enter([&] { Hover_Over(control); });
+}
+
+void Screen_Window::Hovered_Form() {
+    if (screen_ == nullptr) {
+        return;
+    }
+    help_->Forget();
+    if (screen_->Find("Label7", std::nullopt) == nullptr) {
+        help_->Show_Words(QString());
+        return;
+    }
+    gate_.Enter([this] { Hover_Over_Form(*screen_); });
+}
+
+void Screen_Window::Move_Focus(const Control_View& from, Direction direction) {
+    for (const Page* const page : pages_) {
+        if (page->Holder() == from.control.Entry().parent) {
+            if (QWidget* const next = page->Neighbour_Of(from, direction)) {
+                next->setFocus(Qt::OtherFocusReason);
+            }
+            return;
+        }
+    }
+}
+
+} // namespace kestrum::desktop

@@ -1,0 +1,34 @@
+#include "output/printer_choice.h"
+
+#include "drawing/printer.h"
+
+#include <algorithm>
+
+namespace kestrum {
+
+namespace {
+
+std::vector<std::string> Devices_Of(const Session& session) {
+    return session.printers == nullptr ? std::vector<std::string>() : session.printers->Devices();
+}
+
+} // namespace
+
+void Offer_Printers(Session& session) {
+    const Engine_Screen& main = session.Main();
+    const std::vector<std::string> devices = Devices_Of(session);
+    main.Combo1.Set_Items(devices);
+    session.print.chosen_printer = devices.empty() ? std::string() : devices.front();
+    main.Combo1.Set_Text(session.print.chosen_printer);
+    main.Frame99.Set_Visible(true);
+}
+
+void Put_Printer_In_Force(Session& session) {
+    const std::vector<std::string> devices = Devices_Of(session);
+    if (std::ranges::find(devices, session.print.chosen_printer) != devices.end()) {
+        session.print.printer = session.print.chosen_printer;
+    }
+    session.Main().Frame99.Set_Visible(false);
+}
+
+} // namespace kestrum

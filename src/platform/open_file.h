@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <sys/types.h>
+
+namespace kestrum {
+
+/// Raises the run-time error that belongs to what the operating system reports.
+[[noreturn]] void Fail_With_System_Error(int system_error);
+
+/// An open file that is closed on every way out; for the routines of the file store.
+class Open_File {
+public:
+    /// Takes the handle that an opening gave. Raises the error of one that failed.
+    explicit Open_File(int handle);
+    Open_File(const Open_File&) = delete;
+    Open_File& operator=(const Open_File&) = delete;
+    ~Open_File();
+
+    [[nodiscard]] int Handle() const { return handle_; }
+
+    /// What was opened, which a look at the name cannot tell for sure.
+    [[nodiscard]] struct stat Facts() const;
+    /// Reads up to so many bytes from a place on; fewer at the end of the file only.
+    [[nodiscard]] std::string Piece(off_t at, std::size_t bytes) const;
+    void Write_All(std::string_view content) const;
+    /// Puts all that was written onto the disk.
+    void Flush() const;
+    /// Closes at once, since a full disk of the network may only be told here.
+    void Close();
+
+private:
+    int handle_;
+};
+
+/// Opens a regular file for reading and never waits for one that is none, such as a pipe. Raises
+/// 53, 70, 75 or 76.
+[[nodiscard]] Open_File Open_To_Read(const std::string& path);
+
+} // namespace kestrum
