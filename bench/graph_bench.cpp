@@ -11,6 +11,7 @@
 #include <cmath>
 
 #ifdef KESTRUM_PAINTS
+#include "graph/graph_state.h"
 #include "painting/png_writer.h"
 #include "painting/replay.h"
 
@@ -68,7 +69,8 @@ void Whole_Graph(benchmark::State& state) {
     for (auto _ : state) {
         bench.Draw();
     }
-    state.counters["steps"] = static_cast<double>(bench.session.graph.canvas.Operations().size());
+    state.counters["steps"] =
+        static_cast<double>(Graph_Of(bench.session).canvas.Operations().size());
 }
 
 constexpr int repetitions = 5;
@@ -86,7 +88,7 @@ void Replay_Graph(benchmark::State& state) {
     for (auto _ : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
-        painting::Replay(bench.session.graph.canvas, std::nullopt, painter);
+        painting::Replay(Graph_Of(bench.session).canvas, std::nullopt, painter);
     }
 }
 
@@ -97,7 +99,7 @@ void Pack_Png(benchmark::State& state) {
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(2, 2);
-    painting::Replay(bench.session.graph.canvas, std::nullopt, painter);
+    painting::Replay(Graph_Of(bench.session).canvas, std::nullopt, painter);
     painter.end();
     std::size_t bytes = 0;
     for (auto _ : state) {

@@ -30,7 +30,7 @@ void Report_Of_Five(benchmark::State& state) {
     Bench bench;
     for (auto _ : state) {
         Create_Text_Report(bench.session);
-        benchmark::DoNotOptimize(bench.session.work_text.size());
+        benchmark::DoNotOptimize(Report_Of(bench.session).text.size());
         for (int number = 1; number <= sheet_count; ++number) {
             static_cast<void>(bench.session.Sheet(number).Take_Changes());
         }

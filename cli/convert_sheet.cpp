@@ -81,7 +81,7 @@ void Convert_Sheet::Start_Over() {
 }
 
 bool Convert_Sheet::Load(const std::string& path, Test_Format format) {
-    session_.file_path = path;
+    session_.file.path = path;
     std::string bytes;
     try {
         bytes = Read_Whole_File(path);
@@ -104,7 +104,7 @@ bool Convert_Sheet::Read(const std::string& bytes, Test_Format format) {
     }
     const bool read = Read_Flow_Records(session_, sheet_, bytes);
     if (read) {
-        Tell_Count(session_.records_read, " Records Read");
+        Tell_Count(session_.file.records_read, " Records Read");
     }
     return read;
 }
@@ -141,7 +141,7 @@ void Convert_Sheet::Tell_Saved(const Convert_Options& options) {
     if (options.to == Test_Format::Dfw) {
         Warn_Of_Many_Points(session_, dfw_, options.for_engine_analyzer);
     } else {
-        Tell_Count(session_.records_written, " Records Written");
+        Tell_Count(session_.file.records_written, " Records Written");
     }
 }
 

@@ -76,9 +76,9 @@ void Graph_Session::Set_Extras(const Graph_Extras& extras) {
 void Graph_Session::Take_Logo(const std::string& path) {
     try {
         kestrum::Take_Logo(session_, path);
-        session_.logo_on = 1;
-        session_.logo_file = path;
-        session_.Form60().Show_Logo(session_.logo_size.value_or(Extent{}));
+        session_.settings.logo.on = true;
+        session_.settings.logo.file = path;
+        session_.Form60().Show_Logo(session_.settings.logo.size.value_or(Extent{}));
     } catch (const Run_Time_Error& failure) {
         Tell(path, "No logo -- " + failure.Description());
     }

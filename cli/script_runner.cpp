@@ -11,6 +11,7 @@
 #include "cli/script_error.h"
 #include "cli/script_words.h"
 #include "cli/standard_streams.h"
+#include "graph/graph_state.h"
 #include "platform/file_store.h"
 
 #include <algorithm>
@@ -81,7 +82,7 @@ void Script_Runner::Start(const std::string& command_line) {
     session_->printers = &printers_;
     session_->camera = &camera_;
     journal_.Clear();
-    session_->graph.canvas.Keep_Journal(Will_Ask_For_Canvas());
+    Graph_Of(*session_).canvas.Keep_Journal(Will_Ask_For_Canvas());
     Start_Up(*session_);
     if (keeps_rescue_) {
         rescue_ = std::make_unique<Rescue>(*session_);
@@ -103,7 +104,7 @@ int Script_Runner::Run(std::istream& script, const std::string& failure_text) {
             ++line_number_;
             Execute(line_number_ == 1 ? Without_Encoding_Mark(line) : line);
             Keep_Rescue();
-            journal_.Collect(session_->graph.canvas);
+            journal_.Collect(Graph_Of(*session_).canvas);
         }
     } catch (const Run_Time_Error& failure) {
         Write_Noted_Rescue();
@@ -365,8 +366,8 @@ void Script_Runner::Canvas(const Words& /*words*/) {
     if (last_canvas_line_ && line_number_ > *last_canvas_line_) {
         throw Script_Error("the script has changed while it ran");
     }
-    journal_.Print(printer_, session_->graph.canvas);
-    session_->graph.canvas.Keep_Journal(Will_Ask_For_Canvas());
+    journal_.Print(printer_, Graph_Of(*session_).canvas);
+    Graph_Of(*session_).canvas.Keep_Journal(Will_Ask_For_Canvas());
 }
 
 void Script_Runner::Printer(const Words& /*words*/) {

@@ -6,6 +6,7 @@
 #include "desktop/help_line.h"
 #include "desktop/screen_window.h"
 #include "desktop/text_bridge.h"
+#include "graph/graph_state.h"
 #include "output/graph_saving.h"
 
 namespace kestrum::desktop {
@@ -102,7 +103,7 @@ void Screen_Window::Mouse_On(Control& picture, bool on_logo, Mouse_Action action
 }
 
 const Drawing& Screen_Window::Canvas() {
-    return session_.graph.canvas;
+    return Graph_Of(session_).canvas;
 }
 
 std::optional<Placed_Logo> Screen_Window::Logo() {

@@ -25,7 +25,7 @@ public:
         Flow_Sheet& sheet = session_.Sheet(1);
         const bool read_to_end = Read_Flow_Records(session_, sheet, bytes);
         Require(read_to_end || platform_.Boxes() >= 2);
-        Require(session_.records_read >= 0 && session_.records_read <= 32767);
+        Require(session_.file.records_read >= 0 && session_.file.records_read <= 32767);
         for (const Control& control : sheet.Controls()) {
             // The reader reaches nothing else.
             Require(control.Is_Text_Box() || control.Text() == control.Entry().text);

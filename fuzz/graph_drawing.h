@@ -2,6 +2,7 @@
 
 #include "application/events.h"
 #include "fuzz/fuzz_platform.h"
+#include "graph/graph_state.h"
 
 #include <cmath>
 #include <cstdint>
@@ -71,8 +72,8 @@ inline void Draw_Some(Session& session, std::string_view bytes) {
         Require(failure.Number() == error::type_mismatch || failure.Number() == error::overflow ||
                 failure.Number() == error::division_by_zero);
     }
-    Require_Drawable(session.graph.canvas);
-    session.graph = {};
+    Require_Drawable(Graph_Of(session).canvas);
+    Graph_Of(session) = {};
 }
 
 } // namespace kestrum::fuzz

@@ -24,7 +24,7 @@ public:
         platform_.Answer_By(0);
         const bool done = import(session_, sheet_);
         Require(done || platform_.Boxes() > 0);
-        Require(session_.records_read >= 0 && session_.records_read <= 32767);
+        Require(session_.file.records_read >= 0 && session_.file.records_read <= 32767);
         Put_Back(sheet_, sheet_texts_);
         Put_Back(session_.Main(), engine_texts_);
     }

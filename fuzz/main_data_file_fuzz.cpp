@@ -24,13 +24,13 @@ public:
         platform_.Answer_By(answers);
         const bool read_to_end = Read_Main_Records(session_, bytes);
         Require(read_to_end || platform_.Boxes() >= 2);
-        Require(session_.records_read >= 0 && session_.records_read <= 32767);
+        Require(session_.file.records_read >= 0 && session_.file.records_read <= 32767);
         Draw_Some(session_, bytes);
-        session_.logo_file.clear();
-        session_.logo_on = 0;
-        session_.grid_on = 1;
-        session_.grid_colour = 0x909090;
-        session_.graph.grid_style = Line_Style::Solid;
+        session_.settings.logo.file.clear();
+        session_.settings.logo.on = false;
+        session_.settings.grid.on = true;
+        session_.settings.grid.colour = 0x909090;
+        session_.settings.grid.style = Line_Style::Solid;
         stored_.Put_Back();
     }
 

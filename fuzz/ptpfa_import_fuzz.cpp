@@ -7,7 +7,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace kestrum;
     return fuzz::Import_Input(
         data, size, [](Session& session, Flow_Sheet& sheet, unsigned bits, std::string_view bytes) {
-            session.file_path = (bits & 1U) != 0 ? "a.pti" : "a.ptf";
+            session.file.path = (bits & 1U) != 0 ? "a.pti" : "a.ptf";
             return Read_PTPFA_Lines(session, sheet, bytes);
         });
 }

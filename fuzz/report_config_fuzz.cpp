@@ -25,9 +25,9 @@ public:
         platform_.Answer_By(answers);
         const bool read_to_end = Read_Report_Config(session_, screen, bytes);
         Require(read_to_end || platform_.Boxes() >= 1);
-        Require(session_.records_read >= 0 && session_.records_read <= 32767);
+        Require(session_.file.records_read >= 0 && session_.file.records_read <= 32767);
         const std::string saved = Report_Config_Text(session_, screen);
-        Require(session_.records_written == 38);
+        Require(session_.file.records_written == 38);
         Require(Read_Report_Config(session_, screen, stored_));
         Require(Read_Report_Config(session_, screen, saved));
         Require(Report_Config_Text(session_, screen) == saved);

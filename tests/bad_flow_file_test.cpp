@@ -153,7 +153,7 @@ TEST(Bad_Flow_File, The_Count_Of_Lines_Stays_At_16_Bits) {
     EXPECT_EQ(Read(bench, bytes), Events{});
     // A failure that far behind is told with the highest number.
     EXPECT_EQ(Read(bench, std::string(40000, '\n').insert(0, "Comments = \n")), Events{});
-    EXPECT_EQ(bench.session.records_read, 32767);
+    EXPECT_EQ(bench.session.file.records_read, 32767);
 }
 
 /// What a file must end in that was cut off inside its last line.

@@ -37,7 +37,7 @@ TEST_F(Captures, Every_Screen_Keeps_A_Picture_Named_After_The_Clock) {
     EXPECT_EQ(bench_.Click("Main.Command6"), Events{});
     EXPECT_EQ(camera_.shots, (Events{"Form1", "Form50", "Form60", "Form70", "Main"}));
     EXPECT_EQ(bench_.folder.Read("Flow_Monday_November_16_2026_9_5_3.jpg"), "picture");
-    EXPECT_EQ(bench_.session.capture_source, "");
+    EXPECT_EQ(Capture_Of(bench_.session).source, "");
 }
 
 TEST_F(Captures, Hidden_Main_Is_Shown_Behind_The_Capture) {
@@ -57,7 +57,7 @@ TEST_F(Captures, Picture_That_Cannot_Be_Kept_Is_Fatal) {
             EXPECT_EQ(failure.Description(), "Cannot save the image. GDI+ Error:7");
         }
     }
-    EXPECT_EQ(bench_.session.capture_source, "");
+    EXPECT_EQ(Capture_Of(bench_.session).source, "");
     EXPECT_EQ(bench_.Take_Events(), Events{"hide Main"});
 }
 

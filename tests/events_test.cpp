@@ -100,7 +100,7 @@ TEST(Navigation, Menu_Entries_Are_Used_Up) {
     bench.Click("Main.MouseP");
     EXPECT_FALSE(bench.session.Form70().plain_pointer) << "a disabled entry does nothing";
     bench.Click("Main.AspectRatio");
-    EXPECT_EQ(bench.session.aspect_free, 1);
+    EXPECT_TRUE(bench.session.display.aspect_free);
     EXPECT_FALSE(bench.At("Main.AspectRatio").Present_Look().enabled);
 }
 

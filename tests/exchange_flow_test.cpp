@@ -143,13 +143,13 @@ TEST_F(Flow_Import, The_Chooser_Keeps_The_Entry_That_Was_Picked) {
     Test_Bench bench;
     EXPECT_EQ(bench.Click("Form1.Import_Flow_Data_Files"),
               (Events{"chooser to open", "plain box: No Flow File Selected"}));
-    EXPECT_EQ(bench.session.flow_filter_index, 1);
+    EXPECT_EQ(bench.session.settings.flow_filter_index, 1);
     bench.platform.Pick_Filter_Entry(3);
     bench.platform.Choose(bench.folder.File("none.dym"));
     EXPECT_EQ(bench.Click("Form1.Import_Flow_Data_Files"),
               (Events{"chooser to open", "plain box: No Flow File Selected"}));
-    EXPECT_EQ(bench.session.flow_filter_index, 3);
-    EXPECT_EQ(bench.session.file_path, bench.folder.File("none.dym"));
+    EXPECT_EQ(bench.session.settings.flow_filter_index, 3);
+    EXPECT_EQ(bench.session.file.path, bench.folder.File("none.dym"));
 }
 
 TEST_F(Flow_Import, Every_Beginning_Of_A_File_Is_Loaded_Or_Refused) {
@@ -205,7 +205,7 @@ TEST(DFW_Export, Writes_Rows_With_Lift_And_Flow) {
     EXPECT_EQ(bench.folder.Read("more.dfw"),
               three_rows + "Performance Trends ONLY Information\r\nIVol = 203\r\nEVol = 75\r\n"
                            "ILen = 5.37\r\nELen = 2.88\r\n\r\n");
-    EXPECT_EQ(bench.session.file_path, bench.folder.File("more.dfw"));
+    EXPECT_EQ(bench.session.file.path, bench.folder.File("more.dfw"));
     EXPECT_EQ(bench.Get("Form1.Text39"), "");
 }
 

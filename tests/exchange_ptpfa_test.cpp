@@ -78,7 +78,7 @@ TEST_F(PTPFA_Import, Takes_The_Flow_At_Zero_Lift_Off_The_Others) {
                          {"Form2.Text210(18)", "0"},
                          {"Form2.Text107(19)", "0"},
                          {"Form2.Text101(30)", "0"}});
-    EXPECT_EQ(bench.session.file_path, path_);
+    EXPECT_EQ(bench.session.file.path, path_);
 }
 
 TEST_F(PTPFA_Import, The_Older_Layout_Has_The_Lift_One_Line_Earlier) {

@@ -1,4 +1,5 @@
 #include "graph/axis_number.h"
+#include "graph/graph_state.h"
 #include "tests/graph_test_bench.h"
 
 #include <gtest/gtest.h>
@@ -79,22 +80,22 @@ TEST(Graph_Axis, Works_Out_The_X_Lines_From_The_Highest_Lift) {
         bench.Fill("Form2.Text101", {"0"});
         bench.Click("Form50.Check2");
         bench.Draw(0);
-        EXPECT_EQ(bench.session.x_line_count, one.lines);
-        EXPECT_EQ(bench.session.graph.x_high, one.x_high);
-        EXPECT_EQ(bench.session.graph.x_per_unit, one.x_high / 600);
+        EXPECT_EQ(Graph_Of(bench.session).x_line_count, one.lines);
+        EXPECT_EQ(Graph_Of(bench.session).x_high, one.x_high);
+        EXPECT_EQ(Graph_Of(bench.session).x_per_unit, one.x_high / 600);
     }
 }
 
 TEST(Graph_Axis, Without_A_Grid_The_X_Axis_Stays_As_It_Is) {
     Graph_Bench bench;
-    bench.session.grid_on = 0;
-    bench.session.x_line_count = 7;
+    bench.session.settings.grid.on = false;
+    Graph_Of(bench.session).x_line_count = 7;
     bench.Fill("Form1.Text101", {"0", "430"});
     bench.Fill("Form2.Text101", {"0"});
     bench.Click("Form50.Check2");
     bench.Draw(0);
-    EXPECT_EQ(bench.session.x_line_count, 7);
-    EXPECT_EQ(bench.session.graph.x_high, 430);
+    EXPECT_EQ(Graph_Of(bench.session).x_line_count, 7);
+    EXPECT_EQ(Graph_Of(bench.session).x_high, 430);
     EXPECT_TRUE(bench.Lines(0x909090, 1).empty());
     EXPECT_TRUE(bench.Lines(0, 3).empty());
 }
@@ -143,8 +144,8 @@ TEST(Graph_Axis, Takes_Its_Y_Limits_From_The_Type) {
             bench.Click("Form50.Check4");
         }
         bench.Draw(one.type);
-        EXPECT_DOUBLE_EQ(bench.session.graph.y_low, one.low);
-        EXPECT_DOUBLE_EQ(bench.session.graph.y_high, one.high);
+        EXPECT_DOUBLE_EQ(Graph_Of(bench.session).y_low, one.low);
+        EXPECT_DOUBLE_EQ(Graph_Of(bench.session).y_high, one.high);
     }
 }
 
@@ -155,8 +156,8 @@ TEST(Graph_Axis, Whole_Ends_Of_A_Change_Lie_Outside_Its_Values) {
     bench.Fill("Form1.Text103", {"0", "100", "100", "100"});
     bench.Fill("Form2.Text103", {"0", "100", "100", "100"});
     bench.Draw(9);
-    EXPECT_EQ(bench.session.graph.y_low, -1) << "the floor of -0.4";
-    EXPECT_EQ(bench.session.graph.y_high, 5);
+    EXPECT_EQ(Graph_Of(bench.session).y_low, -1) << "the floor of -0.4";
+    EXPECT_EQ(Graph_Of(bench.session).y_high, 5);
 }
 
 TEST(Graph_Axis, An_L_D_Axis_Goes_By_The_One_Side_That_It_Shows) {
@@ -168,13 +169,13 @@ TEST(Graph_Axis, An_L_D_Axis_Goes_By_The_One_Side_That_It_Shows) {
         bench.Fill(sheet + "Text103", {"0", "90", "120", "130"});
     }
     bench.Draw(0, 2);
-    EXPECT_EQ(bench.session.graph.y_high, 140);
-    EXPECT_EQ(bench.session.graph.x_high, 0.31);
+    EXPECT_EQ(Graph_Of(bench.session).y_high, 140);
+    EXPECT_EQ(Graph_Of(bench.session).x_high, 0.31);
     EXPECT_EQ(bench.Get("Form60.Label9"), "Exhaust Valve Lift as L/D");
     bench.Fill("Form1.Text208", {"0", ".1", ".2", ".3001"});
     bench.Draw(0, 1);
-    EXPECT_EQ(bench.session.graph.y_high, 260);
-    EXPECT_EQ(bench.session.graph.x_high, 0.31) << "Int((.3001 + .00999) * 100) / 100";
+    EXPECT_EQ(Graph_Of(bench.session).y_high, 260);
+    EXPECT_EQ(Graph_Of(bench.session).x_high, 0.31) << "Int((.3001 + .00999) * 100) / 100";
     EXPECT_EQ(bench.Get("Form60.Label3"), "<--- Intake Valve Lift as L/D");
 }
 
@@ -212,7 +213,7 @@ TEST(Graph_Axis, A_Zero_X_Counts_By_Its_Text) {
     bench.Fill("Form1.Text101", {"0", "100", "0", "300", "0.0"});
     bench.Fill("Form1.Text102", {"0", "10", "99", "30", "20"});
     bench.Draw(0);
-    const Graph_State& graph = bench.session.graph;
+    const Graph_State& graph = Graph_Of(bench.session);
     EXPECT_EQ(graph.from_point_count, 4) << "0, 100, 300 and 0.0, but not the second 0";
     EXPECT_EQ(graph.from_x[2], 300);
     EXPECT_EQ(graph.from_intake[2], 30);
@@ -227,7 +228,7 @@ TEST(Graph_Axis, The_Zero_Point_Goes_By_Intake_And_By_Exhaust) {
         bench.Fill(sheet + "Text101", {"0", "100", "200", "300"});
     }
     bench.Draw(1);
-    const Graph_State& graph = bench.session.graph;
+    const Graph_State& graph = Graph_Of(bench.session);
     EXPECT_EQ(graph.from_point_count, 3);
     EXPECT_EQ(graph.from_x[0], 100);
     EXPECT_EQ(graph.from_exhaust[0], 75);
@@ -256,7 +257,7 @@ protected:
     }
 
     [[nodiscard]] std::pair<double, double> Limits() const {
-        return {bench_.session.graph.y_low, bench_.session.graph.y_high};
+        return {Graph_Of(bench_.session).y_low, Graph_Of(bench_.session).y_high};
     }
 
     Graph_Bench bench_;
@@ -276,7 +277,7 @@ TEST_F(User_Axis, Is_Taken_Where_It_Shows_More) {
     EXPECT_EQ(Limits(), Limits_Pair(-50, 101));
     EXPECT_EQ(Draw(9, "-60", "200"), Events{});
     EXPECT_EQ(Limits(), Limits_Pair(-60, 200));
-    EXPECT_EQ(bench_.session.graph.y_per_unit, 260.0 / 600);
+    EXPECT_EQ(Graph_Of(bench_.session).y_per_unit, 260.0 / 600);
     EXPECT_EQ(Draw(9, "", "1-2"), Events{}) << "no text and no number count as none";
     EXPECT_EQ(Limits(), Limits_Pair(-50, 101));
 }

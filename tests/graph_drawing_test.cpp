@@ -1,6 +1,7 @@
 #include "application/events.h"
 #include "application/variables.h"
 #include "graph/curve_fit.h"
+#include "graph/graph_state.h"
 #include "tests/graph_test_bench.h"
 
 #include <gtest/gtest.h>
@@ -135,13 +136,13 @@ TEST(Graph_Drawing, Lays_Grid_And_Frame) {
     EXPECT_EQ(frame[0].y1, 600);
     EXPECT_EQ(frame[0].y2, 600);
     EXPECT_EQ(frame[1].x2, 0);
-    bench.session.graph.grid_style = Line_Style::Dash;
-    bench.session.grid_colour = 0x0000FF; // blue-green-red: red
+    bench.session.settings.grid.style = Line_Style::Dash;
+    bench.session.settings.grid.colour = 0x0000FF; // blue-green-red: red
     bench.Draw(0);
     EXPECT_EQ(bench.Lines(red, 1).size(), 18U);
     EXPECT_EQ(bench.Lines(red, 1)[0].style, Line_Style::Dash);
     EXPECT_EQ(bench.Lines(black, 3)[0].style, Line_Style::Solid);
-    bench.session.graph.grid_style = Line_Style::Solid;
+    bench.session.settings.grid.style = Line_Style::Solid;
     bench.Draw(0);
     EXPECT_EQ(bench.Lines(red, 2).size() - bench.Lines(red, thin).size(), 0U);
     EXPECT_EQ(bench.Lines(red, 2).size(), 1498U + 18U) << "a wider pen for a colour of one's own";
@@ -221,7 +222,7 @@ TEST(Graph_Drawing, Identical_Tests_Have_No_Changes_To_Draw) {
     Graph_Bench bench;
     bench.Click("Form50.Option2(0)");
     EXPECT_EQ(bench.Draw(9), Events{short_curve});
-    EXPECT_EQ(bench.session.graph.y_per_unit, 0);
+    EXPECT_EQ(Graph_Of(bench.session).y_per_unit, 0);
 }
 
 TEST(Graph_Drawing, Marks_Points_Lifts_And_Quarter_Diameters) {
@@ -286,15 +287,15 @@ TEST(Graph_Plus, Wants_A_Graph_And_Takes_Three_Overlays) {
     }
     EXPECT_EQ(bench.Lines(0x8B0000, thin).size(), 1498U);
     EXPECT_EQ(bench.Click("Form50.Graph_Plus"), Events{refused});
-    EXPECT_EQ(bench.session.graph.plus_count, 3);
+    EXPECT_EQ(Graph_Of(bench.session).plus_count, 3);
     EXPECT_EQ(bench.Lines(black, 3).size(), 4U) << "one frame";
     bench.Draw(0);
-    EXPECT_EQ(bench.session.graph.plus_count, 0);
+    EXPECT_EQ(Graph_Of(bench.session).plus_count, 0);
     EXPECT_EQ(bench.Lines(0x006400, thick).size(), 0U);
-    EXPECT_EQ(bench.session.graph.legend_offset, 0);
-    bench.session.scale_y = 1.25;
+    EXPECT_EQ(Graph_Of(bench.session).legend_offset, 0);
+    bench.session.display.scale_y = 1.25;
     bench.Click("Form50.Graph_Plus");
-    EXPECT_EQ(bench.session.graph.legend_offset, 90);
+    EXPECT_EQ(Graph_Of(bench.session).legend_offset, 90);
 }
 
 TEST(Graph_Plus, Draws_On_The_Axes_That_Stand) {
@@ -304,8 +305,8 @@ TEST(Graph_Plus, Draws_On_The_Axes_That_Stand) {
     bench.Fill_Even("Form1.Text101", 200);
     bench.Set("Form50.Text2", "5");
     EXPECT_EQ(bench.Click("Form50.Graph_Plus"), Events{}) << "no limit, so no question";
-    EXPECT_EQ(bench.session.graph.y_high, 290);
-    EXPECT_EQ(bench.session.graph.x_high, 1400);
+    EXPECT_EQ(Graph_Of(bench.session).y_high, 290);
+    EXPECT_EQ(Graph_Of(bench.session).x_high, 1400);
     const auto pieces = bench.Lines(0x006400, thin);
     EXPECT_LT(pieces.back().y2, -2000) << "nothing is clipped";
     EXPECT_GT(pieces.back().x2, 1199);
@@ -316,9 +317,9 @@ TEST(Graph_Plus, Counts_A_Failed_Overlay_And_Forgets_A_Closed_Graph) {
     bench.Draw(0);
     bench.Fill("Form1.Text102", {"0", "10"});
     EXPECT_EQ(bench.Click("Form50.Graph_Plus"), Events{short_curve});
-    EXPECT_EQ(bench.session.graph.plus_count, 1);
+    EXPECT_EQ(Graph_Of(bench.session).plus_count, 1);
     bench.Close("Form60");
-    EXPECT_EQ(bench.session.graph.plus_count, 999);
+    EXPECT_EQ(Graph_Of(bench.session).plus_count, 999);
 }
 
 } // namespace

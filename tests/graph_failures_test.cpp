@@ -1,4 +1,5 @@
 #include "files/main_data_file.h"
+#include "graph/graph_state.h"
 #include "tests/graph_test_bench.h"
 
 #include <gtest/gtest.h>
@@ -49,7 +50,7 @@ TEST(Graph_Failures, No_Lift_Asks_For_More_Than_2000_Lines) {
         bench.Click("Form50.Check2");
         const bool fails = one.lines == 10;
         EXPECT_EQ(bench.Draw(0), fails ? Events{failed} : Events{});
-        EXPECT_EQ(bench.session.x_line_count, one.lines);
+        EXPECT_EQ(Graph_Of(bench.session).x_line_count, one.lines);
         EXPECT_EQ(Shows_Curves(bench), !fails);
         EXPECT_EQ(bench.Lines(0, 3).size(), 1U + 3U) << "the frame stands";
         EXPECT_LT(bench.Steps().size(), 20000U);
@@ -66,9 +67,9 @@ TEST(Graph_Failures, An_Axis_Without_A_Length_Is_Told_Of_Once_For_Each_Drawing) 
     }
     EXPECT_EQ(bench.Draw(0), Events{failed});
     EXPECT_FALSE(Shows_Curves(bench));
-    EXPECT_EQ(bench.session.graph.plus_count, 0);
+    EXPECT_EQ(Graph_Of(bench.session).plus_count, 0);
     EXPECT_EQ(bench.Click("Form50.Graph_Plus"), (Events{failed}));
-    EXPECT_EQ(bench.session.graph.plus_count, 1);
+    EXPECT_EQ(Graph_Of(bench.session).plus_count, 1);
     EXPECT_EQ(bench.Draw(9), Events{failed}) << "and no zero line, whose place nobody knows";
 }
 
@@ -78,7 +79,7 @@ TEST(Graph_Failures, Graph_Plus_Goes_On_After_A_Graph_Of_One_Test_With_Itself) {
     EXPECT_EQ(bench.Draw(9), Events{failed});
     bench.Click("Form50.Option2(1)");
     EXPECT_EQ(bench.Click("Form50.Graph_Plus"), Events{failed});
-    EXPECT_EQ(bench.session.graph.plus_count, 1);
+    EXPECT_EQ(Graph_Of(bench.session).plus_count, 1);
     EXPECT_TRUE(bench.Lines(0x006400, 2).empty()) << "the intake of an overlay";
 }
 
@@ -95,8 +96,8 @@ TEST(Graph_Failures, A_Limit_At_The_Other_End_Of_The_Axis_Leaves_No_Height) {
     ASSERT_EQ(events.size(), 2U);
     EXPECT_NE(events[0].find("High Y_Axis of -14 is Lower"), std::string::npos);
     EXPECT_EQ(events[1], failed);
-    EXPECT_EQ(bench.session.graph.y_low, -14);
-    EXPECT_EQ(bench.session.graph.y_high, -14);
+    EXPECT_EQ(Graph_Of(bench.session).y_low, -14);
+    EXPECT_EQ(Graph_Of(bench.session).y_high, -14);
     EXPECT_EQ(bench.Times_Written("0.0 - Zero Line "), 0U);
     EXPECT_FALSE(Shows_Curves(bench));
 }
@@ -118,7 +119,7 @@ TEST(Graph_Settings, A_Line_Style_That_Is_None_Fails_Its_Record) {
                   "plain box [OK, Cancel]: Error Number 380 -- Invalid property valueInvalid Input "
                   "Record # - 2   Data --> " +
                       line);
-        EXPECT_EQ(bench.session.graph.grid_style, Line_Style::Dash) << "as it was";
+        EXPECT_EQ(bench.session.settings.grid.style, Line_Style::Dash) << "as it was";
         EXPECT_EQ(bench.Get("Main.Text94"), "");
         EXPECT_EQ(bench.Draw(0), Events{});
     }
@@ -131,16 +132,16 @@ TEST(Graph_Settings, A_Line_Style_That_Is_None_Fails_Its_Record) {
 TEST(Graph_Settings, Switches_Are_0_Or_1_And_Colours_Have_24_Bits) {
     Graph_Bench bench;
     EXPECT_EQ(Load(bench, "Grid_SW = 5\r\nGrid_Color = 16777471\r\nLogo_SW = -1\r\n"), Events{});
-    EXPECT_EQ(bench.session.grid_on, 0);
-    EXPECT_EQ(bench.session.grid_colour, 255);
-    EXPECT_EQ(bench.session.logo_on, 0);
+    EXPECT_FALSE(bench.session.settings.grid.on);
+    EXPECT_EQ(bench.session.settings.grid.colour, 255);
+    EXPECT_FALSE(bench.session.settings.logo.on);
     Load(bench, "Grid_SW = 1\r\nGrid_Color = -1\r\n");
-    EXPECT_EQ(bench.session.grid_on, 1);
-    EXPECT_EQ(bench.session.grid_colour, 0xFFFFFF);
+    EXPECT_TRUE(bench.session.settings.grid.on);
+    EXPECT_EQ(bench.session.settings.grid.colour, 0xFFFFFF);
     bench.platform.colour = 0x7F0000FF;
     bench.Click("Main.Grid_Color");
-    EXPECT_EQ(bench.session.grid_colour, 255);
-    EXPECT_EQ(bench.session.picked_color, "255");
+    EXPECT_EQ(bench.session.settings.grid.colour, 255);
+    EXPECT_EQ(bench.session.answers.colour, "255");
     EXPECT_EQ(Load(bench, "Logo_Left = 1E39\r\n").size(), 2U) << "beyond single precision";
 }
 

@@ -1,3 +1,4 @@
+#include "graph/graph_state.h"
 #include "tests/graph_painting_bench.h"
 
 #include <QXmlStreamReader>
@@ -29,7 +30,7 @@ protected:
         for (int overlay = 0; overlay < 3; ++overlay) {
             bench_.Click("Form50.Graph_Plus");
         }
-        drawing_ = bench_.session.graph.canvas;
+        drawing_ = Graph_Of(bench_.session).canvas;
     }
 
     Graph_Bench bench_;
@@ -300,11 +301,11 @@ TEST_F(Letters_Of_The_Graph, And_Marks_Are_Hollow_With_One_Stroke) {
 
 TEST_F(Letters_Of_The_Graph, And_The_Usual_Grid_Is_Light) {
     bench_.Draw(0);
-    drawing_ = bench_.session.graph.canvas;
+    drawing_ = Graph_Of(bench_.session).canvas;
     EXPECT_NE(Bytes(Picture_Format::Svg).find("#c7c7c7"), std::string::npos);
-    bench_.session.grid_colour = 0x0000FF; // the user's red
+    bench_.session.settings.grid.colour = 0x0000FF; // the user's red
     bench_.Draw(0);
-    drawing_ = bench_.session.graph.canvas;
+    drawing_ = Graph_Of(bench_.session).canvas;
     const std::string svg = Bytes(Picture_Format::Svg);
     EXPECT_NE(svg.find(R"(stroke="#ff0000" stroke-width="2" points="60,0 60,600")"),
               std::string::npos)

@@ -1,3 +1,4 @@
+#include "graph/graph_state.h"
 #include "painting/png_writer.h"
 #include "painting/polyline.h"
 #include "painting/replay.h"
@@ -15,7 +16,7 @@ namespace {
 TEST_F(Painting, Writes_Each_Format_In_Its_Size) {
     Graph_Bench bench;
     bench.Draw(0);
-    drawing_ = bench.session.graph.canvas;
+    drawing_ = Graph_Of(bench.session).canvas;
     const std::string png = Bytes(Picture_Format::Png);
     EXPECT_TRUE(png.starts_with("\x89PNG\r\n\x1A\n"));
     EXPECT_LT(png.size(), 120000U);

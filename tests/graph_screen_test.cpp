@@ -2,6 +2,7 @@
 #include "drawing/painter.h"
 #include "drawing/printer.h"
 #include "files/main_data_file.h"
+#include "graph/graph_state.h"
 #include "screens/geometry.h"
 #include "tests/graph_test_bench.h"
 
@@ -120,7 +121,7 @@ TEST_F(Graph_Screen_Test, The_Frame_Of_The_Window_Takes_The_Graph_With_It) {
     Mouse("Form60.Picture1", Mouse_Action::Down, 10, 20);
     Mouse("Form60.Picture2", Mouse_Action::Down, 1, 1);
     EXPECT_EQ(bench_.Close("Form60"), (Events{"hide Form60", "unload Form60"}));
-    const Graph_State& graph = bench_.session.graph;
+    const Graph_State& graph = Graph_Of(bench_.session);
     EXPECT_FALSE(graph.drawing_now);
     EXPECT_FALSE(graph.logo_moving);
     for (const double limit : {graph.x_low, graph.x_high, graph.y_low, graph.y_high}) {
@@ -141,10 +142,10 @@ TEST_F(Graph_Screen_Test, The_List_Of_Widths_Gives_Its_Entries_Alone) {
     for (const std::string_view none : {"11", "", "abc", " 3", "3.0"}) {
         Select(bench_.session, widths, none);
         EXPECT_EQ(widths.Text(), "3");
-        EXPECT_EQ(bench_.session.draw_line_width, 3);
+        EXPECT_EQ(bench_.session.settings.draw_line_width, 3);
     }
     Select(bench_.session, widths, "12");
-    EXPECT_EQ(bench_.session.draw_line_width, 12);
+    EXPECT_EQ(bench_.session.settings.draw_line_width, 12);
     bench_.Close("Form60");
     EXPECT_EQ(bench_.Get("Form60.Combo1"), "12") << "the width in force";
 }
@@ -211,12 +212,13 @@ TEST_F(Graph_Screen_Test, Takes_A_Logo_And_Moves_It) {
     EXPECT_EQ(painter_.last_logo->file, path);
     EXPECT_EQ(painter_.last_logo->left, 40);
     EXPECT_EQ(painter_.last_logo->top, 50);
-    bench_.session.logo_on = 0; // as after a file that names a logo and switches it off
+    bench_.session.settings.logo.on =
+        false; // as after a file that names a logo and switches it off
     EXPECT_EQ(Save(bench_.folder.File("a.bmp")), Events{"chooser to save"});
     EXPECT_FALSE(painter_.last_logo);
-    bench_.session.logo_on = 1;
+    bench_.session.settings.logo.on = true;
     EXPECT_EQ(bench_.Click("Form60.Logo"), Events{});
-    EXPECT_EQ(bench_.session.logo_file, "");
+    EXPECT_EQ(bench_.session.settings.logo.file, "");
     EXPECT_EQ(bench_.Get("Form60.Logo"), "Logo -- Is OFF");
     EXPECT_EQ(Save(bench_.folder.File("a.bmp")), Events{"chooser to save"});
     EXPECT_FALSE(painter_.last_logo);
@@ -231,13 +233,13 @@ TEST_F(Graph_Screen_Test, Refuses_Logos_That_Are_No_Pictures) {
           std::optional<std::string>()}) {
         bench_.platform.Choose(path);
         EXPECT_EQ(bench_.Click("Form60.Logo"), refused) << path.value_or("a cancel");
-        EXPECT_EQ(bench_.session.logo_on, 0);
-        EXPECT_EQ(bench_.session.logo_file, "");
+        EXPECT_FALSE(bench_.session.settings.logo.on);
+        EXPECT_EQ(bench_.session.settings.logo.file, "");
     }
     painter_.fails = true; // its header is fine, what follows is not
     bench_.platform.Choose(Logo_File("cut.gif"));
     EXPECT_EQ(bench_.Click("Form60.Logo"), refused);
-    EXPECT_EQ(bench_.session.logo_on, 0);
+    EXPECT_FALSE(bench_.session.settings.logo.on);
 }
 
 TEST_F(Graph_Screen_Test, The_Name_Tells_The_Format) {

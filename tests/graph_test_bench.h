@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graph/graph_state.h"
 #include "tests/test_bench.h"
 
 #include <span>
@@ -25,7 +26,7 @@ public:
     Events Draw(int type, int x_column = 0);
 
     [[nodiscard]] std::span<const Draw_Operation> Steps() const {
-        return session.graph.canvas.Operations();
+        return Graph_Of(session).canvas.Operations();
     }
 
     /// The steps that draw lines of a colour with a pen.

@@ -35,7 +35,7 @@ Events Load(Test_Bench& bench, std::string_view bytes) {
 }
 
 std::string Saved(Test_Bench& bench) {
-    bench.session.file_path = bench.folder.File("again.dta");
+    bench.session.file.path = bench.folder.File("again.dta");
     Save_Main_File(bench.session);
     EXPECT_EQ(bench.Take_Events(), Events{});
     return bench.folder.Read("again.dta");
@@ -98,19 +98,19 @@ TEST(Main_Data_File, Names_Of_Both_Kinds_Are_Meant_In_The_Programs_Folder) {
                           "Logo_Name = shop/pictures/logo.GIF\r\n"),
               Events{});
     EXPECT_EQ(bench.Get("Form2.Text102(0)"), "Found");
-    EXPECT_EQ(bench.session.logo_file, "shop/pictures/logo.GIF");
+    EXPECT_EQ(bench.session.settings.logo.file, "shop/pictures/logo.GIF");
     EXPECT_EQ(bench.Get("Form60.Logo"), "Logo -- Is ON");
 }
 
 TEST(Main_Data_File, The_Path_Is_Known_Though_There_Is_No_Such_File) {
     Test_Bench bench;
-    EXPECT_EQ(bench.session.file_path, bench.folder.File("zxqw1234.sav"));
+    EXPECT_EQ(bench.session.file.path, bench.folder.File("zxqw1234.sav"));
     for (const std::string_view button :
          {"Main.Load_Data", "Form2.Load_Data", "Main.Load_Co_Name"}) {
         const std::string none = bench.folder.File(std::string(button));
         bench.platform.Choose(none);
         static_cast<void>(bench.Click(button));
-        EXPECT_EQ(bench.session.file_path, none);
+        EXPECT_EQ(bench.session.file.path, none);
     }
 }
 

@@ -1,4 +1,5 @@
 #include "output/compare_print.h"
+#include "output/print_state.h"
 #include "tests/print_test_bench.h"
 
 #include <gtest/gtest.h>
@@ -94,13 +95,13 @@ TEST_F(Printer_Choice, Chosen_Printer_Is_In_Force_For_All_Prints) {
 }
 
 TEST_F(Printer_Choice, Printer_That_Has_Gone_Is_Told) {
-    bench_.session.print.printer = "Gone";
+    Print_Of(bench_.session).printer = "Gone";
     for (const char* const print : {"Form1.Print_Sheet", "Form50.Command3", "Form60.Command2"}) {
         EXPECT_EQ(bench_.Click(print), Events{"exclamation box: Printer error"}) << print;
     }
     cli::Headless_Printers none({});
     bench_.session.printers = &none;
-    bench_.session.print.printer.clear();
+    Print_Of(bench_.session).printer.clear();
     EXPECT_EQ(bench_.Click("Form1.Print_Sheet"), Events{"exclamation box: Printer error"});
     bench_.Click("Main.Load_Printer_Info");
     EXPECT_EQ(bench_.Get("Main.Combo1"), "");

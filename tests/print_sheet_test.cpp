@@ -79,7 +79,7 @@ TEST_F(Sheet_Print, Logo_Stands_Opposite_The_Company_Or_At_The_Foot) {
 }
 
 TEST_F(Sheet_Print, Logo_That_Is_On_Without_A_Picture_Is_Passed_Over) {
-    bench_.session.logo_on = 1;
+    bench_.session.settings.logo.on = true;
     for (const char* const head : {"Main.Option4(0)", "Main.Option4(1)", "Main.Option4(2)"}) {
         bench_.Click(head);
         for (const std::string& words : In_Words(Page())) {

@@ -38,9 +38,9 @@ Print_Bench::Print_Bench(std::vector<std::string> devices)
 }
 
 void Print_Bench::Take_Logo() {
-    session.logo_file = folder.Write("logo.bmp", Bitmap_Of_64_By_48());
-    session.logo_on = 1;
-    kestrum::Take_Logo(session, session.logo_file);
+    session.settings.logo.file = folder.Write("logo.bmp", Bitmap_Of_64_By_48());
+    session.settings.logo.on = true;
+    kestrum::Take_Logo(session, session.settings.logo.file);
 }
 
 std::string In_Words(const Draw_Operation& step) {

@@ -169,7 +169,7 @@ TEST(Screens, A_Sheet_That_Comes_Later_Looks_Like_The_Others) {
         sheet.Text106(17).Set_Look(look);
     }
     bench.session.numbers.align_mode = Alignment::Center;
-    bench.session.plain_pointer = true;
+    bench.session.settings.plain_pointer = true;
     ASSERT_FALSE(bench.session.Is_Loaded("Form2"));
     const Look& later = bench.session.Sheet(2).Text106(17).Present_Look();
     EXPECT_EQ(later.font.name, "Courier");

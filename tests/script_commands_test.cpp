@@ -1,4 +1,5 @@
 #include "cli/script_runner.h"
+#include "graph/graph_state.h"
 #include "tests/script_run.h"
 
 #include <gtest/gtest.h>
@@ -197,7 +198,7 @@ std::string Printed_By(std::istream& script) {
     std::ostringstream out;
     cli::Script_Runner runner(around, out);
     EXPECT_EQ(runner.Run(script, "cannot read"), 0);
-    EXPECT_LT(runner.Current_Session().graph.canvas.Journal_Size(), 20000U) << "stays small";
+    EXPECT_LT(Graph_Of(runner.Current_Session()).canvas.Journal_Size(), 20000U) << "stays small";
     return out.str();
 }
 
@@ -230,8 +231,8 @@ TEST(Script_Canvas, Is_Not_Noted_For_A_Script_That_Will_Not_Ask) {
         std::istringstream script(before + std::string("click Form50.Command2\n# canvas\n"));
         cli::Script_Runner runner(around, out);
         EXPECT_EQ(runner.Run(script, "cannot read"), 0);
-        EXPECT_FALSE(runner.Current_Session().graph.canvas.Operations().empty());
-        EXPECT_EQ(runner.Current_Session().graph.canvas.Journal_Size(), 0U);
+        EXPECT_FALSE(Graph_Of(runner.Current_Session()).canvas.Operations().empty());
+        EXPECT_EQ(Graph_Of(runner.Current_Session()).canvas.Journal_Size(), 0U);
     }
 }
 

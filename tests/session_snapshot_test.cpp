@@ -1,6 +1,8 @@
 #include "application/events.h"
 #include "application/variables.h"
 #include "core/session_snapshot.h"
+#include "graph/graph_state.h"
+#include "sheet/sheet_state.h"
 #include "tests/graph_test_bench.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +44,7 @@ TEST(Session_Snapshot_Test, Puts_Back_All_That_Commands_Have_Changed) {
     bench.Click("Main.Command1"); // sheet 1 shows
     bench.Draw(0);
     session.Form60().Picture2.Move_To({.left = 30, .top = 40});
-    session.intake_seat.angle = 45;
+    Sheets_Of(session).intake_seat.angle = 45;
     static_cast<void>(session.Sheet(4));
     session.Unload(session.Form70()); // is made again behind the snapshot
     ASSERT_FALSE(session.Is_Loaded("Form70"));
@@ -50,7 +52,7 @@ TEST(Session_Snapshot_Test, Puts_Back_All_That_Commands_Have_Changed) {
     const auto variables = Variables_Of(session);
     ASSERT_GT(variables.size(), 10U);
     const std::size_t steps = bench.Steps().size();
-    const double high = session.graph.y_high;
+    const double high = Graph_Of(session).y_high;
     const Session_Snapshot snapshot(session);
 
     bench.Set("Form1.Text106(17)", "41");
@@ -58,15 +60,15 @@ TEST(Session_Snapshot_Test, Puts_Back_All_That_Commands_Have_Changed) {
     bench.Click("Main.Check2"); // metric
     bench.Click("Main.Command51");
     bench.Draw(3);
-    session.graph.canvas.Line_By_Hand(0, 0, 9, 9, 0, 1);
+    Graph_Of(session).canvas.Line_By_Hand(0, 0, 9, 9, 0, 1);
     session.Form60().Combo1.Set_Items({"1"});
     session.Form60().Picture2.Move_To({.left = 1, .top = 2});
     session.numbers.comma_mode = 1;
     session.numbers.align_mode = Alignment::Center;
     session.title_text = "other";
-    session.logo_on = 1;
-    session.grid_colour = 5;
-    session.intake_seat.angle = 30;
+    session.settings.logo.on = true;
+    session.settings.grid.colour = 5;
+    Sheets_Of(session).intake_seat.angle = 30;
     Look bold = bench.At("Form1.Text101(16)").Present_Look();
     bold.font.bold = true;
     bench.At("Form1.Text101(16)").Set_Look(bold);
@@ -82,8 +84,8 @@ TEST(Session_Snapshot_Test, Puts_Back_All_That_Commands_Have_Changed) {
     EXPECT_EQ(Controls_Of(session), controls);
     EXPECT_EQ(Variables_Of(session), variables);
     EXPECT_EQ(bench.Steps().size(), steps);
-    EXPECT_EQ(session.graph.y_high, high);
-    EXPECT_EQ(session.intake_seat.angle, 45);
+    EXPECT_EQ(Graph_Of(session).y_high, high);
+    EXPECT_EQ(Sheets_Of(session).intake_seat.angle, 45);
 }
 
 TEST(Session_Snapshot_Test, What_Is_Put_Back_Is_Shown_And_Later_Snapshots_See_Later_Changes) {

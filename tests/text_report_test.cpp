@@ -34,7 +34,7 @@ protected:
     /// Makes the report and gives its lines behind the notes.
     Lines Report() {
         events_ = bench_.Click("Form70.Command2");
-        std::string_view rest = bench_.session.work_text;
+        std::string_view rest = Report_Of(bench_.session).text;
         EXPECT_TRUE(rest.starts_with(notes));
         rest.remove_prefix(notes.size());
         Lines lines;
@@ -106,7 +106,7 @@ TEST_F(Text_Report, Of_Nothing_Is_The_Two_Notes_And_Opens_The_Viewer) {
     EXPECT_EQ(bench_.Take_Events(), Events{"chooser to save"});
     EXPECT_EQ(bench_.folder.Read("page.prt"), notes + "\r\n");
     EXPECT_FALSE(Is_Open());
-    EXPECT_EQ(bench_.Get("Form70.Text38") + bench_.session.work_text, "");
+    EXPECT_EQ(bench_.Get("Form70.Text38") + Report_Of(bench_.session).text, "");
 }
 
 TEST_F(Text_Report, A_Page_That_Is_Not_Saved_Is_Told_And_The_Viewer_Closes) {

@@ -10,19 +10,19 @@ namespace kestrum {
 namespace {
 
 /// The four boxes are copied on every click.
-template <int Shared_State::*variable>
+template <bool Settings::*variable>
 void Copy_Switch(Session& session, Control& control) {
-    session.*variable = control.Value();
+    session.settings.*variable = Switch_Of(control.Value());
 }
 
 constexpr auto commands = std::to_array<Command>({
     {"Command1", Run<Fill_Compare_Table>},
     {"Command2", Run<Draw_Fresh_Graph>},
     {"Graph_Plus", Run<Draw_Graph_Overlay>},
-    {"Check1", Copy_Switch<&Session::show_quarter_diameter_line>},
-    {"Check2", Copy_Switch<&Session::auto_x_lines>},
-    {"Check3", Copy_Switch<&Session::show_data_points>},
-    {"Check4", Copy_Switch<&Session::show_big>},
+    {"Check1", Copy_Switch<&Settings::show_quarter_diameter_line>},
+    {"Check2", Copy_Switch<&Settings::auto_x_lines>},
+    {"Check3", Copy_Switch<&Settings::show_data_points>},
+    {"Check4", Copy_Switch<&Settings::show_big>},
     {"Command3", Run<Print_Compare>},
     {"Command5", Capture_Owner},
     {"subend", Hide_Owner},

@@ -7,6 +7,7 @@
 #include "files/company_file.h"
 #include "files/main_data_file.h"
 #include "files/preloads.h"
+#include "output/print_state.h"
 #include "output/printer_choice.h"
 #include "output/screen_capture.h"
 #include "presentation/alignment.h"
@@ -51,18 +52,18 @@ void Plain_Pointer(Session& session, Control& control) {
 }
 
 void Free_Aspect(Session& session, Control& control) {
-    session.aspect_free = 1;
+    session.display.aspect_free = true;
     control.Set_Enabled(false);
 }
 
 void Load_Engine(Session& session, Control& /*control*/) {
-    session.file_path.clear();
+    session.file.path.clear();
     Load_Main_File(session, "");
     session.windows.Focus(session.Main().Text111(3));
 }
 
 void Save_Engine(Session& session, Control& /*control*/) {
-    session.file_path.clear();
+    session.file.path.clear();
     Save_Main_File(session);
 }
 
@@ -91,7 +92,7 @@ void Load_And_Hide_Preloads(Session& session, Control& /*control*/) {
 }
 
 void Pick_Printer(Session& session, Control& control) {
-    session.print.chosen_printer = control.Text();
+    Print_Of(session).chosen_printer = control.Text();
 }
 
 void Show_About(Session& session, Control& /*control*/) {

@@ -3,6 +3,7 @@
 #include "application/commands.h"
 #include "application/start_up.h"
 #include "core/field_handlers.h"
+#include "graph/graph_state.h"
 #include "output/text_report.h"
 
 #include <algorithm>
@@ -198,7 +199,7 @@ void Close_Window(Session& session, Screen& screen) {
         session.Hide(screen); // does what "Quit" does, and the closing is cancelled
         break;
     case Screen_Kind::Graph:
-        Forget_Graph(session.graph);
+        Forget_Graph(Graph_Of(session));
         [[fallthrough]];
     case Screen_Kind::Sheet:
         session.Unload(screen);

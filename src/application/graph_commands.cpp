@@ -12,12 +12,12 @@ namespace {
 
 void Pick_Line_Colour(Session& session, Control& /*control*/) {
     if (const auto colour = Get_Color(session)) {
-        session.draw_line_color = *colour;
+        session.settings.draw_line_color = *colour;
     }
 }
 
 void Pick_Line_Width(Session& session, Control& control) {
-    session.draw_line_width = session.numbers.Read_Integer(control);
+    session.settings.draw_line_width = session.numbers.Read_Integer(control);
 }
 
 void Print_Owner(Session& session, Control& control) {

@@ -21,10 +21,10 @@ void Detect_Separator(Session& session) {
 
 void Take_Graph_Switches(Session& session) {
     const Compare_Screen& compare = session.Form50();
-    session.show_quarter_diameter_line = compare.Check1.Value();
-    session.auto_x_lines = compare.Check2.Value();
-    session.show_data_points = compare.Check3.Value();
-    session.show_big = compare.Check4.Value();
+    session.settings.show_quarter_diameter_line = Switch_Of(compare.Check1.Value());
+    session.settings.auto_x_lines = Switch_Of(compare.Check2.Value());
+    session.settings.show_data_points = Switch_Of(compare.Check3.Value());
+    session.settings.show_big = Switch_Of(compare.Check4.Value());
 }
 
 void Handle_Switches(Session& session) {
@@ -34,8 +34,8 @@ void Handle_Switches(Session& session) {
     };
     Engine_Screen& main = session.Main();
     if (given("/fs") || given("/fn")) {
-        session.full_screen_mode = 1;
-        session.aspect_free = given("/fs") ? 0 : 1;
+        session.display.full_screen_mode = true;
+        session.display.aspect_free = !given("/fs");
         main.FullScrRes.Set_Enabled(false);
         main.AspectRatio.Set_Enabled(false);
     }
@@ -71,8 +71,8 @@ void Keep_Bad_File(const std::string& path, const std::string& folder) {
 }
 
 void Restore_Last_Session(Session& session) {
-    session.file_path = Session_File(session);
-    const std::string path = session.file_path;
+    session.file.path = Session_File(session);
+    const std::string path = session.file.path;
     if (Can_Be_Read(path) && !Load_Main_File(session, path)) {
         Keep_Bad_File(path, session.surroundings.folder);
     }
@@ -81,7 +81,7 @@ void Restore_Last_Session(Session& session) {
 /// Without the folder there is nothing to save into, and nothing is said. The exit may write
 /// twice; a file that one of the writings has brought to the disk is there.
 void Write_Session_File(Session& session) {
-    session.file_path = Session_File(session);
+    session.file.path = Session_File(session);
     const bool is_saved = File_Exists(session.surroundings.folder) && Save_Main_File(session);
     session.exit_saved = is_saved || session.exit_saved.value_or(false);
 }
@@ -111,7 +111,7 @@ void Start_Up(Session& session) {
     for (int number = 1; number <= sheet_count; ++number) {
         Calc_Flow_Test(session, session.Sheet(number));
     }
-    session.screen_dpi = session.surroundings.display.dpi;
+    session.display.dpi = session.surroundings.display.dpi;
     Handle_Switches(session);
     Restore_Last_Session(session);
     session.Show(session.Main());

@@ -2,11 +2,17 @@
 
 #include "base/text.h"
 #include "core/field_handlers.h"
+#include "graph/graph_state.h"
+#include "output/print_state.h"
+#include "output/screen_capture.h"
+#include "output/text_report.h"
 #include "screens/tips.h"
+#include "sheet/sheet_state.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <type_traits>
 
 namespace kestrum {
 
@@ -17,15 +23,38 @@ struct Variable {
     Variable_Value (*read)(const Session& session);
 };
 
-/// A number that is a member of the session.
-template <auto member>
-Variable_Value Number(const Session& session) {
-    return static_cast<double>(session.*member);
+template <typename Value>
+Variable_Value As_Variable(const Value& value) {
+    if constexpr (std::is_arithmetic_v<Value> || std::is_enum_v<Value>) {
+        return static_cast<double>(value);
+    } else if constexpr (std::is_same_v<Value, Real>) {
+        return value.Value();
+    } else {
+        return value;
+    }
 }
 
-template <auto member>
-Variable_Value Text(const Session& session) {
-    return session.*member;
+/// What stands at the end of a path of members.
+template <typename Value>
+const Value& Followed(const Value& value) {
+    return value;
+}
+
+template <typename Value, typename Member, typename... Members>
+const auto& Followed(const Value& value, Member member, Members... members) {
+    return Followed(value.*member, members...);
+}
+
+/// A variable of the session.
+template <auto... path>
+Variable_Value Own(const Session& session) {
+    return As_Variable(Followed(session, path...));
+}
+
+/// One of the state of a wing.
+template <typename State, auto... path>
+Variable_Value Of(const Session& session) {
+    return As_Variable(Followed(session.wings.Of<State>(), path...));
 }
 
 template <const std::string_view& constant>
@@ -33,44 +62,22 @@ Variable_Value Fixed(const Session& /*session*/) {
     return std::string(constant);
 }
 
-/// The same of the graph's state.
-template <auto member>
-Variable_Value Graph(const Session& session) {
-    return static_cast<double>(session.graph.*member);
-}
-
-template <Flow_Totals::Sum Flow_Totals::*sum>
-Variable_Value Total(const Session& session) {
-    return (session.flow_totals.*sum).total.Value();
-}
-
-template <Flow_Totals::Sum Flow_Totals::*sum>
-Variable_Value Count(const Session& session) {
-    return double((session.flow_totals.*sum).count);
-}
-
-template <Real Curtain_Areas::*area>
-Variable_Value Curtain(const Session& session) {
-    return (session.curtain_areas.*area).Value();
-}
-
 /// Samples of a curve of one test.
 template <int Graph_State::*point_count>
 Variable_Value Samples(const Session& session) {
-    return double(session.graph.*point_count * samples_per_point);
+    return double(Graph_Of(session).*point_count * samples_per_point);
 }
 
 /// One byte of the colour of the curve that was drawn last.
 template <unsigned shift>
 Variable_Value Curve_Colour(const Session& session) {
     constexpr unsigned byte = 0xFF;
-    return double(static_cast<unsigned>(session.graph.curve_colour) >> shift & byte);
+    return double(static_cast<unsigned>(Graph_Of(session).curve_colour) >> shift & byte);
 }
 
-/// The same of what the prints share.
-template <auto member>
-Variable_Value Print_Number(const Session& session) {
-    return static_cast<double>(session.print.*member);
+/// The canvas begins with white letters.
+Variable_Value Full_Byte(const Session& /*session*/) {
+    return 255.0;
 }
 
 /// Scratch of other days: counters are locals now, and work texts are empty between operations.
@@ -82,95 +89,87 @@ Variable_Value Empty(const Session& /*session*/) {
     return std::string();
 }
 
-template <Seat_Geometry Shared_State::*seat, Real Seat_Geometry::*member>
-Variable_Value Seat(const Session& session) {
-    return (session.*seat.*member).Value();
-}
-
 using S = Session;
-using G = Seat_Geometry;
+using G = Graph_State;
+using T = Sheet_State;
 
 const auto variables = std::to_array<Variable>({
-    {"File_Path", Text<&S::file_path>},
+    {"File_Path", Own<&S::file, &File_Transfer::path>},
     {"File_Number", Zero},
-    {"Records_Read", Number<&S::records_read>},
-    {"Records_Written", Number<&S::records_written>},
-    {"Work_Text", Text<&S::work_text>},
+    {"Records_Read", Own<&S::file, &File_Transfer::records_read>},
+    {"Records_Written", Own<&S::file, &File_Transfer::records_written>},
+    {"Work_Text", Of<Report_State, &Report_State::text>},
     {"Report_Line", Empty},
     {"Find_Pos", Zero},
-    {"Box_Answer", Number<&S::box_answer>},
+    {"Box_Answer", Own<&S::answers, &Dialog_Answers::box>},
     {"Row_Counter", Zero},
     {"Cr_Lf", Fixed<cr_lf>},
     {"Msg_Blank", Fixed<msg_blank>},
     {"Msg_Zero", Fixed<msg_zero>},
-    {"Title_Text", Text<&S::title_text>},
-    {"Intake_Valves", Number<&S::intake_valves>},
-    {"Exhaust_Valves", Number<&S::exhaust_valves>},
-    {"Comma_Mode",
-     [](const S& session) -> Variable_Value { return double(session.numbers.comma_mode); }},
-    {"Locale_Point",
-     [](const S& session) -> Variable_Value { return session.numbers.locale_point; }},
-    {"Mouse_Down", Number<&S::mouse_down>},
-    {"Align_Mode",
-     [](const S& session) -> Variable_Value { return double(session.numbers.align_mode); }},
-    {"Full_Screen_Mode", Number<&S::full_screen_mode>},
-    {"Aspect_Free", Number<&S::aspect_free>},
-    {"Screen_Dpi", Number<&S::screen_dpi>},
-    {"Scale_X", Number<&S::scale_x>},
-    {"Scale_Y", Number<&S::scale_y>},
-    {"Scale_Font", Number<&S::scale_font>},
-    {"Show_Quarter_Diameter_Line", Number<&S::show_quarter_diameter_line>},
-    {"Auto_X_Lines", Number<&S::auto_x_lines>},
-    {"Show_Data_Points", Number<&S::show_data_points>},
-    {"Show_Big", Number<&S::show_big>},
-    {"Canvas_X_Size", Number<&S::canvas_x_size>},
-    {"Canvas_Y_Size", Number<&S::canvas_y_size>},
-    {"Grid_On", Number<&S::grid_on>},
-    {"Grid_Colour", Number<&S::grid_colour>},
-    {"Font_Red", Number<&S::font_red>},
-    {"Font_Green", Number<&S::font_green>},
-    {"Font_Blue", Number<&S::font_blue>},
-    {"Y_Line_Count", Number<&S::y_line_count>},
-    {"X_Line_Count", Number<&S::x_line_count>},
-    {"Draw_Line_Color", Number<&S::draw_line_color>},
-    {"Draw_Line_Width", Number<&S::draw_line_width>},
-    {"Saved_Draw_Width", Graph<&Graph_State::saved_draw_width>},
-    {"Picked_Color", Text<&S::picked_color>},
-    {"Compare_From_Label", Text<&S::compare_from_label>},
-    {"Compare_To_Label", Text<&S::compare_to_label>},
-    {"Graph_Plus_Count", Graph<&Graph_State::plus_count>},
-    {"From_Point_Count", Graph<&Graph_State::from_point_count>},
-    {"To_Point_Count", Graph<&Graph_State::to_point_count>},
-    {"Graph_Tension", Graph<&Graph_State::tension>},
-    {"Curve_Tension", Graph<&Graph_State::tension>}, // every curve is drawn with it
+    {"Title_Text", Own<&S::title_text>},
+    {"Intake_Valves", Of<T, &T::intake_valves>},
+    {"Exhaust_Valves", Of<T, &T::exhaust_valves>},
+    {"Comma_Mode", Own<&S::numbers, &Numeric_Text::comma_mode>},
+    {"Locale_Point", Own<&S::numbers, &Numeric_Text::locale_point>},
+    {"Mouse_Down", Own<&S::mouse_down>},
+    {"Align_Mode", Own<&S::numbers, &Numeric_Text::align_mode>},
+    {"Full_Screen_Mode", Own<&S::display, &Display_Scale::full_screen_mode>},
+    {"Aspect_Free", Own<&S::display, &Display_Scale::aspect_free>},
+    {"Screen_Dpi", Own<&S::display, &Display_Scale::dpi>},
+    {"Scale_X", Own<&S::display, &Display_Scale::scale_x>},
+    {"Scale_Y", Own<&S::display, &Display_Scale::scale_y>},
+    {"Scale_Font", Own<&S::display, &Display_Scale::scale_font>},
+    {"Show_Quarter_Diameter_Line", Own<&S::settings, &Settings::show_quarter_diameter_line>},
+    {"Auto_X_Lines", Own<&S::settings, &Settings::auto_x_lines>},
+    {"Show_Data_Points", Own<&S::settings, &Settings::show_data_points>},
+    {"Show_Big", Own<&S::settings, &Settings::show_big>},
+    {"Canvas_X_Size", Own<&S::display, &Display_Scale::canvas_x_size>},
+    {"Canvas_Y_Size", Own<&S::display, &Display_Scale::canvas_y_size>},
+    {"Grid_On", Own<&S::settings, &Settings::grid, &Grid_Setting::on>},
+    {"Grid_Colour", Own<&S::settings, &Settings::grid, &Grid_Setting::colour>},
+    {"Font_Red", Full_Byte},
+    {"Font_Green", Full_Byte},
+    {"Font_Blue", Full_Byte},
+    {"Y_Line_Count", Of<G, &G::y_line_count>},
+    {"X_Line_Count", Of<G, &G::x_line_count>},
+    {"Draw_Line_Color", Own<&S::settings, &Settings::draw_line_color>},
+    {"Draw_Line_Width", Own<&S::settings, &Settings::draw_line_width>},
+    {"Saved_Draw_Width", Of<G, &G::saved_draw_width>},
+    {"Picked_Color", Own<&S::answers, &Dialog_Answers::colour>},
+    {"Compare_From_Label", Of<G, &G::from_label>},
+    {"Compare_To_Label", Of<G, &G::to_label>},
+    {"Graph_Plus_Count", Of<G, &G::plus_count>},
+    {"From_Point_Count", Of<G, &G::from_point_count>},
+    {"To_Point_Count", Of<G, &G::to_point_count>},
+    {"Graph_Tension", Of<G, &G::tension>},
+    {"Curve_Tension", Of<G, &G::tension>}, // every curve is drawn with it
     {"Curve_Sample_Count_From", Samples<&Graph_State::from_point_count>},
     {"Curve_Sample_Count_To", Samples<&Graph_State::to_point_count>},
-    {"Curve_Point_Count", Graph<&Graph_State::curve_point_count>},
+    {"Curve_Point_Count", Of<G, &G::curve_point_count>},
     {"Curve_Red", Curve_Colour<16>},
     {"Curve_Green", Curve_Colour<8>},
     {"Curve_Blue", Curve_Colour<0>},
-    {"X_Low", Graph<&Graph_State::x_low>},
-    {"X_High", Graph<&Graph_State::x_high>},
-    {"Y_Low", Graph<&Graph_State::y_low>},
-    {"Y_High", Graph<&Graph_State::y_high>},
-    {"X_Per_Unit", Graph<&Graph_State::x_per_unit>},
-    {"Y_Per_Unit", Graph<&Graph_State::y_per_unit>},
-    {"Legend_Offset", Graph<&Graph_State::legend_offset>},
-    {"Plot_Left", Graph<&Graph_State::plot_left>},
-    {"Plot_Right", Graph<&Graph_State::plot_right>},
-    {"Plot_Bottom", Graph<&Graph_State::plot_bottom>},
-    {"Drawing_Now", Graph<&Graph_State::drawing_now>},
-    {"Logo_Moving", Graph<&Graph_State::logo_moving>},
+    {"X_Low", Of<G, &G::x_low>},
+    {"X_High", Of<G, &G::x_high>},
+    {"Y_Low", Of<G, &G::y_low>},
+    {"Y_High", Of<G, &G::y_high>},
+    {"X_Per_Unit", Of<G, &G::x_per_unit>},
+    {"Y_Per_Unit", Of<G, &G::y_per_unit>},
+    {"Legend_Offset", Of<G, &G::legend_offset>},
+    {"Plot_Left", Of<G, &G::plot_left>},
+    {"Plot_Right", Of<G, &G::plot_right>},
+    {"Plot_Bottom", Of<G, &G::plot_bottom>},
+    {"Drawing_Now", Of<G, &G::drawing_now>},
+    {"Logo_Moving", Of<G, &G::logo_moving>},
     {"Thick_Lines", Zero},
-    {"Logo_On", Number<&S::logo_on>},
-    {"Logo_File", Text<&S::logo_file>},
-    {"Capture_Source", Text<&S::capture_source>},
-    {"Printer_Name",
-     [](const S& session) -> Variable_Value { return session.print.chosen_printer; }},
+    {"Logo_On", Own<&S::settings, &Settings::logo, &Logo_Setting::on>},
+    {"Logo_File", Own<&S::settings, &Settings::logo, &Logo_Setting::file>},
+    {"Capture_Source", Of<Capture_State, &Capture_State::source>},
+    {"Printer_Name", Of<Print_State, &Print_State::chosen_printer>},
     {"Printer_Item", Empty},
-    {"Print_Row_Y", Print_Number<&Print_State::row_y>},
-    {"Text_Width", Print_Number<&Print_State::text_width>},
-    {"Flow_Filter_Index", Number<&S::flow_filter_index>},
+    {"Print_Row_Y", Of<Print_State, &Print_State::row_y>},
+    {"Text_Width", Of<Print_State, &Print_State::text_width>},
+    {"Flow_Filter_Index", Own<&S::settings, &Settings::flow_filter_index>},
     {"Tip_Calculate", Fixed<tips::calculate>},
     {"Tip_Exit_Sheet", Fixed<tips::exit_sheet>},
     {"Tip_Load", Fixed<tips::load>},
@@ -185,34 +184,36 @@ const auto variables = std::to_array<Variable>({
     {"Tip_Corner_Ex_Bottom", Fixed<tips::corner_ex_bottom>},
     {"Tip_Sort", Fixed<tips::sort>},
     {"Tip_Prt_Sc", Fixed<tips::print_screen>},
-    {"Seat_Valve_Dia_In", Seat<&S::intake_seat, &G::valve_diameter>},
-    {"Seat_Angle_In", Seat<&S::intake_seat, &G::angle>},
-    {"Seat_Width_In", Seat<&S::intake_seat, &G::width>},
-    {"Seat_Sin_In", Seat<&S::intake_seat, &G::sine>},
-    {"Seat_Cos_In", Seat<&S::intake_seat, &G::cosine>},
-    {"Seat_Tan_In", Seat<&S::intake_seat, &G::tangent>},
-    {"Seat_Radial_In", Seat<&S::intake_seat, &G::radial>},
-    {"Throat_Limit_In", Seat<&S::intake_seat, &G::throat_limit>},
-    {"Seat_Valve_Dia_Ex", Seat<&S::exhaust_seat, &G::valve_diameter>},
-    {"Seat_Angle_Ex", Seat<&S::exhaust_seat, &G::angle>},
-    {"Seat_Width_Ex", Seat<&S::exhaust_seat, &G::width>},
-    {"Seat_Sin_Ex", Seat<&S::exhaust_seat, &G::sine>},
-    {"Seat_Cos_Ex", Seat<&S::exhaust_seat, &G::cosine>},
-    {"Seat_Tan_Ex", Seat<&S::exhaust_seat, &G::tangent>},
-    {"Seat_Radial_Ex", Seat<&S::exhaust_seat, &G::radial>},
-    {"Throat_Limit_Ex", Seat<&S::exhaust_seat, &G::throat_limit>},
-    {"Sum_Ratio_To_Max", Total<&Flow_Totals::ratio_to_max>},
-    {"Count_Ratio_To_Max", Count<&Flow_Totals::ratio_to_max>},
-    {"Sum_Ratio_All", Total<&Flow_Totals::ratio_all>},
-    {"Count_Ratio_All", Count<&Flow_Totals::ratio_all>},
-    {"Total_Flow_In", Total<&Flow_Totals::intake_flow>},
-    {"Count_Flow_In", Count<&Flow_Totals::intake_flow>},
-    {"Total_Flow_Ex", Total<&Flow_Totals::exhaust_flow>},
-    {"Count_Flow_Ex", Count<&Flow_Totals::exhaust_flow>},
-    {"Curtain_Low", Curtain<&Curtain_Areas::low>},
-    {"Slant_Length", Curtain<&Curtain_Areas::slant_length>},
-    {"Curtain_High", Curtain<&Curtain_Areas::high>},
-    {"Effective_Area", Curtain<&Curtain_Areas::effective>},
+    {"Seat_Valve_Dia_In", Of<T, &T::intake_seat, &Seat_Geometry::valve_diameter>},
+    {"Seat_Angle_In", Of<T, &T::intake_seat, &Seat_Geometry::angle>},
+    {"Seat_Width_In", Of<T, &T::intake_seat, &Seat_Geometry::width>},
+    {"Seat_Sin_In", Of<T, &T::intake_seat, &Seat_Geometry::sine>},
+    {"Seat_Cos_In", Of<T, &T::intake_seat, &Seat_Geometry::cosine>},
+    {"Seat_Tan_In", Of<T, &T::intake_seat, &Seat_Geometry::tangent>},
+    {"Seat_Radial_In", Of<T, &T::intake_seat, &Seat_Geometry::radial>},
+    {"Throat_Limit_In", Of<T, &T::intake_seat, &Seat_Geometry::throat_limit>},
+    {"Seat_Valve_Dia_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::valve_diameter>},
+    {"Seat_Angle_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::angle>},
+    {"Seat_Width_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::width>},
+    {"Seat_Sin_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::sine>},
+    {"Seat_Cos_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::cosine>},
+    {"Seat_Tan_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::tangent>},
+    {"Seat_Radial_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::radial>},
+    {"Throat_Limit_Ex", Of<T, &T::exhaust_seat, &Seat_Geometry::throat_limit>},
+    {"Sum_Ratio_To_Max",
+     Of<T, &T::flow_totals, &Flow_Totals::ratio_to_max, &Flow_Totals::Sum::total>},
+    {"Count_Ratio_To_Max",
+     Of<T, &T::flow_totals, &Flow_Totals::ratio_to_max, &Flow_Totals::Sum::count>},
+    {"Sum_Ratio_All", Of<T, &T::flow_totals, &Flow_Totals::ratio_all, &Flow_Totals::Sum::total>},
+    {"Count_Ratio_All", Of<T, &T::flow_totals, &Flow_Totals::ratio_all, &Flow_Totals::Sum::count>},
+    {"Total_Flow_In", Of<T, &T::flow_totals, &Flow_Totals::intake_flow, &Flow_Totals::Sum::total>},
+    {"Count_Flow_In", Of<T, &T::flow_totals, &Flow_Totals::intake_flow, &Flow_Totals::Sum::count>},
+    {"Total_Flow_Ex", Of<T, &T::flow_totals, &Flow_Totals::exhaust_flow, &Flow_Totals::Sum::total>},
+    {"Count_Flow_Ex", Of<T, &T::flow_totals, &Flow_Totals::exhaust_flow, &Flow_Totals::Sum::count>},
+    {"Curtain_Low", Of<T, &T::curtain_areas, &Curtain_Areas::low>},
+    {"Slant_Length", Of<T, &T::curtain_areas, &Curtain_Areas::slant_length>},
+    {"Curtain_High", Of<T, &T::curtain_areas, &Curtain_Areas::high>},
+    {"Effective_Area", Of<T, &T::curtain_areas, &Curtain_Areas::effective>},
 });
 
 /// A member of an array. Raises 9 for an index outside of it.
@@ -226,11 +227,11 @@ const auto& Member_Of(const Members& members, std::size_t index) {
 
 template <auto array>
 Variable_Value Member(const Session& session, std::size_t index) {
-    return Member_Of(session.graph.*array, index);
+    return Member_Of(Graph_Of(session).*array, index);
 }
 
 Variable_Value Print_Tab(const Session& session, std::size_t index) {
-    return double(Member_Of(session.print.tab, index));
+    return double(Member_Of(Print_Of(session).tab, index));
 }
 
 /// The arrays, as "From_X(3)".

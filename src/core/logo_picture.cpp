@@ -13,7 +13,7 @@ void Take_Logo(Session& session, const std::string& file) {
     if (session.painter != nullptr) {
         session.painter->Take_Logo(file);
     }
-    session.logo_size = {.width = double(size->width), .height = double(size->height)};
+    session.settings.logo.size = {.width = double(size->width), .height = double(size->height)};
 }
 
 } // namespace kestrum

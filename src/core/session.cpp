@@ -93,10 +93,11 @@ Graph_Screen& Session::Form60() {
         form60_ = std::make_unique<Graph_Screen>();
         form60_->caption = title_text + " -- Graph and Annotate";
         form60_->Combo1.Set_Items(Line_Widths());
-        form60_->Combo1.Set_Text(numbers.Plain(draw_line_width));
-        form60_->Picture1.Set_Extent({.width = canvas_x_size, .height = canvas_y_size});
-        if (logo_on == 1 && !logo_file.empty()) {
-            form60_->Show_Logo(logo_size.value_or(Extent{}));
+        form60_->Combo1.Set_Text(numbers.Plain(settings.draw_line_width));
+        form60_->Picture1.Set_Extent(
+            {.width = display.canvas_x_size, .height = display.canvas_y_size});
+        if (settings.logo.on && !settings.logo.file.empty()) {
+            form60_->Show_Logo(settings.logo.size.value_or(Extent{}));
         }
         Place_On_Display(*form60_);
     }
@@ -195,7 +196,7 @@ Box_Answer Session::Message(const Box& box) {
     mouse_down = false;
     windows.Show_Changes();
     const Box_Answer answer = dialogs.Show_Box(box);
-    box_answer = Answer_Number(answer);
+    answers.box = Answer_Number(answer);
     return answer;
 }
 
@@ -208,7 +209,7 @@ void Session::Place_On_Display(Screen& screen) const {
     if (&screen != form60_.get() || Centres_Graph(surroundings.display, size)) {
         screen.place = Middle_Of(surroundings.display, size);
     }
-    screen.plain_pointer = plain_pointer;
+    screen.plain_pointer = settings.plain_pointer;
 }
 
 void Session::Dress(Screen& screen) const {
@@ -228,13 +229,13 @@ void Session::Copy_Look_From_Open_Sheet(Flow_Sheet& sheet) const {
         }
     }
     const auto controls = sheet.Controls();
-    for (std::size_t at = 0; at < controls.size(); ++at) {
-        Look look = controls[at].Present_Look();
-        look.font = model->Controls()[at].Present_Look().font;
-        if (controls[at].Is_Text_Box()) {
+    for (std::size_t index = 0; index < controls.size(); ++index) {
+        Look look = controls[index].Present_Look();
+        look.font = model->Controls()[index].Present_Look().font;
+        if (controls[index].Is_Text_Box()) {
             look.alignment = numbers.align_mode;
         }
-        controls[at].Set_Look(look);
+        controls[index].Set_Look(look);
     }
 }
 

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "base/numeric_text.h"
-#include "core/flow_work.h"
-#include "core/graph_state.h"
-#include "core/print_state.h"
-#include "drawing/picture_file.h"
+#include "core/settings.h"
+#include "core/wing_states.h"
 #include "platform/dialogs.h"
 #include "platform/surroundings.h"
 #include "screens/compare_screen.h"
@@ -20,6 +18,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 namespace kestrum {
 
@@ -27,89 +26,60 @@ struct Painter;
 struct Printers;
 struct Screen_Camera;
 
-/// Dimensions of one side's valve seats, in inches and square inches, as the last calculation in
-/// US units left them. One set serves all sheets.
-struct Seat_Geometry {
-    Real valve_diameter;
-    Real angle; // degrees
-    Real width;
-    Real sine;
-    Real cosine;
-    Real tangent; // read by nothing
-    Real radial;
-    Real throat_limit;
-};
-
-/// The variables that the routines share, the state of the wings included. They can be copied as a
-/// whole, so that a face can keep them and put them back.
-struct Shared_State {
-    Numeric_Text numbers;
-    std::string title_text;
-    /// Empty: a file routine asks the user. Otherwise the path that it takes.
-    std::string file_path;
+/// What the routines that read and write files share.
+struct File_Transfer {
+    /// Empty: a routine asks the user. Otherwise the path that it takes.
+    std::string path;
     int records_read = 0;
     int records_written = 0;
-    /// The text report while its viewer shows it, else empty.
-    std::string work_text;
-    /// Number of the last box's answer: OK 1, Cancel 2, Yes 6, No 7.
-    int box_answer = 0;
-    int intake_valves = 1;
-    int exhaust_valves = 1;
-    bool mouse_down = false;
-    /// Set by the exit: whether the session file was written.
-    std::optional<bool> exit_saved;
-    int full_screen_mode = 0;
-    int aspect_free = 0;
-    int screen_dpi = 0;
+};
+
+/// What the user answered last.
+struct Dialog_Answers {
+    /// Number of a box's answer: OK 1, Cancel 2, Yes 6, No 7.
+    int box = 0;
+    /// What the colour dialog gave, as decimal digits; empty after a cancel.
+    std::string colour;
+};
+
+/// How the screens lie on the display.
+struct Display_Scale {
+    bool full_screen_mode = false;
+    bool aspect_free = false;
+    int dpi = 0;
     double scale_x = 1;
     double scale_y = 1;
     double scale_font = 1;
-    int show_quarter_diameter_line = 0;
-    int auto_x_lines = 0;
-    int show_data_points = 0;
-    int show_big = 0;
     double canvas_x_size = 600;
     double canvas_y_size = 600;
-    int grid_on = 1;
-    int grid_colour = 0x909090;
-    int font_red = 255;
-    int font_green = 255;
-    int font_blue = 255;
-    int y_line_count = 10;
-    int x_line_count = 10;
-    int draw_line_color = 99999;
-    /// What the colour dialog gave, as decimal digits; empty after a cancel.
-    std::string picked_color;
-    int draw_line_width = 3;
-    int flow_filter_index = 1;
-    /// Labels of the two compared tests: number and part number.
-    std::string compare_from_label;
-    std::string compare_to_label;
-    Graph_State graph;
-    int logo_on = 0;
-    /// Path of the logo picture, empty when there is none.
-    std::string logo_file;
-    /// Of the logo's picture in pixels, nothing when there is none.
-    std::optional<Extent> logo_size;
-    Print_State print;
-    /// "Main" while the engine screen takes the picture of itself.
-    std::string capture_source;
-    /// The mouse shows as the plain arrow, on screens to come as well.
-    bool plain_pointer = false;
-
-    Seat_Geometry intake_seat;
-    Seat_Geometry exhaust_seat;
-    Flow_Totals flow_totals;
-    Curtain_Areas curtain_areas;
 };
 
 /// One run of the program: the screens and the variables that its routines share.
-class Session : public Shared_State {
+class Session {
 public:
     Session(Dialogs& its_dialogs, Windows& its_windows, Surroundings its_surroundings);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     ~Session();
+
+    // The variables that the routines share, and the states of the wings.
+
+    Numeric_Text numbers;
+    Settings settings;
+    Display_Scale display;
+    File_Transfer file;
+    Dialog_Answers answers;
+    Wing_States wings;
+    std::string title_text;
+    bool mouse_down = false;
+    /// Set by the exit: whether the session file was written.
+    std::optional<bool> exit_saved;
+
+    /// All of them, to be kept and put back as a whole.
+    [[nodiscard]] auto Variables() {
+        return std::tie(numbers, settings, display, file, answers, wings, title_text, mouse_down,
+                        exit_saved);
+    }
 
     Dialogs& dialogs;
     Windows& windows;

@@ -4,7 +4,7 @@
 
 namespace kestrum {
 
-Session_Snapshot::Session_Snapshot(Session& session) : shared_(session) {
+Session_Snapshot::Session_Snapshot(Session& session) : variables_(session.Variables()) {
     session.For_Each_Loaded([this](Screen& screen) {
         screens_.push_back({screen.Name(), screen.Present_State()});
     });
@@ -19,7 +19,7 @@ void Session_Snapshot::Put_Back(Session& session) const {
     for (const Kept_Screen& kept : screens_) {
         session.Screen_Named(kept.name)->Set_State(kept.state);
     }
-    static_cast<Shared_State&>(session) = shared_;
+    session.Variables() = variables_;
     std::vector<Screen*> made_since;
     session.For_Each_Loaded([&](Screen& screen) {
         if (!Holds(screen)) {

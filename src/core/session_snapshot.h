@@ -3,6 +3,8 @@
 #include "core/session.h"
 
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace kestrum {
@@ -19,6 +21,11 @@ public:
     void Put_Back(Session& session) const;
 
 private:
+    template <typename... Variable>
+    static std::tuple<Variable...> Copied(const std::tuple<Variable&...>& variables);
+
+    using Variables = decltype(Copied(std::declval<Session&>().Variables()));
+
     struct Kept_Screen {
         std::string name;
         Screen_State state;
@@ -27,7 +34,7 @@ private:
     [[nodiscard]] bool Holds(const Screen& screen) const;
 
     std::vector<Kept_Screen> screens_;
-    Shared_State shared_;
+    Variables variables_;
 };
 
 } // namespace kestrum

@@ -1,7 +1,12 @@
 #pragma once
 
 #include "base/run_time_error.h"
+#include "drawing/drawing.h"
+#include "drawing/picture_file.h"
 #include "screens/control.h"
+
+#include <optional>
+#include <string>
 
 namespace kestrum {
 
@@ -9,8 +14,8 @@ namespace kestrum {
 // these, so that no code behind it meets a value that it does not know.
 
 /// A switch is on at 1 and at nothing else.
-[[nodiscard]] constexpr int Switch_Of(int number) {
-    return number == 1 ? 1 : 0;
+[[nodiscard]] constexpr bool Switch_Of(int number) {
+    return number == 1;
 }
 
 /// A colour has 24 bits; what stands above them is left out.
@@ -27,5 +32,38 @@ template <typename Choice>
     }
     return static_cast<Choice>(number);
 }
+
+/// The grid of the graph.
+struct Grid_Setting {
+    bool on = true;
+    Colour colour = 0x909090;
+    Line_Style style = Line_Style::Solid;
+};
+
+/// The logo of the shop, on the graph and at the foot of prints.
+struct Logo_Setting {
+    bool on = false;
+    /// Path of the picture, empty when there is none.
+    std::string file;
+    /// Of the picture in pixels, nothing when there is none.
+    std::optional<Extent> size;
+};
+
+/// What the user has chosen for the whole session.
+struct Settings {
+    Grid_Setting grid;
+    Logo_Setting logo;
+    bool show_quarter_diameter_line = false;
+    bool auto_x_lines = false;
+    bool show_data_points = false;
+    bool show_big = false;
+    /// Pen of the hand on the graph.
+    Colour draw_line_color = 99999;
+    int draw_line_width = 3;
+    /// Entry of the filter that the next import of a flow file begins with.
+    int flow_filter_index = 1;
+    /// The mouse shows as the plain arrow, on screens to come as well.
+    bool plain_pointer = false;
+};
 
 } // namespace kestrum

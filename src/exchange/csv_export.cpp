@@ -32,7 +32,7 @@ std::string CSV_File_Text(Session& session, const Flow_Sheet& sheet) {
         cells.emplace_back(Csv_Name_Of(field.quantity, session.Main().Is_Metric()));
     }
     Append_Csv_Line(text, cells);
-    session.records_written = 0;
+    session.file.records_written = 0;
     for (int row = zero_lift_row; row <= last_lift_row; ++row) {
         if (session.numbers(sheet.Text101(row)) > 0) {
             cells.clear();
@@ -40,7 +40,7 @@ std::string CSV_File_Text(Session& session, const Flow_Sheet& sheet) {
                 cells.push_back(Cell_Of(session.numbers, sheet.Array(field.array)(row)));
             }
             Append_Csv_Line(text, cells);
-            ++session.records_written;
+            ++session.file.records_written;
         }
     }
     return text;
@@ -48,13 +48,14 @@ std::string CSV_File_Text(Session& session, const Flow_Sheet& sheet) {
 
 void Export_CSV_File(Session& session, const Flow_Sheet& sheet) {
     try {
-        session.file_path = Chosen_File(session, Chooser_Mode::Save, csv_filter, 1);
-        Write_Whole_File(session.file_path, CSV_File_Text(session, sheet));
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, csv_filter, 1);
+        Write_Whole_File(session.file.path, CSV_File_Text(session, sheet));
     } catch (const Run_Time_Error&) {
         session.Message("CSV File was Not Saved", Box_Icon::Exclamation);
         return;
     }
-    session.Message(session.numbers.Fmt_Thousands(session.records_written) + " Records Written");
+    session.Message(session.numbers.Fmt_Thousands(session.file.records_written) +
+                    " Records Written");
 }
 
 } // namespace kestrum

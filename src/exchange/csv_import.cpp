@@ -34,7 +34,7 @@ void Tell_Refusal(Session& session, const Csv_Fault& fault) {
 }
 
 void Tell_Count(Session& session, const Csv_Table& table) {
-    std::string text = session.numbers.Fmt_Thousands(session.records_read) + " Records Read";
+    std::string text = session.numbers.Fmt_Thousands(session.file.records_read) + " Records Read";
     std::string_view before = "\r\n\r\nColumns Not Used: ";
     for (const std::string& column : table.unknown_columns) {
         text.append(before).append(column);
@@ -61,8 +61,8 @@ bool Calculated(Session& session, Flow_Sheet& sheet) {
 void Import_CSV_File(Session& session, Flow_Sheet& sheet) {
     std::string bytes;
     try {
-        session.file_path = Chosen_File(session, Chooser_Mode::Open, csv_filter, 1);
-        bytes = Read_Whole_File(session.file_path);
+        session.file.path = Chosen_File(session, Chooser_Mode::Open, csv_filter, 1);
+        bytes = Read_Whole_File(session.file.path);
     } catch (const Run_Time_Error&) {
         session.Message("Data from CSV File has Not been Loaded", Box_Icon::Exclamation);
         return;
@@ -78,10 +78,10 @@ bool Read_CSV_Rows(Session& session, Flow_Sheet& sheet, std::string_view bytes) 
         Tell_Refusal(session, fault);
         return false;
     }
-    session.records_read = table.rows_read;
+    session.file.records_read = table.rows_read;
     Put_Rows(sheet, table);
     const bool calculated = Calculated(session, sheet);
-    sheet.Text39.Set_Text(session.file_path);
+    sheet.Text39.Set_Text(session.file.path);
     Tell_Count(session, table);
     return calculated;
 }

@@ -17,7 +17,7 @@ constexpr std::string_view filter =
     "(*.dym)|*.dym|All Files (*.*)|*.*";
 
 void Tell_Count(Session& session) {
-    session.Message(session.numbers.Fmt_Thousands(session.records_read) + " Records Read");
+    session.Message(session.numbers.Fmt_Thousands(session.file.records_read) + " Records Read");
 }
 
 /// Brings the two series, each with lifts of its own, into the one lift column of the sheet. Both
@@ -110,15 +110,15 @@ void Import_Flow_File(Session& session, Flow_Sheet& sheet) {
     std::string bytes;
     try {
         const Chosen_Path choice =
-            Choice_Of_File(session, Chooser_Mode::Open, filter, session.flow_filter_index);
-        session.flow_filter_index = choice.filter_index;
-        session.file_path = choice.path;
-        bytes = Read_Whole_File(session.file_path);
+            Choice_Of_File(session, Chooser_Mode::Open, filter, session.settings.flow_filter_index);
+        session.settings.flow_filter_index = choice.filter_index;
+        session.file.path = choice.path;
+        bytes = Read_Whole_File(session.file.path);
     } catch (const Run_Time_Error&) {
         session.Message("No Flow File Selected");
         return;
     }
-    Read_Flow_Lines(session, sheet, Flow_Layout_Of(session.file_path), bytes);
+    Read_Flow_Lines(session, sheet, Flow_Layout_Of(session.file.path), bytes);
 }
 
 bool Read_Flow_Lines(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
@@ -133,7 +133,7 @@ bool Read_Flow_Lines(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
         Tell_Count(session);
         return false;
     }
-    sheet.Text39.Set_Text(session.file_path);
+    sheet.Text39.Set_Text(session.file.path);
     return true;
 }
 

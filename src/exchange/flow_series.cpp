@@ -44,7 +44,7 @@ private:
         if (!lines_.Next()) {
             Fail(error::input_past_end);
         }
-        Count_Record(session_.records_read);
+        Count_Record(session_.file.records_read);
         return lines_.Line();
     }
 
@@ -54,7 +54,7 @@ private:
         const std::string marker(Line());
         const int wanted = layout_ == Flow_Layout::Dyn ? 3 : layout_ == Flow_Layout::Dym ? 5 : 1;
         for (int seen = 1; seen < wanted && lines_.Next();) {
-            Count_Record(session_.records_read);
+            Count_Record(session_.file.records_read);
             seen += lines_.Line() == marker ? 1 : 0;
         }
         static_cast<void>(Line());
@@ -108,7 +108,7 @@ Flow_Layout Flow_Layout_Of(std::string_view path) {
 
 Flow_Reading Read_Flow_Points(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
                               std::string_view content, Flow_Points& points) {
-    session.records_read = 0;
+    session.file.records_read = 0;
     return Flow_Reader(session, sheet, layout, content).Read(points);
 }
 

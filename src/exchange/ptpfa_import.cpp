@@ -17,7 +17,7 @@ constexpr std::string_view filter = "PTPFA Files (*.pti)|*.pti|All Files (*.*)|*
 void Report_Failure(Session& session, const Run_Time_Error& failure) {
     session.Message("Error Number " + session.numbers.Fmt_Whole(failure.Number()) + " -- " +
                         failure.Description() + "\r\n\r\nSome or All of the Data from PTPFA File " +
-                        session.file_path + " has Not been Loaded",
+                        session.file.path + " has Not been Loaded",
                     Box_Icon::Stop);
 }
 
@@ -26,8 +26,8 @@ void Report_Failure(Session& session, const Run_Time_Error& failure) {
 void Import_PTPFA_File(Session& session, Flow_Sheet& sheet) {
     std::string bytes;
     try {
-        session.file_path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
-        bytes = Read_Whole_File(session.file_path);
+        session.file.path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
+        bytes = Read_Whole_File(session.file.path);
     } catch (const Run_Time_Error&) {
         session.Message("Data from PTPFA File has Not been Loaded", Box_Icon::Exclamation);
         return;
@@ -39,7 +39,7 @@ bool Read_PTPFA_Lines(Session& session, Flow_Sheet& sheet, std::string_view byte
     const std::string content = Decoded(bytes);
     try {
         Empty_Lift_Rows(sheet);
-        PTPFA_Reader reader(session, sheet, Ending_Of(session.file_path) == "pti");
+        PTPFA_Reader reader(session, sheet, Ending_Of(session.file.path) == "pti");
         reader.Read(content);
         Apply_Decimal_Mode(session.numbers, sheet);
         reader.Apply_Decimal_Mode_To_Engine();
@@ -48,7 +48,7 @@ bool Read_PTPFA_Lines(Session& session, Flow_Sheet& sheet, std::string_view byte
         Report_Failure(session, failure);
         return false;
     }
-    sheet.Text39.Set_Text(session.file_path);
+    sheet.Text39.Set_Text(session.file.path);
     return true;
 }
 

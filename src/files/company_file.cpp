@@ -46,12 +46,12 @@ bool Put_Line(Session& session, std::string_view line) {
 
 void Read_Lines(Session& session, std::string_view content) {
     Line_Reader lines(content);
-    session.records_read = 0;
+    session.file.records_read = 0;
     while (lines.Next()) {
-        Count_Record(session.records_read);
+        Count_Record(session.file.records_read);
         if (!Put_Line(session, lines.Line())) {
             session.Message("Bad or Invalid Record Read #" +
-                            session.numbers.Plain(session.records_read) + " ->>> " +
+                            session.numbers.Plain(session.file.records_read) + " ->>> " +
                             std::string(lines.Line()));
         }
     }
@@ -60,7 +60,7 @@ void Read_Lines(Session& session, std::string_view content) {
 } // namespace
 
 bool Read_Company_File(Session& session, const std::string& path) {
-    session.file_path = path;
+    session.file.path = path;
     std::string bytes;
     try {
         bytes = Read_Whole_File(path);
@@ -85,12 +85,12 @@ void Load_Company_File(Session& session) {
 
 void Save_Company_File(Session& session) {
     try {
-        session.file_path = Chosen_File(session, Chooser_Mode::Save, save_filter, company_files);
-        Record_Writer writer(session.records_written);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, save_filter, company_files);
+        Record_Writer writer(session.file.records_written);
         for (const Company_Line& line : Lines_Of(session.Main())) {
             writer.Write_Line(line.key, line.field.Text());
         }
-        Write_Whole_File(session.file_path, writer.Text());
+        Write_Whole_File(session.file.path, writer.Text());
     } catch (const Run_Time_Error&) {
         session.Message("Company Information Data File has NOT been Saved");
     }

@@ -70,7 +70,7 @@ constexpr std::array columns{
 class Flow_Writer {
 public:
     Flow_Writer(Session& session, const Flow_Sheet& sheet)
-        : numbers_(session.numbers), sheet_(sheet), records_(session.records_written) {}
+        : numbers_(session.numbers), sheet_(sheet), records_(session.file.records_written) {}
 
     void Header(const Key_Column& column) {
         for (const int row : column.header_rows) {
@@ -136,8 +136,8 @@ bool Put_Record(const Numeric_Text& numbers, Flow_Sheet& sheet, const Record& re
 
 void Report_Bad_Record(Session& session, std::string_view line) {
     session.Message({.text = "Invalid Input Record # - " +
-                             session.numbers.Fmt_Thousands(session.records_read) + "   Data --> " +
-                             std::string(line),
+                             session.numbers.Fmt_Thousands(session.file.records_read) +
+                             "   Data --> " + std::string(line),
                      .title = {},
                      .buttons = Box_Buttons::Ok_Cancel});
     session.Message(loading_failed, Box_Icon::Exclamation);
@@ -165,14 +165,15 @@ std::string Flow_File_Text(Session& session, const Flow_Sheet& sheet) {
 
 void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
     try {
-        session.file_path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
-        Write_Whole_File(session.file_path, Flow_File_Text(session, sheet));
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
+        Write_Whole_File(session.file.path, Flow_File_Text(session, sheet));
     } catch (const Run_Time_Error&) {
         session.Message("Flow Data File has NOT been Saved", Box_Icon::Exclamation);
         return;
     }
-    session.Message(session.numbers.Fmt_Thousands(session.records_written) + " Records Written");
-    sheet.Text39.Set_Text(session.file_path);
+    session.Message(session.numbers.Fmt_Thousands(session.file.records_written) +
+                    " Records Written");
+    sheet.Text39.Set_Text(session.file.path);
 }
 
 void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) {
@@ -184,10 +185,10 @@ void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) 
         return;
     }
     if (Read_Flow_Records(session, sheet, bytes) && name.empty()) {
-        session.Message(session.numbers.Fmt_Thousands(session.records_read) + " Records Read");
+        session.Message(session.numbers.Fmt_Thousands(session.file.records_read) + " Records Read");
     }
     // Behind the decimal switch, which would make ".dat" ",dat".
-    sheet.Text39.Set_Text(session.file_path);
+    sheet.Text39.Set_Text(session.file.path);
 }
 
 bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes) {

@@ -23,7 +23,7 @@ void Report_Bad_Record(Session& session, const Run_Time_Error& failure, std::str
     const Numeric_Text& numbers = session.numbers;
     session.Message(Box{.text = "Error Number " + numbers.Fmt_Whole(failure.Number()) + " -- " +
                                 failure.Description() + "Invalid Input Record # - " +
-                                numbers.Fmt_Thousands(session.records_read) + "   Data --> " +
+                                numbers.Fmt_Thousands(session.file.records_read) + "   Data --> " +
                                 std::string(line),
                         .title = {},
                         .buttons = Box_Buttons::Ok_Cancel});
@@ -35,18 +35,18 @@ void Report_Bad_Record(Session& session, const Run_Time_Error& failure, std::str
 } // namespace
 
 std::string Main_File_Text(Session& session) {
-    Record_Writer writer(session.records_written);
+    Record_Writer writer(session.file.records_written);
     Write_Main_Records(session, writer);
     return writer.Text();
 }
 
 bool Save_Main_File(Session& session) {
     try {
-        if (session.file_path.empty()) {
-            session.file_path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
+        if (session.file.path.empty()) {
+            session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
         }
         Calc_Engine(session);
-        Write_Whole_File(session.file_path, Main_File_Text(session));
+        Write_Whole_File(session.file.path, Main_File_Text(session));
         return true;
     } catch (const Run_Time_Error&) {
         session.Message("MAIN Data File has NOT been Saved");

@@ -52,18 +52,18 @@ constexpr std::array company_keys{
 /// The four check boxes of `Form50` with the shared variables that follow them.
 struct Compare_Switch {
     Control& (*box)(const Compare_Screen& compare);
-    int Shared_State::*variable;
+    bool Settings::*variable;
 };
 
 constexpr std::array compare_switches{
     Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check1; },
-                   &Session::show_quarter_diameter_line},
+                   &Settings::show_quarter_diameter_line},
     Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check2; },
-                   &Session::auto_x_lines},
+                   &Settings::auto_x_lines},
     Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check3; },
-                   &Session::show_data_points},
+                   &Settings::show_data_points},
     Compare_Switch{[](const Compare_Screen& compare) -> Control& { return compare.Check4; },
-                   &Session::show_big}};
+                   &Settings::show_big}};
 
 /// A key with a number of 1 to `count` at its end: the number less one, or -1.
 int Numbered(const Record& record, std::string_view stem, int count) {
@@ -170,12 +170,12 @@ bool Put_Logo(Session& session, const Record& record) {
     Control& picture = session.Form60().Picture2;
     Position position = picture.Moved_To();
     if (Begins(record, "logo_sw")) {
-        session.logo_on = Switch_Of(session.numbers.Read_Integer(record.Value()));
-        if (session.logo_on == 0) {
+        session.settings.logo.on = Switch_Of(session.numbers.Read_Integer(record.Value()));
+        if (!session.settings.logo.on) {
             Show_Logo(session);
         }
     } else if (Begins(record, "logo_name")) {
-        session.logo_file = record.Value();
+        session.settings.logo.file = record.Value();
         Show_Logo(session);
     } else if (Begins(record, "logo_top")) {
         position.top = Place_Value(session, record);
@@ -197,17 +197,17 @@ bool Put_Compare_Switch(Session& session, const Record& record) {
     const Compare_Switch& entry = compare_switches[static_cast<std::size_t>(index)];
     const int value = Is_Yes(record) ? 1 : 0;
     entry.box(session.Form50()).Set_Value(value);
-    session.*entry.variable = value;
+    session.settings.*entry.variable = value;
     return true;
 }
 
 bool Put_Grid(Session& session, const Record& record) {
     if (Begins(record, "grid_sw")) {
-        session.grid_on = Switch_Of(session.numbers.Read_Integer(record.Value()));
+        session.settings.grid.on = Switch_Of(session.numbers.Read_Integer(record.Value()));
     } else if (Begins(record, "grid_color")) {
-        session.grid_colour = Colour_Of(session.numbers.Read_Long(record.Value()));
+        session.settings.grid.colour = Colour_Of(session.numbers.Read_Long(record.Value()));
     } else if (Begins(record, "grid_drawstyle")) {
-        session.graph.grid_style =
+        session.settings.grid.style =
             Choice_Of(session.numbers.Read_Integer(record.Value()), Line_Style::Dot);
     } else {
         return false;
@@ -218,17 +218,18 @@ bool Put_Grid(Session& session, const Record& record) {
 void Write_Look(Session& session, Record_Writer& writer) {
     const Numeric_Text& numbers = session.numbers;
     const Position logo = session.Form60().Picture2.Moved_To();
-    writer.Write_Line("Logo_SW", numbers.Plain(session.logo_on));
-    writer.Write_Line("Logo_Name", session.logo_file);
+    writer.Write_Line("Logo_SW", numbers.Plain(session.settings.logo.on));
+    writer.Write_Line("Logo_Name", session.settings.logo.file);
     writer.Write_Line("Logo_Top", numbers.Plain(logo.top));
     writer.Write_Line("Logo_Left", numbers.Plain(logo.left));
     for (std::size_t at = 0; at < compare_switches.size(); ++at) {
         writer.Write_Line("Form50Check" + numbers.Fmt_Whole(static_cast<int>(at) + 1),
-                          Yes_Or_No(session.*compare_switches[at].variable));
+                          Yes_Or_No(session.settings.*compare_switches[at].variable));
     }
-    writer.Write_Line("Grid_SW", numbers.Plain(session.grid_on));
-    writer.Write_Line("Grid_Color", numbers.Plain(session.grid_colour));
-    writer.Write_Line("Grid_DrawStyle", numbers.Plain(static_cast<int>(session.graph.grid_style)));
+    writer.Write_Line("Grid_SW", numbers.Plain(session.settings.grid.on));
+    writer.Write_Line("Grid_Color", numbers.Plain(session.settings.grid.colour));
+    writer.Write_Line("Grid_DrawStyle",
+                      numbers.Plain(static_cast<int>(session.settings.grid.style)));
 }
 
 void Write_Fields(Session& session, Record_Writer& writer) {

@@ -16,13 +16,13 @@ constexpr std::size_t shortest_name = 5;
 
 void Choose_Preload(Session& session, int index) {
     try {
-        session.file_path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
+        session.file.path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
     } catch (const Run_Time_Error&) {
         return;
     }
     // The bare name of a file that lies elsewhere is not found later; that is known and stays.
     session.Main().Text1(index).Set_Text(
-        Name_In_Folder(session.surroundings.folder, session.file_path));
+        Name_In_Folder(session.surroundings.folder, session.file.path));
 }
 
 void Load_Preloads(Session& session) {

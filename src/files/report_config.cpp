@@ -69,10 +69,10 @@ bool Put_Record(const Numeric_Text& numbers, Report_Screen& screen, const Record
 }
 
 bool Read_Lines(Session& session, Report_Screen& screen, Line_Reader& lines) {
-    session.records_read = 0;
+    session.file.records_read = 0;
     Record record;
     while (lines.Next()) {
-        Count_Record(session.records_read);
+        Count_Record(session.file.records_read);
         record.Take(lines.Line());
         if (!Put_Record(session.numbers, screen, record) &&
             !Goes_On_After(session, record.Line(), reading_words)) {
@@ -86,7 +86,7 @@ bool Read_Lines(Session& session, Report_Screen& screen, Line_Reader& lines) {
 
 std::string Report_Config_Text(Session& session, const Report_Screen& screen) {
     const Numeric_Text& numbers = session.numbers;
-    Record_Writer writer(session.records_written);
+    Record_Writer writer(session.file.records_written);
     for (const std::string_view array : option_arrays) {
         const Control_Array& options = screen.Array(array);
         for (int index = 0; index < options.Size(); ++index) {
@@ -108,13 +108,13 @@ std::string Report_Config_Text(Session& session, const Report_Screen& screen) {
 void Save_Report_Config(Session& session, const Report_Screen& screen) {
     try {
         constexpr int config_files = 3;
-        session.file_path = Chosen_File(session, Chooser_Mode::Save, filter, config_files);
-        Write_Whole_File(session.file_path, Report_Config_Text(session, screen));
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, config_files);
+        Write_Whole_File(session.file.path, Report_Config_Text(session, screen));
     } catch (const Run_Time_Error&) {
         session.Message("Configuration File has NOT been Saved", Box_Icon::Exclamation);
         return;
     }
-    session.Message(session.numbers.Fmt_Whole(session.records_written) + " Records Written");
+    session.Message(session.numbers.Fmt_Whole(session.file.records_written) + " Records Written");
 }
 
 void Load_Report_Config(Session& session, Report_Screen& screen) {
@@ -126,7 +126,7 @@ void Load_Report_Config(Session& session, Report_Screen& screen) {
         return;
     }
     if (Read_Report_Config(session, screen, bytes)) {
-        session.Message(session.numbers.Fmt_Thousands(session.records_read) + " Records Read");
+        session.Message(session.numbers.Fmt_Thousands(session.file.records_read) + " Records Read");
     }
 }
 
@@ -137,8 +137,8 @@ bool Read_Report_Config(Session& session, Report_Screen& screen, std::string_vie
         return Read_Lines(session, screen, lines);
     } catch (const Run_Time_Error&) {
         session.Message("Invalid Input Record # - " +
-                            session.numbers.Fmt_Thousands(session.records_read) + "   Data --> " +
-                            std::string(lines.Line()),
+                            session.numbers.Fmt_Thousands(session.file.records_read) +
+                            "   Data --> " + std::string(lines.Line()),
                         Box_Icon::Exclamation);
         return false;
     }

@@ -79,7 +79,7 @@ void Rescue::Offer() {
 }
 
 std::optional<std::string> Rescue::Inputs_Of(Screen& screen) {
-    const int written = session_.records_written;
+    const int written = session_.file.records_written;
     std::optional<std::string> inputs;
     try {
         inputs = screen.Kind() == Screen_Kind::Engine
@@ -88,7 +88,7 @@ std::optional<std::string> Rescue::Inputs_Of(Screen& screen) {
     } catch (const Run_Time_Error&) {
         inputs.reset(); // the last good copy is better than none
     }
-    session_.records_written = written;
+    session_.file.records_written = written;
     return inputs;
 }
 

@@ -2,6 +2,7 @@
 
 #include "graph/compare_percent.h"
 #include "graph/compare_types.h"
+#include "graph/graph_state.h"
 #include "graph/port_energy.h"
 #include "graph/test_columns.h"
 
@@ -98,8 +99,8 @@ using Headings = std::array<std::array<std::string, 4>, 3>;
 
 Headings Headings_For(Session& session, const Compare_Type& type) {
     const std::string energy_unit = session.Main().Is_Metric() ? "Joules" : "Ft-lbs";
-    const std::string from = "Test " + session.compare_from_label;
-    const std::string to = "Test " + session.compare_to_label;
+    const std::string from = "Test " + Graph_Of(session).from_label;
+    const std::string to = "Test " + Graph_Of(session).to_label;
     switch (type.comparison) {
     case Comparison::Difference:
     case Comparison::Intake_Difference:
@@ -220,7 +221,7 @@ void Report_Failure(Session& session, const Run_Time_Error& failure) {
     // The From label stands here for both halves; wanted.
     std::string text = "Error Number " + session.numbers.Fmt_Whole(failure.Number()) + " -- " +
                        failure.Description() + "\r\n\r\nPlease Save your Data for Flow Test " +
-                       session.compare_from_label +
+                       Graph_Of(session).from_label +
                        "\r\n\r\nIf you can NOT Find the Reason for this Error. Please the Sent the "
                        "Saved Data file and a Print Screen of this Error to Software Support.";
     if (failure.Number() == error::division_by_zero) {
@@ -245,8 +246,8 @@ void Fill_Half(Session& session, const Control_Array& options, std::string& labe
 
 void Fill_Compare_Table(Session& session) {
     const Compare_Screen& table = session.Form50();
-    Fill_Half(session, table.Option1, session.compare_from_label, Fill_From);
-    Fill_Half(session, table.Option2, session.compare_to_label, Fill_To);
+    Fill_Half(session, table.Option1, Graph_Of(session).from_label, Fill_From);
+    Fill_Half(session, table.Option2, Graph_Of(session).to_label, Fill_To);
 }
 
 } // namespace kestrum

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/graph_state.h"
+#include "graph/graph_state.h"
 
 #include <functional>
 #include <span>

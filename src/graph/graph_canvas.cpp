@@ -1,6 +1,7 @@
 #include "graph/graph_canvas.h"
 
 #include "base/real.h"
+#include "graph/graph_state.h"
 
 #include <cmath>
 #include <utility>
@@ -8,15 +9,18 @@
 namespace kestrum {
 
 Graph_Canvas::Graph_Canvas(Session& session)
-    : pen_width(session.graph.draw_width), font_size(12 * session.scale_font), session_(session) {}
+    : pen_width(Graph_Of(session).draw_width),
+      font_size(12 * session.display.scale_font),
+      session_(session),
+      graph_(Graph_Of(session)) {}
 
 void Graph_Canvas::Line(double x1, double y1, double x2, double y2, int colour) const {
     State().canvas.Line(x1, y1, x2, y2, colour, pen_width, Line_Style::Solid, role);
 }
 
 void Graph_Canvas::Grid_Line(double x1, double y1, double x2, double y2) const {
-    State().canvas.Line(x1, y1, x2, y2, Swapped_Colour(session_.grid_colour), pen_width,
-                        session_.graph.grid_style, role);
+    State().canvas.Line(x1, y1, x2, y2, Swapped_Colour(session_.settings.grid.colour), pen_width,
+                        session_.settings.grid.style, role);
 }
 
 void Graph_Canvas::Vertical_Line(double x, int colour) const {
@@ -76,7 +80,7 @@ void Graph_Canvas::Mark(const Curve_Point& point, int colour) const {
     constexpr double design_size = 600;
     constexpr double radius = 4;
     // This exponent, not a third.
-    const double scale = std::pow(session_.canvas_x_size / design_size, 0.3333);
+    const double scale = std::pow(session_.display.canvas_x_size / design_size, 0.3333);
     const Curve_Point at = Mapped(point);
     State().canvas.Circle(at.x, at.y, scale * radius, colour, pen_width);
 }
@@ -88,7 +92,8 @@ bool Graph_Canvas::Has_Scale() const {
 Curve_Point Graph_Canvas::Mapped(const Curve_Point& point) const {
     const Graph_State& graph = State();
     const Real x = (Real(point.x) - graph.x_low) / graph.x_per_unit;
-    const Real y = session_.canvas_y_size - (Real(point.y) - graph.y_low) / graph.y_per_unit;
+    const Real y =
+        session_.display.canvas_y_size - (Real(point.y) - graph.y_low) / graph.y_per_unit;
     return {x.Value(), y.Value()};
 }
 

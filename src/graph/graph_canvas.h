@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session.h"
+#include "graph/graph_state.h"
 
 #include <string_view>
 
@@ -21,7 +21,7 @@ public:
 
     [[nodiscard]] Session& Owner() const { return session_; }
 
-    [[nodiscard]] Graph_State& State() const { return session_.graph; }
+    [[nodiscard]] Graph_State& State() const { return graph_; }
 
     double& pen_width;
     double font_size = 12;
@@ -57,6 +57,7 @@ private:
     [[nodiscard]] Draw_Operation Text_Step(double x, double y, std::string_view text) const;
 
     Session& session_;
+    Graph_State& graph_;
 };
 
 /// The system's blue-green-red number as 0xRRGGBB, or back.

@@ -5,6 +5,7 @@
 #include "graph/graph_frame.h"
 #include "graph/graph_legend.h"
 #include "graph/graph_series.h"
+#include "graph/graph_state.h"
 #include "graph/user_axis.h"
 
 #include <array>
@@ -55,7 +56,7 @@ void Draw_Curve(Graph_Canvas& canvas, const Curve& curve, const std::vector<Curv
         canvas.Line(present.x, present.y, next.x, next.y, curve.colour);
         present = next;
     });
-    if (session.show_data_points == 1) {
+    if (session.settings.show_data_points) {
         for (const Curve_Point& point : points) {
             canvas.Mark(point, curve.colour);
         }
@@ -85,7 +86,7 @@ void Report_Failed_Graph(Session& session) {
 
 void Draw_Curves(Graph_Canvas& canvas) {
     Session& session = canvas.Owner();
-    const Graph_State& graph = session.graph;
+    const Graph_State& graph = Graph_Of(session);
     const Compare_Screen& table = session.Form50();
     const Legend_Curves& colours = Colours_Of(graph.plus_count);
     const Shown_Sides shown = Sides_Shown(table);
@@ -128,16 +129,15 @@ void Draw_Markers(Graph_Canvas& canvas) {
     }
 }
 
-double Legend_Offset_For(const Session& session) {
-    const int overlay = session.graph.plus_count;
+double Legend_Offset_For(const Session& session, int overlay) {
     constexpr double stretched_first = 90;
-    return session.scale_y > 1 && overlay == 1 ? stretched_first : overlay * 65 + 20;
+    return session.display.scale_y > 1 && overlay == 1 ? stretched_first : overlay * 65 + 20;
 }
 
 } // namespace
 
 void Draw_Graph(Session& session) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     Graph_Canvas canvas(session);
     bool has_axes = true;
     if (graph.plus_count == 0) {
@@ -147,7 +147,7 @@ void Draw_Graph(Session& session) {
         Draw_Axis_Labels(canvas);
         Draw_Graph_Legend(canvas);
     } else {
-        graph.legend_offset = Legend_Offset_For(session);
+        graph.legend_offset = Legend_Offset_For(session, graph.plus_count);
         Draw_Graph_Legend(canvas);
     }
     if (has_axes) {
@@ -162,7 +162,7 @@ void Draw_Graph(Session& session) {
 void Draw_Zero_Line(Session& session) {
     constexpr int pieces = 100;
     constexpr double text_left = 5;
-    const Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     Graph_Canvas canvas(session);
     canvas.role = Draw_Role::Axis_Number;
     if (!canvas.Has_Scale()) {
@@ -172,10 +172,10 @@ void Draw_Zero_Line(Session& session) {
     for (int piece = 0; piece < pieces; ++piece) {
         const Curve_Point from = canvas.Mapped({graph.x_high / pieces * piece, 0});
         const Curve_Point to = canvas.Mapped({graph.x_high / pieces * (piece + 1), 0});
-        session.graph.canvas.Line(from.x, from.y, to.x, to.y, black, canvas.pen_width);
+        graph.canvas.Line(from.x, from.y, to.x, to.y, black, canvas.pen_width);
     }
-    canvas.Text_In_Span("0.0 - Zero Line ", text_left, session.canvas_x_size,
-                        graph.y_low / graph.y_per_unit + session.canvas_y_size + 2,
+    canvas.Text_In_Span("0.0 - Zero Line ", text_left, session.display.canvas_x_size,
+                        graph.y_low / graph.y_per_unit + session.display.canvas_y_size + 2,
                         Span_Mode::Left);
 }
 

@@ -2,6 +2,7 @@
 
 #include "graph/compare_types.h"
 #include "graph/graph_series.h"
+#include "graph/graph_state.h"
 
 #include <array>
 
@@ -28,7 +29,7 @@ const Scheme& Scheme_Of(int plus_count) {
 /// What the graph shows of the curves of its scheme.
 Legend_Curves Curves_Shown(Session& session) {
     const Shown_Sides shown = Sides_Shown(session.Form50());
-    Legend_Curves curves = Colours_Of(session.graph.plus_count);
+    Legend_Curves curves = Colours_Of(Graph_Of(session).plus_count);
     curves.intake = shown.intake ? curves.intake : no_colour;
     curves.exhaust = shown.exhaust ? curves.exhaust : no_colour;
     return curves;
@@ -42,15 +43,16 @@ const Legend_Curves& Colours_Of(int plus_count) {
 
 void Draw_Graph_Legend(Graph_Canvas& canvas) {
     Session& session = canvas.Owner();
-    const Graph_State& graph = session.graph;
+    const Graph_State& graph = Graph_Of(session);
     const Legend_Curves curves = Curves_Shown(session);
     const auto write = [&](double row, std::string_view text, double pen) {
-        canvas.Legend_Text(session.scale_x * legend_left,
-                           session.scale_y * row + graph.legend_offset, text, {curves, pen});
+        canvas.Legend_Text(session.display.scale_x * legend_left,
+                           session.display.scale_y * row + graph.legend_offset, text,
+                           {curves, pen});
     };
     write(50, Scheme_Of(graph.plus_count).text, thick_pen);
-    const std::string& from = session.compare_from_label;
-    const std::string& to = session.compare_to_label;
+    const std::string& from = graph.from_label;
+    const std::string& to = graph.to_label;
     if (from == to) {
         return write(69, "Flow Test " + from, thick_pen);
     }

@@ -1,5 +1,6 @@
 #include "graph/graph_series.h"
 
+#include "graph/graph_state.h"
 #include "graph/test_columns.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ void Read_X_Column(Session& session, const Control_Array& column, Series& x, int
         const double value = session.numbers(column(row)).Value();
         x.at(static_cast<std::size_t>(count)) = value;
         if (sets_limit) {
-            session.graph.x_high = std::max(session.graph.x_high, value);
+            Graph_Of(session).x_high = std::max(Graph_Of(session).x_high, value);
         }
         if (Counts(column(row), row)) {
             ++count;
@@ -36,7 +37,7 @@ struct Limits_Moved {
 
 void Read_Y_Column(Session& session, const Control_Array& x, const Control_Array& column,
                    Series& series, Limits_Moved moved) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     std::size_t index = 0;
     for (int row = zero_lift_row; row <= last_lift_row; ++row) {
         const Control& cell = column(row);
@@ -64,14 +65,14 @@ Shown_Sides Sides_Shown(const Compare_Screen& table) {
 }
 
 void Read_X(Session& session, bool sets_limit) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     const Compare_Screen& table = session.Form50();
     Read_X_Column(session, table.Text101, graph.from_x, graph.from_point_count, sets_limit);
     Read_X_Column(session, table.Text106, graph.to_x, graph.to_point_count, sets_limit);
 }
 
 void Read_Y(Session& session, const Compare_Type& type, bool sets_limits) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     const Test_Columns from = From_Columns(session);
     const Test_Columns to = To_Columns(session);
     const Shown_Sides shown = Sides_Shown(session.Form50());

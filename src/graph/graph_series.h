@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/session.h"
 #include "graph/compare_types.h"
+#include "graph/graph_state.h"
 
 namespace kestrum {
 

@@ -3,6 +3,7 @@
 #include "graph/compare_table.h"
 #include "graph/graph_drawing.h"
 #include "graph/graph_series.h"
+#include "graph/graph_state.h"
 #include "graph/user_axis.h"
 
 #include <algorithm>
@@ -24,12 +25,12 @@ void Reset_Series(Graph_State& graph) {
 }
 
 void Set_X_Scale(Session& session) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     if (Compare_Screen::Chosen(session.Form50().Option4) != 0) {
         constexpr double nearly_one_step = 0.00999;
         graph.x_high = std::floor((graph.x_high + nearly_one_step) * 100) / 100;
     }
-    graph.x_per_unit = ((Real(graph.x_high) - graph.x_low) / session.canvas_x_size).Value();
+    graph.x_per_unit = ((Real(graph.x_high) - graph.x_low) / session.display.canvas_x_size).Value();
 }
 
 void Set_X_Captions(Session& session) {
@@ -75,7 +76,7 @@ void Set_Coefficient_Limits(Graph_State& graph, double usual_low) {
 }
 
 void Set_Y_Limits(Session& session, const Compare_Type& type) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     const bool metric = session.Main().Is_Metric();
     const bool show_big = session.Form50().Check4.Value() == 1;
     switch (type.axis) {
@@ -139,7 +140,7 @@ void Draw_Fresh_Graph(Session& session) {
     Fill_Compare_Table(session);
     const Compare_Screen& table = session.Form50();
     const Compare_Type& type = Compare_Type_Of(table.Type());
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     graph.plus_count = 0;
     Reset_Series(graph);
     graph.x_low = 0;
@@ -165,7 +166,7 @@ void Draw_Fresh_Graph(Session& session) {
 
 void Draw_Graph_Overlay(Session& session) {
     constexpr int most_overlays = 3;
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     if (graph.plus_count >= most_overlays) {
         session.Message("You are seeing this Message for one of 2 reasons\r\n\r\n1) You don't do a "
                         "Graph before doing Graph Plus\r\n2) You are trying to do to many Graph "

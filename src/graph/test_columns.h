@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session.h"
+#include "graph/graph_state.h"
 
 namespace kestrum {
 
@@ -20,14 +21,14 @@ struct Test_Columns {
 [[nodiscard]] inline Test_Columns From_Columns(Session& session) {
     const Compare_Screen& table = session.Form50();
     return {table.Text101, table.Text102, table.Text103, table.Text107,
-            table.Text108, table.Text102, table.Text103, session.compare_from_label};
+            table.Text108, table.Text102, table.Text103, Graph_Of(session).from_label};
 }
 
 [[nodiscard]] inline Test_Columns To_Columns(Session& session) {
     const Compare_Screen& table = session.Form50();
     // The crossed gates are wanted: the intake looks at the To exhaust, the exhaust at the From.
     return {table.Text106, table.Text104, table.Text105, table.Text109,
-            table.Text110, table.Text105, table.Text103, session.compare_to_label};
+            table.Text110, table.Text105, table.Text103, Graph_Of(session).to_label};
 }
 
 } // namespace kestrum

@@ -1,5 +1,7 @@
 #include "graph/user_axis.h"
 
+#include "graph/graph_state.h"
+
 namespace kestrum {
 
 namespace {
@@ -17,7 +19,7 @@ bool User_Insists(Session& session, std::string_view end, const Control& field,
 }
 
 void Apply_High(Session& session, const Compare_Type& type, Real value) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     if (!type.Is_Percent() && value <= 0) {
         session.Message("For this type of Graph the User Supplied Y_Axis High Value\r\nMUST BE "
                         "GREATER THAN ZERO.\r\n\r\nUser Y_Axis High Value ignored.");
@@ -29,7 +31,7 @@ void Apply_High(Session& session, const Compare_Type& type, Real value) {
 }
 
 void Apply_Low(Session& session, Real value) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     const Numeric_Text& numbers = session.numbers;
     if (value <= graph.y_low ||
         User_Insists(session, "Low", session.Form50().Text1, "Higher", graph.y_low)) {
@@ -60,8 +62,8 @@ std::optional<Real> User_Limit(Session& session, const Control& field) {
 }
 
 void Set_Y_Scale(Session& session) {
-    Graph_State& graph = session.graph;
-    graph.y_per_unit = ((Real(graph.y_high) - graph.y_low) / session.canvas_y_size).Value();
+    Graph_State& graph = Graph_Of(session);
+    graph.y_per_unit = ((Real(graph.y_high) - graph.y_low) / session.display.canvas_y_size).Value();
 }
 
 void Apply_User_Y_Axis(Session& session, const Compare_Type& type) {

@@ -1,6 +1,7 @@
 #include "output/document_printing.h"
 
 #include "drawing/printer.h"
+#include "output/print_state.h"
 #include "screens/geometry.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ void Print_Or_Tell(Session& session, const std::function<void(const std::string&
 std::string Printer_In_Force(const Session& session) {
     const auto devices =
         session.printers == nullptr ? std::vector<std::string>() : session.printers->Devices();
-    const std::string& chosen = session.print.printer;
+    const std::string& chosen = Print_Of(session).printer;
     if (devices.empty() ||
         (!chosen.empty() && std::ranges::find(devices, chosen) == devices.end())) {
         Fail(error::printer_error);

@@ -14,13 +14,13 @@ constexpr std::string_view filter =
 /// No path takes it off.
 void Put_Logo(Session& session, const std::string& path) {
     const Graph_Screen& screen = session.Form60();
-    session.logo_on = path.empty() ? 0 : 1;
-    session.logo_file = path;
+    session.settings.logo.on = !path.empty();
+    session.settings.logo.file = path;
     if (path.empty()) {
-        session.logo_size.reset();
+        session.settings.logo.size.reset();
         screen.Hide_Logo();
     } else {
-        screen.Show_Logo(session.logo_size.value_or(Extent{}));
+        screen.Show_Logo(session.settings.logo.size.value_or(Extent{}));
     }
     screen.Picture1.Repaint();
 }
@@ -28,7 +28,7 @@ void Put_Logo(Session& session, const std::string& path) {
 } // namespace
 
 void Toggle_Logo(Session& session) {
-    if (session.logo_on == 1) {
+    if (session.settings.logo.on) {
         return Put_Logo(session, {});
     }
     try {

@@ -1,31 +1,33 @@
 #include "output/graph_mouse.h"
 
 #include "graph/graph_canvas.h"
+#include "graph/graph_state.h"
 
 namespace kestrum {
 
 namespace {
 
 void Show_Values(Session& session, const Curve_Point& at) {
-    const Graph_State& graph = session.graph;
+    const Graph_State& graph = Graph_Of(session);
     const Graph_Screen& screen = session.Form60();
-    if (session.canvas_y_size > 0) {
+    if (session.display.canvas_y_size > 0) {
         screen.Label18.Set_Text(session.numbers.Fmt_Eight_Wide(
-            graph.y_high - at.y / session.canvas_y_size * (graph.y_high - graph.y_low)));
+            graph.y_high - at.y / session.display.canvas_y_size * (graph.y_high - graph.y_low)));
     }
-    if (session.canvas_x_size > 0) {
+    if (session.display.canvas_x_size > 0) {
         screen.Label19.Set_Text(session.numbers.Fmt_Eight_Wide(
-            at.x / session.canvas_x_size * (graph.x_high - graph.x_low) + graph.x_low));
+            at.x / session.display.canvas_x_size * (graph.x_high - graph.x_low) + graph.x_low));
     }
 }
 
 /// A line of the user's from where the pen stands. It lands in the picture and is kept nowhere
 /// else.
 void Draw_To(Session& session, const Curve_Point& at) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     graph.saved_draw_width = graph.draw_width;
     graph.canvas.Line_By_Hand(graph.pen_at.x, graph.pen_at.y, at.x, at.y,
-                              Swapped_Colour(session.draw_line_color), session.draw_line_width);
+                              Swapped_Colour(session.settings.draw_line_color),
+                              session.settings.draw_line_width);
     graph.pen_at = at;
     session.Form60().Picture1.Repaint();
 }
@@ -33,7 +35,7 @@ void Draw_To(Session& session, const Curve_Point& at) {
 } // namespace
 
 void Mouse_On_Canvas(Session& session, Mouse_Action action, const Curve_Point& at) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     switch (action) {
     case Mouse_Action::Down:
         if (session.Form60().Check1.Value() != 0) {
@@ -56,7 +58,7 @@ void Mouse_On_Canvas(Session& session, Mouse_Action action, const Curve_Point& a
 }
 
 void Move_Logo(Session& session, Mouse_Action action, const Position& place) {
-    Graph_State& graph = session.graph;
+    Graph_State& graph = Graph_Of(session);
     if (action == Mouse_Action::Move && graph.logo_moving) {
         session.Form60().Picture2.Move_To(place);
         session.Form60().Picture1.Repaint(); // the logo lies over it

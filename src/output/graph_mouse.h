@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session.h"
+#include "graph/graph_state.h"
 
 namespace kestrum {
 

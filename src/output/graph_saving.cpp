@@ -1,6 +1,7 @@
 #include "output/graph_saving.h"
 
 #include "base/text.h"
+#include "graph/graph_state.h"
 #include "platform/file_store.h"
 #include "records/named_files.h"
 
@@ -22,11 +23,12 @@ constexpr std::array<Ending, 3> endings{
 
 std::optional<Placed_Logo> Shown_Logo(Session& session) {
     const Control& picture = session.Form60().Picture2;
-    if (session.logo_on == 0 || session.logo_file.empty() || !picture.Present_Look().visible) {
+    if (!session.settings.logo.on || session.settings.logo.file.empty() ||
+        !picture.Present_Look().visible) {
         return std::nullopt;
     }
     const Position& place = picture.Moved_To();
-    return Placed_Logo{.file = Path_Of_Named_File(session, session.logo_file),
+    return Placed_Logo{.file = Path_Of_Named_File(session, session.settings.logo.file),
                        .left = place.left,
                        .top = place.top};
 }
@@ -45,7 +47,7 @@ void Write_Graph(Session& session, const std::string& path) {
     if (session.painter == nullptr) {
         Fail(error::invalid_picture);
     }
-    Replace_File(path, session.painter->Picture_Of(session.graph.canvas, Format_For(path),
+    Replace_File(path, session.painter->Picture_Of(Graph_Of(session).canvas, Format_For(path),
                                                    Shown_Logo(session)));
 }
 

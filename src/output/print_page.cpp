@@ -1,5 +1,7 @@
 #include "output/print_page.h"
 
+#include "output/print_state.h"
+
 #include <array>
 #include <utility>
 
@@ -15,8 +17,8 @@ Print_Page::Print_Page(Session& session, const Paper& paper)
     : session_(session), end_(Page_End(paper)), pages_(1) {}
 
 double Print_Page::Measure(std::string_view text) {
-    session_.print.text_width = Printed_Text_Width(text, size);
-    return session_.print.text_width;
+    Print_Of(session_).text_width = Printed_Text_Width(text, size);
+    return Print_Of(session_).text_width;
 }
 
 void Print_Page::Print_Aligned(std::string_view text, double left, double right, Text_Anchor anchor,
@@ -59,13 +61,13 @@ void Print_Page::Rule(double below, double width) {
 }
 
 double Print_Page::Logo_Width() const {
-    const bool printed = session_.logo_on == 1 && session_.logo_size;
-    return printed ? session_.logo_size->width * twips_per_pixel : 0;
+    const bool printed = session_.settings.logo.on && session_.settings.logo.size;
+    return printed ? session_.settings.logo.size->width * twips_per_pixel : 0;
 }
 
 double Print_Page::Logo_Height() const {
-    const bool printed = session_.logo_on == 1 && session_.logo_size;
-    return printed ? session_.logo_size->height * twips_per_pixel : 0;
+    const bool printed = session_.settings.logo.on && session_.settings.logo.size;
+    return printed ? session_.settings.logo.size->height * twips_per_pixel : 0;
 }
 
 void Print_Page::Paint_Logo(double left, double top) {
@@ -74,14 +76,14 @@ void Print_Page::Paint_Logo(double left, double top) {
                        .y1 = top,
                        .x2 = Logo_Width(),
                        .y2 = Logo_Height(),
-                       .text = session_.logo_file});
+                       .text = session_.settings.logo.file});
 }
 
 void Print_Page::Start_Row(double highest) {
     if (y + Printed_Text_Height(highest) > end_) {
         New_Page();
     }
-    session_.print.row_y = static_cast<int>(y);
+    Print_Of(session_).row_y = static_cast<int>(y);
 }
 
 void Print_Page::Print_Label_Font() {
@@ -97,7 +99,7 @@ void Print_Page::Print_Value_Font() {
 }
 
 void Print_Page::Return_To_Row() {
-    y = session_.print.row_y;
+    y = Print_Of(session_).row_y;
 }
 
 void Print_Page::Cell(std::string_view text, int column, int behind, double limit) {
@@ -111,7 +113,7 @@ void Print_Page::New_Page() {
 }
 
 int Print_Page::Tab(int index) const {
-    return session_.print.tab.at(static_cast<std::size_t>(index));
+    return Print_Of(session_).tab.at(static_cast<std::size_t>(index));
 }
 
 void Print_Page::Set_Tabs() {
@@ -119,7 +121,7 @@ void Print_Page::Set_Tabs() {
                                         6700, 7800, 8900, 10000, 11100, 12200};
     static constexpr std::array<std::pair<std::size_t, int>, 3> limits{
         {{97, 125}, {98, 12075}, {99, 12150}}};
-    auto& tab = session_.print.tab;
+    auto& tab = Print_Of(session_).tab;
     std::copy(columns.begin(), columns.end(), tab.begin() + 1);
     for (const auto& [index, place] : limits) {
         tab.at(index) = place;

@@ -1,6 +1,7 @@
 #include "output/printer_choice.h"
 
 #include "drawing/printer.h"
+#include "output/print_state.h"
 
 #include <algorithm>
 
@@ -18,15 +19,15 @@ void Offer_Printers(Session& session) {
     const Engine_Screen& main = session.Main();
     const std::vector<std::string> devices = Devices_Of(session);
     main.Combo1.Set_Items(devices);
-    session.print.chosen_printer = devices.empty() ? std::string() : devices.front();
-    main.Combo1.Set_Text(session.print.chosen_printer);
+    Print_Of(session).chosen_printer = devices.empty() ? std::string() : devices.front();
+    main.Combo1.Set_Text(Print_Of(session).chosen_printer);
     main.Frame99.Set_Visible(true);
 }
 
 void Put_Printer_In_Force(Session& session) {
     const std::vector<std::string> devices = Devices_Of(session);
-    if (std::ranges::find(devices, session.print.chosen_printer) != devices.end()) {
-        session.print.printer = session.print.chosen_printer;
+    if (std::ranges::find(devices, Print_Of(session).chosen_printer) != devices.end()) {
+        Print_Of(session).printer = Print_Of(session).chosen_printer;
     }
     session.Main().Frame99.Set_Visible(false);
 }

@@ -56,13 +56,13 @@ void Take_And_Keep(Session& session, const Screen_Shot& shot) {
 class Source_Name {
 public:
     explicit Source_Name(Session& session) : session_(session) {
-        session_.capture_source = engine_screen;
+        Capture_Of(session_).source = engine_screen;
     }
 
     Source_Name(const Source_Name&) = delete;
     Source_Name& operator=(const Source_Name&) = delete;
 
-    ~Source_Name() { session_.capture_source.clear(); }
+    ~Source_Name() { Capture_Of(session_).source.clear(); }
 
 private:
     Session& session_;
@@ -81,8 +81,8 @@ std::string Capture_Path(const Session& session) {
 
 void Save_Form_Jpg(Session& session, Screen& screen) {
     const Screen_Shot shot = Shot_Of(session, screen);
-    session.file_path = shot.path;
-    if (session.capture_source != engine_screen) {
+    session.file.path = shot.path;
+    if (Capture_Of(session).source != engine_screen) {
         session.Hide(session.Main());
     }
     Take_And_Keep(session, shot);

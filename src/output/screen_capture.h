@@ -6,6 +6,15 @@
 
 namespace kestrum {
 
+/// "Main" while the engine screen takes the picture of itself.
+struct Capture_State {
+    std::string source;
+};
+
+[[nodiscard]] inline Capture_State& Capture_Of(Session& session) {
+    return session.wings.Of<Capture_State>();
+}
+
 /// The file of a picture taken now, in the program's folder:
 /// "Flow_Monday_November_16_2026_9_5_3.jpg".
 [[nodiscard]] std::string Capture_Path(const Session& session);

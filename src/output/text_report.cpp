@@ -186,15 +186,15 @@ bool Is_Typed(char32_t character) {
 } // namespace
 
 void Create_Text_Report(Session& session) {
-    session.work_text = Report(session).Build();
+    Report_Of(session).text = Report(session).Build();
     Control& viewer = session.Form70().Text38;
-    viewer.Set_Text(session.work_text);
+    viewer.Set_Text(Report_Of(session).text);
     viewer.Set_Visible(true);
     session.windows.Focus(viewer);
 }
 
 std::string Report_Page(const Session& session) {
-    return session.work_text + std::string(cr_lf);
+    return Report_Of(session).text + std::string(cr_lf);
 }
 
 void Save_Report_Page(Session& session) {
@@ -219,7 +219,7 @@ void Press_Key_On_Report(Session& session, char32_t character) {
     Control& viewer = session.Form70().Text38;
     viewer.Set_Visible(false);
     viewer.Set_Text("");
-    session.work_text.clear();
+    Report_Of(session).text.clear();
 }
 
 void Tick_All_For_Report(Report_Screen& choice, bool ticked) {

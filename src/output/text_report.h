@@ -4,6 +4,19 @@
 
 namespace kestrum {
 
+/// The text report while its viewer shows it, else empty.
+struct Report_State {
+    std::string text;
+};
+
+[[nodiscard]] inline Report_State& Report_Of(Session& session) {
+    return session.wings.Of<Report_State>();
+}
+
+[[nodiscard]] inline const Report_State& Report_Of(const Session& session) {
+    return session.wings.Of<Report_State>();
+}
+
 /// Builds the report of what is ticked on `Form70` and shows it in the viewer. Every sheet that
 /// takes part is calculated on the way and shows its boxes. Raises the errors of the valve counts,
 /// and those of port energies that cannot be worked out; the report has no handler for them.

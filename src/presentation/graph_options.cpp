@@ -5,14 +5,14 @@
 namespace kestrum {
 
 std::optional<Colour> Get_Color(Session& session) {
-    session.picked_color.clear();
+    session.answers.colour.clear();
     const auto chosen = session.dialogs.Choose_Colour();
     if (!chosen) {
         session.Message("No Color Selected");
         return std::nullopt;
     }
     const Colour colour = Colour_Of(*chosen);
-    session.picked_color = session.numbers.Plain(colour);
+    session.answers.colour = session.numbers.Plain(colour);
     return colour;
 }
 
@@ -26,19 +26,19 @@ void Choose_Graph_Font_Colour(Session& session) {
 
 void Choose_Grid_Colour(Session& session) {
     if (const auto colour = Get_Color(session)) {
-        session.grid_colour = *colour;
-        session.grid_on = 1;
+        session.settings.grid.colour = *colour;
+        session.settings.grid.on = true;
     }
 }
 
 void Set_Grid_Style(Session& session, Line_Style style) {
-    session.graph.grid_style = style;
-    session.grid_on = 1;
+    session.settings.grid.style = style;
+    session.settings.grid.on = true;
 }
 
 void Switch_Grid_Off(Session& session) {
-    session.graph.grid_style = Line_Style::Solid;
-    session.grid_on = 0;
+    session.settings.grid.style = Line_Style::Solid;
+    session.settings.grid.on = false;
 }
 
 } // namespace kestrum

@@ -3,7 +3,8 @@
 namespace kestrum {
 
 void Set_Plain_Pointer(Session& session) {
-    session.plain_pointer = true; // a screen that is not there yet takes it when it is made
+    session.settings.plain_pointer =
+        true; // a screen that is not there yet takes it when it is made
     session.For_Each_Loaded([](Screen& screen) { screen.plain_pointer = true; });
 }
 

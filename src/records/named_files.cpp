@@ -42,9 +42,9 @@ std::string Path_Of_Named_File(const Session& session, std::string_view name) {
 
 std::string Bytes_Of_File(Session& session, std::string_view name, std::string_view filter) {
     constexpr int own_files = 3; // in the filters of both kinds
-    session.file_path = name.empty() ? Chosen_File(session, Chooser_Mode::Open, filter, own_files)
+    session.file.path = name.empty() ? Chosen_File(session, Chooser_Mode::Open, filter, own_files)
                                      : Path_Of_Named_File(session, name);
-    return Read_Whole_File(session.file_path);
+    return Read_Whole_File(session.file.path);
 }
 
 } // namespace kestrum

@@ -24,11 +24,11 @@ bool Goes_On_After(Session& session, std::string_view line, const Reading_Words&
 
 bool Read_Records(Session& session, Line_Reader& lines, Control& comment,
                   const Reading_Words& words, const std::function<bool(const Record&)>& put) {
-    session.records_read = 0;
+    session.file.records_read = 0;
     Record record;
     bool in_comment = false;
     while (lines.Next()) {
-        Count_Record(session.records_read);
+        Count_Record(session.file.records_read);
         if (in_comment) {
             comment.Append_Text(cr_lf);
             comment.Append_Text(lines.Line());

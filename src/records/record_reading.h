@@ -35,14 +35,16 @@ void Restore_Records(Session& session, std::string_view bytes, Control& comment,
 class Own_File_State {
 public:
     explicit Own_File_State(Session& session)
-        : session_(session), records_read_(session.records_read), file_path_(session.file_path) {}
+        : session_(session),
+          records_read_(session.file.records_read),
+          file_path_(session.file.path) {}
 
     Own_File_State(const Own_File_State&) = delete;
     Own_File_State& operator=(const Own_File_State&) = delete;
 
     ~Own_File_State() {
-        session_.records_read = records_read_;
-        session_.file_path = file_path_;
+        session_.file.records_read = records_read_;
+        session_.file.path = file_path_;
     }
 
 private:

@@ -5,6 +5,7 @@
 #include "sheet/flow_rows.h"
 #include "sheet/flow_units.h"
 #include "sheet/seat_geometry.h"
+#include "sheet/sheet_state.h"
 
 namespace kestrum {
 
@@ -33,7 +34,7 @@ void Calc_Flow(Session& session, Flow_Sheet& sheet, const Flow_Units& units) {
             Seat_Geometry_Setup(session.numbers, context.intake, units.factors);
             Seat_Geometry_Setup(session.numbers, context.exhaust, units.factors);
         }
-        session.flow_totals = {};
+        Sheets_Of(session).flow_totals = {};
         for (int row = zero_lift_row; row <= last_lift_row; ++row) {
             Calc_Lift_Row(context, row);
         }
@@ -46,8 +47,8 @@ void Calc_Flow(Session& session, Flow_Sheet& sheet, const Flow_Units& units) {
 } // namespace
 
 void Calc_Flow_Test(Session& session, Flow_Sheet& sheet) {
-    session.intake_valves = session.numbers.Read_Integer(sheet.Text106(6));
-    session.exhaust_valves = session.numbers.Read_Integer(sheet.Text108(6));
+    Sheets_Of(session).intake_valves = session.numbers.Read_Integer(sheet.Text106(6));
+    Sheets_Of(session).exhaust_valves = session.numbers.Read_Integer(sheet.Text108(6));
     Calc_Flow(session, sheet, session.Main().Is_Metric() ? Metric_Flow_Units() : Us_Flow_Units());
 }
 

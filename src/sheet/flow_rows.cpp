@@ -1,6 +1,7 @@
 #include "sheet/flow_rows.h"
 
 #include "sheet/seat_geometry.h"
+#include "sheet/sheet_state.h"
 
 namespace kestrum {
 
@@ -154,7 +155,7 @@ void Effective_Flow_Area(const Row_Side& at) {
     const Units& units = at.Factors();
     Numeric_Text& numbers = at.context.session.numbers;
     // The row's own lift, not the effective one; the velocity takes the area unrounded.
-    const Real area = Effective_Area(at.context.session.curtain_areas, at.side,
+    const Real area = Effective_Area(Sheets_Of(at.context.session).curtain_areas, at.side,
                                      at.Number(at.Lift()) / 1000, units);
     at.Put(area_field, area * units.square_inch, at.context.units.effective_area);
     const Real flow = numbers.Read_Either_Mark(at.Corrected());
@@ -212,7 +213,7 @@ void Flow_Average(const Flow_Context& context, const Valve_Side& side,
 } // namespace
 
 void Calc_Lift_Row(const Flow_Context& context, int row) {
-    Flow_Totals& totals = context.session.flow_totals;
+    Flow_Totals& totals = Sheets_Of(context.session).flow_totals;
     const Row_Side intake{context, context.intake, row};
     const Row_Side exhaust{context, context.exhaust, row};
     Correct_Flow(intake);
@@ -234,7 +235,7 @@ void Calc_Lift_Row(const Flow_Context& context, int row) {
 }
 
 void Calc_Averages(const Flow_Context& context) {
-    const Flow_Totals& totals = context.session.flow_totals;
+    const Flow_Totals& totals = Sheets_Of(context.session).flow_totals;
     Required_Ratio(context);
     Existing_Ratio(context, totals);
     const Flow_Totals::Sum& all = totals.ratio_all;

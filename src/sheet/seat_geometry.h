@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/units.h"
+#include "sheet/sheet_state.h"
 #include "sheet/valve_side.h"
 
 namespace kestrum {

@@ -1,5 +1,7 @@
 #include "sheet/valve_side.h"
 
+#include "sheet/sheet_state.h"
+
 namespace kestrum {
 
 namespace {
@@ -57,9 +59,10 @@ Valve_Columns Columns_Of(const Flow_Sheet& sheet, Side side) {
 
 Valve_Side Valve_Side_Of(Session& session, const Flow_Sheet& sheet, Side side) {
     const bool intake = side == Side::Intake;
+    Sheet_State& state = Sheets_Of(session);
     return {Cells_Of(sheet, side), Columns_Of(sheet, side),
-            intake ? session.intake_valves : session.exhaust_valves,
-            intake ? session.intake_seat : session.exhaust_seat};
+            intake ? state.intake_valves : state.exhaust_valves,
+            intake ? state.intake_seat : state.exhaust_seat};
 }
 
 } // namespace kestrum

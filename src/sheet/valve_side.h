@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session.h"
+#include "sheet/sheet_state.h"
 
 namespace kestrum {
 

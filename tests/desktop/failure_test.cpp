@@ -1,3 +1,4 @@
+#include "graph/graph_state.h"
 #include "tests/desktop/desktop_bench.h"
 
 #include <QApplication>
@@ -83,7 +84,7 @@ TEST(Failure, A_Picture_That_Cannot_Be_Painted_Is_Told_Once) {
     session.Show(session.Form60());
     QCoreApplication::processEvents();
     QWidget& canvas = bench.Widget("Form60.Picture1");
-    session.graph.canvas.Line(0, 0, 99, 99, 0, 1, static_cast<Line_Style>(7));
+    Graph_Of(session).canvas.Line(0, 0, 99, 99, 0, 1, static_cast<Line_Style>(7));
     for (int times = 0; times < 3; ++times) {
         canvas.repaint();
         QTest::qWait(20);
@@ -91,7 +92,7 @@ TEST(Failure, A_Picture_That_Cannot_Be_Painted_Is_Told_Once) {
     const Events told = bench.Take_Events();
     ASSERT_EQ(told.size(), 1U);
     EXPECT_TRUE(told.front().starts_with("stop box: "));
-    session.graph.canvas.Clear();
+    Graph_Of(session).canvas.Clear();
     canvas.repaint();
     EXPECT_EQ(canvas.grab().toImage().pixelColor(50, 50), QColor(Qt::white));
     EXPECT_EQ(bench.Take_Events(), Events{});

@@ -1,4 +1,5 @@
 #include "desktop/desktop_printers.h"
+#include "output/print_state.h"
 #include "tests/desktop/desktop_bench.h"
 
 #include <QAction>
@@ -27,7 +28,7 @@ TEST(Printing, Pdf_File_Is_The_Last_Printer_And_Asks_For_A_Name) {
     EXPECT_EQ(bench.program.Its_Printers().Devices().back(), "PDF file");
     QString said;
     bench.program.Its_Printers().say = [&said](const QString& words) { said = words; };
-    bench.program.Its_Session().print.printer = "PDF file";
+    Print_Of(bench.program.Its_Session()).printer = "PDF file";
     bench.dialogs.Choose(bench.folder.File("o.pdf"));
     Trigger(bench, "Form1.Print_Sheet");
     EXPECT_TRUE(bench.folder.Read("o.pdf").starts_with("%PDF"));
@@ -41,7 +42,7 @@ TEST(Printing, Printer_That_Has_Gone_Is_Told) {
     Desktop_Bench bench;
     bench.Open_Sheet();
     static_cast<void>(bench.Take_Events());
-    bench.program.Its_Session().print.printer = "Gone";
+    Print_Of(bench.program.Its_Session()).printer = "Gone";
     Trigger(bench, "Form1.Print_Sheet");
     EXPECT_EQ(bench.Take_Events(), Events{"exclamation box: Printer error"});
 }
@@ -56,7 +57,7 @@ TEST(Printing, Preview_Comes_Before_The_Next_Print_Alone) {
         EXPECT_EQ(printable.title, QStringLiteral("Flow Sheet"));
         EXPECT_TRUE(Pdf_Bytes(printable, Paper_Size::Letter).starts_with("%PDF"));
     };
-    bench.program.Its_Session().print.printer = "PDF file";
+    Print_Of(bench.program.Its_Session()).printer = "PDF file";
     Trigger(bench, "Form1.Preview");
     EXPECT_EQ(shown, 1);
     bench.dialogs.Choose(bench.folder.File("o.pdf"));

@@ -94,7 +94,7 @@ TEST(Windows, A_Screen_Reader_Chooses_As_The_Mouse_Does) {
         EXPECT_EQ(bench.At(address).Value(), 1) << address;
     }
     EXPECT_EQ(bench.At("Form50.Option3(0)").Value(), 0);
-    EXPECT_EQ(bench.program.Its_Session().auto_x_lines, 1);
+    EXPECT_TRUE(bench.program.Its_Session().settings.auto_x_lines);
 }
 
 TEST(Windows, A_Test_Is_Saved_And_Loaded_Through_The_Choosers) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/session.h"
+
 #include <array>
 #include <string>
 
@@ -18,5 +20,13 @@ struct Print_State {
     /// The width that was measured last.
     double text_width = 0;
 };
+
+[[nodiscard]] inline Print_State& Print_Of(Session& session) {
+    return session.wings.Of<Print_State>();
+}
+
+[[nodiscard]] inline const Print_State& Print_Of(const Session& session) {
+    return session.wings.Of<Print_State>();
+}
 
 } // namespace kestrum

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/session.h"
 #include "drawing/drawing.h"
 
 #include <array>
@@ -29,6 +30,9 @@ inline constexpr int no_graph = 999;
 struct Graph_State {
     /// 0 on a fresh graph, 1 to 3 with each overlay.
     int plus_count = no_graph;
+    /// Labels of the two compared tests: number and part number.
+    std::string from_label;
+    std::string to_label;
     int from_point_count = 0;
     int to_point_count = 0;
     int tension = 0;
@@ -45,6 +49,8 @@ struct Graph_State {
     double x_per_unit = 0;
     double y_per_unit = 0;
     double legend_offset = 0;
+    int y_line_count = 10;
+    int x_line_count = 10;
     /// Numbers of the axes from the high end down. They only grow, as more lines are asked for.
     std::vector<std::string> x_label_text = std::vector<std::string>(usual_axis_labels);
     std::vector<std::string> y_label_text = std::vector<std::string>(usual_axis_labels);
@@ -57,8 +63,6 @@ struct Graph_State {
     int plot_left = 0;
     int plot_right = 599;
     int plot_bottom = 599;
-    /// Lines of the grid. It outlives the window.
-    Line_Style grid_style = Line_Style::Solid;
     /// What stands on the canvas of `Form60`, hand drawing included.
     Drawing canvas;
     /// The mouse draws on the canvas, from this point on.
@@ -66,5 +70,13 @@ struct Graph_State {
     Curve_Point pen_at;
     bool logo_moving = false;
 };
+
+[[nodiscard]] inline Graph_State& Graph_Of(Session& session) {
+    return session.wings.Of<Graph_State>();
+}
+
+[[nodiscard]] inline const Graph_State& Graph_Of(const Session& session) {
+    return session.wings.Of<Graph_State>();
+}
 
 } // namespace kestrum
