@@ -19,8 +19,11 @@ bool Starts_Character(char byte) {
 
 /// Byte offset of the character at a position counted from 0.
 std::size_t Offset_Of(std::string_view text, std::size_t character) {
+    if (character >= text.size()) {
+        return text.size(); // no character is shorter than a byte
+    }
     std::size_t offset = 0;
-    while (offset < text.size() && character > 0) {
+    while (character > 0 && offset < text.size()) {
         ++offset;
         while (offset < text.size() && !Starts_Character(text[offset])) {
             ++offset;
