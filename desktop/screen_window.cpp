@@ -159,8 +159,8 @@ void Screen_Window::Set_Tab_Order() const {
         const std::vector<QWidget*> more = cover_->Present_Page()->Tab_Order();
         order.insert(order.end(), more.begin(), more.end());
     }
-    for (std::size_t at = 1; at < order.size(); ++at) {
-        QWidget::setTabOrder(order[at - 1], order[at]);
+    for (std::size_t index = 1; index < order.size(); ++index) {
+        QWidget::setTabOrder(order[index - 1], order[index]);
     }
 }
 

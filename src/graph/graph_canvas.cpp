@@ -25,8 +25,8 @@ void Graph_Canvas::Grid_Line(double x1, double y1, double x2, double y2) const {
 
 void Graph_Canvas::Vertical_Line(double x, int colour) const {
     if (State().x_per_unit != 0) {
-        const double at = (Real(x) / State().x_per_unit).Value();
-        State().canvas.Line(at, 0, at, State().plot_bottom, colour, pen_width);
+        const double column = (Real(x) / State().x_per_unit).Value();
+        State().canvas.Line(column, 0, column, State().plot_bottom, colour, pen_width);
     }
 }
 
@@ -81,8 +81,8 @@ void Graph_Canvas::Mark(const Curve_Point& point, int colour) const {
     constexpr double radius = 4;
     // This exponent, not a third.
     const double scale = std::pow(session_.display.canvas_x_size / design_size, 0.3333);
-    const Curve_Point at = Mapped(point);
-    State().canvas.Circle(at.x, at.y, scale * radius, colour, pen_width);
+    const Curve_Point centre = Mapped(point);
+    State().canvas.Circle(centre.x, centre.y, scale * radius, colour, pen_width);
 }
 
 bool Graph_Canvas::Has_Scale() const {
