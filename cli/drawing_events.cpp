@@ -1,5 +1,7 @@
 #include "cli/drawing_events.h"
 
+#include <nlohmann/json.hpp>
+
 #include <array>
 #include <string>
 

@@ -2,8 +2,8 @@
 
 #include "base/text.h"
 #include "cli/line_text.h"
-#include "cli/script_error.h"
 #include "cli/standard_streams.h"
+#include "cli/usage_error.h"
 
 #include <algorithm>
 #include <charconv>
