@@ -5,10 +5,13 @@
 #include "desktop/cell_words.h"
 #include "desktop/print_preview.h"
 #include "desktop/safe_application.h"
+#include "desktop/text_bridge.h"
+#include "files/kept_tests.h"
 
 #include <QGuiApplication>
 
 #include <chrono>
+#include <utility>
 
 namespace kestrum::desktop {
 
@@ -46,6 +49,10 @@ Program::~Program() {
 void Program::Set_Gate_Up() {
     gate_.Set_Follow_Up([this] {
         windows_.Refresh();
+        if (!session_.file.kept.empty()) {
+            windows_.Say(QLatin1String("Saved to ") +
+                         To_Qt(std::exchange(session_.file.kept, std::string())));
+        }
         if (rescue_) {
             rescue_->Note();
         }
@@ -100,6 +107,7 @@ void Program::Write_Rescue_Copies() {
 
 void Program::End() {
     ended_ = true;
+    Keep_Last_Session(session_);
     gate_.Set_History(nullptr);
     end_signals_.reset();
     rescue_clock_.stop();

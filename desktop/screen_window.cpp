@@ -6,7 +6,9 @@
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
 #include "desktop/print_preview.h"
+#include "desktop/test_entries.h"
 #include "desktop/text_bridge.h"
+#include "files/kept_tests.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -106,7 +108,9 @@ void Screen_Window::Make_Content() {
     auto* const bar = new QMenuBar(this);
     Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
     Add_Preview_Entry(*bar, session_, gate_, *screen_);
+    Add_Test_Entries(*bar, session_, gate_, keeper_, *screen_);
     edit_menu_ = new Edit_Menu(*this, *bar, gate_, *help_);
+    Add_Go_Menu(*this, *bar, session_, gate_, *screen_);
     if (bar->actions().isEmpty()) {
         delete bar;
     } else {
@@ -201,7 +205,7 @@ QSize Screen_Window::Usual_Size() const {
 }
 
 void Screen_Window::Open() {
-    setWindowTitle(To_Qt(screen_->caption));
+    setWindowTitle(Title());
     if (!placed_) {
         placed_ = true;
         resize(Usual_Size());
@@ -238,11 +242,29 @@ Screen_Window::~Screen_Window() {
     hide();
 }
 
+/// A sheet goes with its window, and the work on it would.
+void Screen_Window::Keep_What_Closes() {
+    if (screen_->Kind() == Screen_Kind::Sheet) {
+        Keep_Test(session_, session_.Sheet(screen_->Id().number), closed_test);
+    }
+}
+
+QString Screen_Window::Title() const {
+    const QString caption = To_Qt(screen_->caption);
+    if (screen_->Kind() != Screen_Kind::Sheet) {
+        return caption;
+    }
+    const std::string part = session_.Sheet(screen_->Id().number).Text102(0).Text();
+    return To_Qt(part + (part.empty() ? "" : " - ") + Title_Of(screen_->Id())) +
+           QLatin1String("[*] - ") + caption;
+}
+
 void Screen_Window::closeEvent(QCloseEvent* event) {
     event->ignore(); // the session hides or unloads the screen, or does nothing
     gate_.Enter_Command(
         [this] {
             if (screen_ != nullptr) {
+                Keep_What_Closes();
                 Close_Window(session_, *screen_);
             }
         },
@@ -283,8 +305,8 @@ void Screen_Window::Refresh() {
         Set_Tab_Order();
     }
     Set_Pointer();
-    if (windowTitle() != To_Qt(screen_->caption)) {
-        setWindowTitle(To_Qt(screen_->caption));
+    if (windowTitle() != Title()) {
+        setWindowTitle(Title());
     }
 }
 

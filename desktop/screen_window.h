@@ -75,6 +75,9 @@ private:
     void Hovered_Form() override;
     void Move_Focus(const Control_View& from, Direction direction) override;
 
+    /// The test comes first: that is what a taskbar has room for.
+    [[nodiscard]] QString Title() const;
+    void Keep_What_Closes();
     void Make_Content();
     void Keep_View(Control_View& view);
     [[nodiscard]] Page_Context Context();

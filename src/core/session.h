@@ -32,6 +32,8 @@ struct File_Transfer {
     std::string path;
     int records_read = 0;
     int records_written = 0;
+    /// What was written last for the user, until a face has told it.
+    std::string kept;
 };
 
 /// What the user answered last.

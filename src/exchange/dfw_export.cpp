@@ -110,7 +110,7 @@ void Export_DFW_File(Session& session, const Flow_Sheet& sheet) {
         session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 1);
         // Composed first: a text that is no number must not cost the file that is there.
         file = Dfw_File_Of(session, sheet, for_engine_analyzer);
-        Write_Whole_File(session.file.path, file.text);
+        Keep_File(session, session.file.path, file.text);
     } catch (const Run_Time_Error&) {
         session.Message("Problem - DFW File was Not Saved");
         return;

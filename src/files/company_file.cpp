@@ -90,7 +90,7 @@ void Save_Company_File(Session& session) {
         for (const Company_Line& line : Lines_Of(session.Main())) {
             writer.Write_Line(line.key, line.field.Text());
         }
-        Write_Whole_File(session.file.path, writer.Text());
+        Keep_File(session, session.file.path, writer.Text());
     } catch (const Run_Time_Error&) {
         session.Message("Company Information Data File has NOT been Saved");
     }

@@ -166,7 +166,7 @@ std::string Flow_File_Text(Session& session, const Flow_Sheet& sheet) {
 void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
     try {
         session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
-        Write_Whole_File(session.file.path, Flow_File_Text(session, sheet));
+        Keep_File(session, session.file.path, Flow_File_Text(session, sheet));
     } catch (const Run_Time_Error&) {
         session.Message("Flow Data File has NOT been Saved", Box_Icon::Exclamation);
         return;

@@ -46,7 +46,7 @@ bool Save_Main_File(Session& session) {
             session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
         }
         Calc_Engine(session);
-        Write_Whole_File(session.file.path, Main_File_Text(session));
+        Keep_File(session, session.file.path, Main_File_Text(session));
         return true;
     } catch (const Run_Time_Error&) {
         session.Message("MAIN Data File has NOT been Saved");

@@ -109,7 +109,7 @@ void Save_Report_Config(Session& session, const Report_Screen& screen) {
     try {
         constexpr int config_files = 3;
         session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, config_files);
-        Write_Whole_File(session.file.path, Report_Config_Text(session, screen));
+        Keep_File(session, session.file.path, Report_Config_Text(session, screen));
     } catch (const Run_Time_Error&) {
         session.Message("Configuration File has NOT been Saved", Box_Icon::Exclamation);
         return;

@@ -55,7 +55,9 @@ void Save_Graph(Session& session) {
     constexpr std::string_view filter = "All Files (*.*)|*.*|Graphics Files (*.bmp)|*.bmp";
     constexpr int bitmaps = 2;
     try {
-        Write_Graph(session, Chosen_File(session, Chooser_Mode::Save, filter, bitmaps));
+        const std::string path = Chosen_File(session, Chooser_Mode::Save, filter, bitmaps);
+        Write_Graph(session, path);
+        session.file.kept = path;
     } catch (const Run_Time_Error&) {
         session.Message("Graph has Not been Saved", Box_Icon::Exclamation);
     }

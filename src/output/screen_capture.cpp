@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "drawing/screen_camera.h"
 #include "platform/file_store.h"
+#include "records/named_files.h"
 #include "screens/geometry.h"
 
 #include <cmath>
@@ -41,7 +42,7 @@ void Take_And_Keep(Session& session, const Screen_Shot& shot) {
         if (session.camera == nullptr) {
             Fail(error::invalid_picture);
         }
-        Write_Whole_File(shot.path, session.camera->Picture_Of(shot));
+        Keep_File(session, shot.path, session.camera->Picture_Of(shot));
     } catch (const Run_Time_Error&) {
         if (session.camera != nullptr && session.camera->Outlives_Failures()) {
             Show_Again(session, session.Main()); // the way out of the program

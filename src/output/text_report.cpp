@@ -203,7 +203,7 @@ void Save_Report_Page(Session& session) {
     constexpr int printer_files = 3;
     try {
         const std::string path = Chosen_File(session, Chooser_Mode::Save, filter, printer_files);
-        Write_Whole_File(path, Report_Page(session));
+        Keep_File(session, path, Report_Page(session));
     } catch (const Run_Time_Error&) {
         session.Message("Problem - File Not Saved", Box_Icon::Exclamation);
     }

@@ -40,6 +40,11 @@ std::string Path_Of_Named_File(const Session& session, std::string_view name) {
     return File_Exists(dotted) ? dotted : path;
 }
 
+void Keep_File(Session& session, const std::string& path, std::string_view bytes) {
+    Write_Whole_File(path, bytes);
+    session.file.kept = path;
+}
+
 std::string Bytes_Of_File(Session& session, std::string_view name, std::string_view filter) {
     constexpr int own_files = 3; // in the filters of both kinds
     session.file.path = name.empty() ? Chosen_File(session, Chooser_Mode::Open, filter, own_files)

@@ -26,4 +26,7 @@ namespace kestrum {
 [[nodiscard]] std::string Bytes_Of_File(Session& session, std::string_view name,
                                         std::string_view filter);
 
+/// Writes a file for the user and notes that it was written. Raises the errors of writing.
+void Keep_File(Session& session, const std::string& path, std::string_view bytes);
+
 } // namespace kestrum
