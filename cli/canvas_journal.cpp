@@ -3,6 +3,8 @@
 #include "cli/drawing_events.h"
 #include "cli/standard_streams.h"
 
+#include <nlohmann/json.hpp>
+
 #include <array>
 #include <string>
 

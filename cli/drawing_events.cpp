@@ -1,5 +1,7 @@
 #include "cli/drawing_events.h"
 
+#include <nlohmann/json.hpp>
+
 #include <array>
 #include <string>
 
@@ -13,8 +15,8 @@ std::string Colour_Text(int colour) {
     constexpr unsigned bits_of_digit = 4;
     std::string text = "#000000";
     auto rest = static_cast<unsigned>(colour);
-    for (std::size_t at = text.size() - 1; at > 0; --at, rest >>= bits_of_digit) {
-        text[at] = digits[rest & 0xFU];
+    for (std::size_t index = text.size() - 1; index > 0; --index, rest >>= bits_of_digit) {
+        text[index] = digits[rest & 0xFU];
     }
     return text;
 }

@@ -1,5 +1,7 @@
 #include "cli/event_printer.h"
 
+#include <nlohmann/json.hpp>
+
 namespace kestrum::cli {
 
 std::string Json_Of(const Event& event) {

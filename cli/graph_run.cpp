@@ -23,14 +23,14 @@ bool X_Columns_Differ(const Compare_Screen& table) {
 
 int Run_Graph(const Graph_Options& options, Painter& painter, std::ostream& errors) {
     Graph_Session session(options, errors);
-    for (std::size_t at = 0; at < options.pairs.size(); ++at) {
-        if (!session.Load(options.pairs[at]) ||
-            !session.Press(at == 0 ? "Command2" : "Graph_Plus")) {
+    for (std::size_t index = 0; index < options.pairs.size(); ++index) {
+        if (!session.Load(options.pairs[index]) ||
+            !session.Press(index == 0 ? "Command2" : "Graph_Plus")) {
             return 1;
         }
         if (X_Columns_Differ(session.Table())) {
-            session.Tell(options.pairs[at].to,
-                         "its X column differs from that of " + options.pairs[at].from);
+            session.Tell(options.pairs[index].to,
+                         "its X column differs from that of " + options.pairs[index].from);
         }
     }
     if (options.extras.settings.dots_per_inch || options.extras.settings.paper) {

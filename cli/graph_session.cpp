@@ -86,10 +86,10 @@ void Graph_Session::Take_Logo(const std::string& path) {
 
 /// No test may depend on the one that was in the sheet before it.
 void Graph_Session::Start_Over(Flow_Sheet& sheet) const {
-    std::size_t at = 0;
+    std::size_t index = 0;
     for (Control& control : sheet.Controls()) {
-        control.Set_Text(start_texts_[at]);
-        ++at;
+        control.Set_Text(start_texts_[index]);
+        ++index;
     }
 }
 

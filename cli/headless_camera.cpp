@@ -3,6 +3,8 @@
 #include "cli/plain_jpeg.h"
 #include "screens/screen.h"
 
+#include <nlohmann/json.hpp>
+
 namespace kestrum::cli {
 
 std::string Headless_Camera::Picture_Of(const Screen_Shot& shot) {

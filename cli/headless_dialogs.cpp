@@ -1,5 +1,7 @@
 #include "cli/headless_dialogs.h"
 
+#include <nlohmann/json.hpp>
+
 #include <array>
 
 namespace kestrum::cli {

@@ -2,6 +2,8 @@
 
 #include "screens/screen.h"
 
+#include <nlohmann/json.hpp>
+
 namespace kestrum::cli {
 
 void Headless_Windows::Show(Screen& screen) {

@@ -2,6 +2,8 @@
 
 #include "screens/geometry.h"
 
+#include <nlohmann/json.hpp>
+
 namespace kestrum::cli {
 
 namespace {

@@ -45,10 +45,10 @@ public:
             return Read_Report_Config(session_, session_.Form70(), bytes);
         });
         for (int number = 1; number <= sheet_count; ++number) {
-            const auto at = static_cast<std::size_t>(number - 1);
-            const bool has_file = at < options_.files.size();
+            const auto index = static_cast<std::size_t>(number - 1);
+            const bool has_file = index < options_.files.size();
             session_.Form70().Check1(number - 1).Set_Value(has_file ? 1 : 0);
-            loaded &= !has_file || Take_Test(options_.files[at], session_.Sheet(number));
+            loaded &= !has_file || Take_Test(options_.files[index], session_.Sheet(number));
         }
         return loaded;
     }

@@ -8,11 +8,13 @@
 #include "cli/field_editor.h"
 #include "cli/line_text.h"
 #include "cli/properties.h"
-#include "cli/script_error.h"
 #include "cli/script_words.h"
 #include "cli/standard_streams.h"
+#include "cli/usage_error.h"
 #include "graph/graph_state.h"
 #include "platform/file_store.h"
+
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 
 #include "base/text.h"
 #include "cli/line_text.h"
-#include "cli/script_error.h"
 #include "cli/standard_streams.h"
+#include "cli/usage_error.h"
 #include "core/settings.h"
 
 #include <algorithm>
@@ -29,8 +29,8 @@ Number Number_From(std::string_view text) {
 
 std::string Unescaped(std::string_view text) {
     std::string plain;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char next = text[at] == '\\' && at + 1 < text.size() ? text[at + 1] : '\0';
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        const char next = text[index] == '\\' && index + 1 < text.size() ? text[index + 1] : '\0';
         if (next == 'n') {
             plain += cr_lf;
         } else if (next == 't') {
@@ -38,10 +38,10 @@ std::string Unescaped(std::string_view text) {
         } else if (next == '\\') {
             plain += '\\';
         } else {
-            plain += text[at];
+            plain += text[index];
             continue;
         }
-        ++at;
+        ++index;
     }
     return plain;
 }

@@ -10,4 +10,10 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A line of a script that cannot be run as it stands; the program ends with status 2.
+class Script_Error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
 } // namespace kestrum::cli

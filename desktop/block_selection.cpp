@@ -239,7 +239,7 @@ void Block_Selection::Copy() const {
 }
 
 void Block_Selection::Clear() {
-    if (Put_In(Cleared_Block(*grid_, Present()))) {
+    if (Put_In(Cleared_Block(*grid_, Present()), "Clear Cells")) {
         Select_Text_Of_Holder();
     }
 }
@@ -267,7 +267,7 @@ bool Block_Selection::Paste(Control_View& view) {
                             : data->hasFormat(own_format)
                                 ? Fill_Spots(numbers, *grid_, from, table)
                                 : Fill_Inputs(numbers, *grid_, from, table);
-    if (Put_In(fill)) {
+    if (Put_In(fill, "Paste Cells")) {
         Begin(view);
         began_with_ = fill.filled.first;
         Reach(fill.filled.last);
@@ -275,12 +275,12 @@ bool Block_Selection::Paste(Control_View& view) {
     return true;
 }
 
-bool Block_Selection::Put_In(const Block_Fill& fill) {
+bool Block_Selection::Put_In(const Block_Fill& fill, const std::string& name) {
     if (!fill.refusal.empty()) {
         Refuse(Words_For(fill));
         return false;
     }
-    if (!gate_.Enter_Command([&] { Enter_Block(session_, fill.texts); })) {
+    if (!gate_.Enter_Command([&] { Enter_Block(session_, fill.texts); }, name)) {
         return false;
     }
     for (const New_Text& entry : fill.texts) {

@@ -10,6 +10,7 @@
 #include <QObject>
 
 #include <memory>
+#include <string>
 
 namespace kestrum::desktop {
 
@@ -53,7 +54,7 @@ private:
     void Copy() const;
     void Clear();
     /// Writes the texts, or says why there are none; gives whether they were written.
-    bool Put_In(const Block_Fill& fill);
+    bool Put_In(const Block_Fill& fill, const std::string& name);
     void Refuse(const QString& words);
     void Select_Text_Of_Holder() const;
     [[nodiscard]] QString Words_For(const Block_Fill& refused) const;

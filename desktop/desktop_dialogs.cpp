@@ -98,10 +98,10 @@ public:
 /// The place of an entry, from 1. With its details hidden, some versions of the toolkit tell an
 /// entry by its words alone.
 std::optional<int> Entry_Of(const QStringList& filters, const QString& selected) {
-    for (qsizetype at = 0; at < filters.size(); ++at) {
-        const QString words = filters[at].left(filters[at].lastIndexOf(QLatin1Char('(')));
-        if (filters[at] == selected || words.trimmed() == selected.trimmed()) {
-            return static_cast<int>(at) + 1;
+    for (qsizetype index = 0; index < filters.size(); ++index) {
+        const QString words = filters[index].left(filters[index].lastIndexOf(QLatin1Char('(')));
+        if (filters[index] == selected || words.trimmed() == selected.trimmed()) {
+            return static_cast<int>(index) + 1;
         }
     }
     return std::nullopt;

@@ -27,12 +27,12 @@ QStringList Name_Filters(std::string_view filter) {
     }
     const QStringList parts = To_Qt(filter).split(QLatin1Char('|'));
     QStringList entries;
-    for (qsizetype at = 0; at < parts.size(); at += 2) {
-        if (at + 1 == parts.size() && parts[at].trimmed().isEmpty()) {
+    for (qsizetype index = 0; index < parts.size(); index += 2) {
+        if (index + 1 == parts.size() && parts[index].trimmed().isEmpty()) {
             break; // a "|" too many at the end
         }
-        entries +=
-            parts[at] + QLatin1String(" (") + Patterns_Of(parts.value(at + 1)) + QLatin1Char(')');
+        entries += parts[index] + QLatin1String(" (") + Patterns_Of(parts.value(index + 1)) +
+                   QLatin1Char(')');
     }
     return entries;
 }

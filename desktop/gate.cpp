@@ -1,5 +1,6 @@
 #include "desktop/gate.h"
 
+#include "application/undo_history.h"
 #include "base/run_time_error.h"
 #include "desktop/text_bridge.h"
 
@@ -17,14 +18,14 @@ constexpr std::string_view paragraph = "\r\n\r\n";
 } // namespace
 
 bool Gate::Enter(const std::function<void()>& act) {
-    return Run(act, false);
+    return Run(act, nullptr);
 }
 
-bool Gate::Enter_Command(const std::function<void()>& act) {
-    return Run(act, true);
+bool Gate::Enter_Command(const std::function<void()>& act, const std::string& name) {
+    return Run(act, &name);
 }
 
-bool Gate::Run(const std::function<void()>& act, bool is_command) {
+bool Gate::Run(const std::function<void()>& act, const std::string* command) {
     if (busy_) {
         return false;
     }
@@ -32,10 +33,16 @@ bool Gate::Run(const std::function<void()>& act, bool is_command) {
     bool done = false;
     Put_Back put_back;
     try {
-        if (is_command && take_snapshot_) {
+        if (command != nullptr && take_snapshot_) {
             put_back = take_snapshot_();
         }
+        if (command != nullptr && history_ != nullptr) {
+            history_->Begin();
+        }
         act();
+        if (command != nullptr && history_ != nullptr) {
+            history_->End(*command);
+        }
         if (follow_up_) {
             follow_up_();
         }
@@ -55,6 +62,9 @@ bool Gate::Run(const std::function<void()>& act, bool is_command) {
 
 bool Gate::Take_Back(const Put_Back& put_back) {
     try {
+        if (history_ != nullptr) {
+            history_->Give_Up();
+        }
         if (put_back) {
             put_back();
         }

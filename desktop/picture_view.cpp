@@ -76,19 +76,19 @@ QPointF Picture_View::On_Canvas(const QPointF& place) const {
 }
 
 void Picture_View::Tell(Mouse_Action action, const QPointF& place) {
-    QPointF at = On_Canvas(place);
+    QPointF point = On_Canvas(place);
     if (on_logo_ && logo_) {
-        at -= QPointF(logo_->left, logo_->top);
+        point -= QPointF(logo_->left, logo_->top);
     }
-    facts.events.Mouse_On(control, on_logo_, action, at.x(), at.y());
+    facts.events.Mouse_On(control, on_logo_, action, point.x(), point.y());
 }
 
 void Picture_View::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        const QPointF at = On_Canvas(event->position());
+        const QPointF point = On_Canvas(event->position());
         on_logo_ =
             logo_ &&
-            QRectF(QPointF(logo_->left, logo_->top), QSizeF(logo_->image.size())).contains(at);
+            QRectF(QPointF(logo_->left, logo_->top), QSizeF(logo_->image.size())).contains(point);
         Tell(Mouse_Action::Down, event->position());
     }
 }

@@ -68,13 +68,14 @@ void Program::Set_Gate_Up() {
 
 bool Program::Start() {
     started_ = gate_.Enter([this] { Start_Up(session_); });
+    gate_.Set_History(&history_);
     return started_;
 }
 
 void Program::Keep_Rescue_Copies() {
     constexpr int milliseconds = 1000;
     rescue_ = std::make_unique<Rescue>(session_);
-    gate_.Enter_Command([this] { rescue_->Offer(); });
+    gate_.Enter_Command([this] { rescue_->Offer(); }, "Load Rescue Copies");
     rescue_clock_.start(milliseconds);
     end_signals_ = std::make_unique<End_Signals>([this] { Keep_Before_The_End(); });
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &rescue_clock_,
@@ -100,6 +101,7 @@ void Program::Write_Rescue_Copies() {
 
 void Program::End() {
     ended_ = true;
+    gate_.Set_History(nullptr);
     end_signals_.reset();
     rescue_clock_.stop();
     if (rescue_) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "application/undo_history.h"
 #include "core/session.h"
 #include "desktop/desktop_camera.h"
 #include "desktop/desktop_printers.h"
@@ -54,6 +55,7 @@ private:
 
     Gate gate_;
     Session session_;
+    Undo_History history_{session_};
     std::unique_ptr<Rescue> rescue_;
     QTimer rescue_clock_;
     std::unique_ptr<End_Signals> end_signals_;

@@ -106,6 +106,7 @@ void Screen_Window::Make_Content() {
     auto* const bar = new QMenuBar(this);
     Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
     Add_Preview_Entry(*bar, session_, gate_, *screen_);
+    edit_menu_ = new Edit_Menu(*this, *bar, gate_, *help_);
     if (bar->actions().isEmpty()) {
         delete bar;
     } else {
@@ -144,6 +145,9 @@ Page_Context Screen_Window::Context() {
 void Screen_Window::Keep_View(Control_View& view) {
     views_[static_cast<std::size_t>(&view.control - screen_->Controls().data())] = &view;
     block_->Watch(view);
+    if (view.Widget() != nullptr) {
+        edit_menu_->Watch(*view.Widget());
+    }
     if (plain_pointer_) {
         Show_Arrow(view); // one of a panel or a page that opens later
     }
@@ -159,8 +163,8 @@ void Screen_Window::Set_Tab_Order() const {
         const std::vector<QWidget*> more = cover_->Present_Page()->Tab_Order();
         order.insert(order.end(), more.begin(), more.end());
     }
-    for (std::size_t at = 1; at < order.size(); ++at) {
-        QWidget::setTabOrder(order[at - 1], order[at]);
+    for (std::size_t index = 1; index < order.size(); ++index) {
+        QWidget::setTabOrder(order[index - 1], order[index]);
     }
 }
 
@@ -236,11 +240,13 @@ Screen_Window::~Screen_Window() {
 
 void Screen_Window::closeEvent(QCloseEvent* event) {
     event->ignore(); // the session hides or unloads the screen, or does nothing
-    gate_.Enter_Command([this] {
-        if (screen_ != nullptr) {
-            Close_Window(session_, *screen_);
-        }
-    });
+    gate_.Enter_Command(
+        [this] {
+            if (screen_ != nullptr) {
+                Close_Window(session_, *screen_);
+            }
+        },
+        "Close " + Title_Of(screen_->Id()));
 }
 
 void Screen_Window::paintEvent(QPaintEvent* event) {

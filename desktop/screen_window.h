@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/block_selection.h"
+#include "desktop/edit_menu.h"
 #include "desktop/focus_keeper.h"
 #include "desktop/gate.h"
 #include "desktop/page.h"
@@ -88,6 +89,7 @@ private:
     Screen* screen_; // null when it has gone
     Focus_Keeper keeper_;
     std::unique_ptr<Block_Selection> block_;
+    Edit_Menu* edit_menu_ = nullptr;
     std::vector<Control_View*> views_; // by the control's place in the screen
     QWidget* body_ = nullptr;
     std::vector<Page*> pages_;

@@ -1,8 +1,10 @@
 // What the views of a window tell it, and what it hands on to the session.
 
 #include "application/events.h"
+#include "application/undo_history.h"
 #include "core/field_handlers.h"
 #include "core/pasted_text.h"
+#include "desktop/cell_words.h"
 #include "desktop/help_line.h"
 #include "desktop/screen_window.h"
 #include "desktop/text_bridge.h"
@@ -22,7 +24,8 @@ bool Is_Return_Of_Focus(Qt::FocusReason reason) {
 } // namespace
 
 void Screen_Window::Clicked(Control& control) {
-    const bool let_in = gate_.Enter_Command([&] { Click(session_, control); });
+    const bool let_in =
+        gate_.Enter_Command([&] { Click(session_, control); }, Words_Of_Command(control));
     if (!let_in && screen_ != nullptr) {
         Control_View* const view = View_Of(control);
         view->Refresh(); // a box that the toolkit has ticked goes back
@@ -30,13 +33,18 @@ void Screen_Window::Clicked(Control& control) {
 }
 
 void Screen_Window::Picked(Control& combo, const std::string& text) {
-    gate_.Enter_Command([&] { Select(session_, combo, text); });
+    gate_.Enter_Command([&] { Select(session_, combo, text); }, "Choice of " + text);
 }
 
 void Screen_Window::Typed(Control& field, const std::string& text) {
     help_->Forget();
     keeper_.Edited(field);
+    const Control_State before = field.Present_State();
     gate_.Enter([&] { field.Set_Text(text); });
+    if (Undo_History* const history = gate_.History()) {
+        history->Typed(field, before,
+                       [&] { return "Typing in " + Words_Of_Field(session_, field.Address()); });
+    }
 }
 
 bool Screen_Window::Passes(const Control& field, char32_t character) {
@@ -99,7 +107,10 @@ void Screen_Window::Mouse_On(Control& picture, bool on_logo, Mouse_Action action
     const auto act = [&] {
         Mouse_On_Picture(session_, on_logo ? session_.Form60().Picture2 : picture, action, x, y);
     };
-    action == Mouse_Action::Down ? gate_.Enter_Command(act) : gate_.Enter(act);
+    action == Mouse_Action::Down ? gate_.Enter_Command(act, "Mouse") : gate_.Enter(act);
+    if (action == Mouse_Action::Up && gate_.History() != nullptr) {
+        gate_.History()->End_Stroke();
+    }
 }
 
 const Drawing& Screen_Window::Canvas() {

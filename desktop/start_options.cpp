@@ -47,19 +47,19 @@ QString Wanted_Folder(const Start_Options& options) {
 
 Start_Options Options_From(std::span<const std::string> arguments) {
     Start_Options options;
-    for (std::size_t at = 0; at < arguments.size(); ++at) {
-        const std::string& argument = arguments[at];
+    for (std::size_t index = 0; index < arguments.size(); ++index) {
+        const std::string& argument = arguments[index];
         const std::string with_value = std::string(folder_option) + "=";
         if (argument == "--help" || argument == "-h") {
             options.wants_help = true;
         } else if (argument == "--version") {
             options.wants_version = true;
         } else if (argument == folder_option) {
-            if (at + 1 == arguments.size()) {
+            if (index + 1 == arguments.size()) {
                 options.fault = "--folder wants the name of a folder";
                 break;
             }
-            options.folder = arguments[++at];
+            options.folder = arguments[++index];
         } else if (argument.starts_with(with_value)) {
             options.folder = argument.substr(with_value.size());
         } else {

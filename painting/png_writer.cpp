@@ -25,12 +25,12 @@ void Append_Number(std::string& bytes, std::uint32_t number) {
 
 constexpr std::array<std::uint32_t, 256> Make_Sum_Table() {
     std::array<std::uint32_t, 256> table{};
-    for (std::uint32_t at = 0; at < table.size(); ++at) {
-        std::uint32_t sum = at;
+    for (std::uint32_t index = 0; index < table.size(); ++index) {
+        std::uint32_t sum = index;
         for (int bit = 0; bit < 8; ++bit) {
             sum = (sum & 1U) != 0 ? 0xEDB88320U ^ sum >> 1U : sum >> 1U;
         }
-        table[at] = sum;
+        table[index] = sum;
     }
     return table;
 }
@@ -117,26 +117,26 @@ Places Places_Of(const std::vector<Counted_Colour>& colours) {
     const std::span<const Counted_Colour> palette =
         std::span(colours).first(std::min(colours.size(), most_colours));
     Places places;
-    for (std::size_t at = 0; at < colours.size(); ++at) {
-        std::size_t place = at;
-        if (at >= palette.size()) {
+    for (std::size_t index = 0; index < colours.size(); ++index) {
+        std::size_t place = index;
+        if (index >= palette.size()) {
             const auto nearest = std::ranges::min_element(
-                palette, {}, [colour = colours[at].colour](const Counted_Colour& entry) {
+                palette, {}, [colour = colours[index].colour](const Counted_Colour& entry) {
                     return Distance(entry.colour, colour);
                 });
             place = static_cast<std::size_t>(nearest - palette.begin());
         }
-        places.emplace(colours[at].colour, static_cast<char>(place));
+        places.emplace(colours[index].colour, static_cast<char>(place));
     }
     return places;
 }
 
 std::string Palette_Of(const std::vector<Counted_Colour>& colours) {
     std::string palette;
-    for (std::size_t at = 0; at < std::min(colours.size(), most_colours); ++at) {
-        palette += static_cast<char>(qRed(colours[at].colour));
-        palette += static_cast<char>(qGreen(colours[at].colour));
-        palette += static_cast<char>(qBlue(colours[at].colour));
+    for (std::size_t index = 0; index < std::min(colours.size(), most_colours); ++index) {
+        palette += static_cast<char>(qRed(colours[index].colour));
+        palette += static_cast<char>(qGreen(colours[index].colour));
+        palette += static_cast<char>(qBlue(colours[index].colour));
     }
     return palette;
 }

@@ -38,8 +38,8 @@ std::string Colour(int colour) {
     constexpr std::string_view digits = "0123456789abcdef";
     std::string text = "#000000";
     auto rest = static_cast<unsigned>(colour);
-    for (std::size_t at = text.size() - 1; at > 0; --at, rest >>= 4U) {
-        text[at] = digits[rest & 0xFU];
+    for (std::size_t index = text.size() - 1; index > 0; --index, rest >>= 4U) {
+        text[index] = digits[rest & 0xFU];
     }
     return text;
 }
@@ -82,8 +82,8 @@ std::string Place_Of(const QPainterPath::Element& element) {
 /// The outlines as a path's description.
 std::string Description_Of(const QPainterPath& path) {
     std::string text;
-    for (int at = 0; at < path.elementCount(); ++at) {
-        const QPainterPath::Element element = path.elementAt(at);
+    for (int index = 0; index < path.elementCount(); ++index) {
+        const QPainterPath::Element element = path.elementAt(index);
         switch (element.type) {
         case QPainterPath::MoveToElement:
             text += "M";
@@ -142,9 +142,9 @@ private:
     static std::string Place_Of(const Set_Text& text) {
         static constexpr std::array shares{0.0, 0.5, 1.0};
         static constexpr std::array anchors{"start", "middle", "end"};
-        const auto at = static_cast<std::size_t>(text.anchor);
-        const double x = text.left + text.width * shares.at(at);
-        std::string place = Attribute("text-anchor", anchors.at(at));
+        const auto index = static_cast<std::size_t>(text.anchor);
+        const double x = text.left + text.width * shares.at(index);
+        std::string place = Attribute("text-anchor", anchors.at(index));
         if (text.squeeze == 1) {
             return place + Attribute("x", x) + Attribute("y", text.baseline);
         }

@@ -120,15 +120,15 @@ QRectF Whole_Box(const Set_Text& text, std::span<const Sample> samples) {
 
 void Add_Panels(Text_Layout& layout, std::span<const Draw_Operation* const> texts) {
     Panel_Builder builder;
-    for (std::size_t at = 0; at < texts.size(); ++at) {
-        const Draw_Operation& step = *texts[at];
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        const Draw_Operation& step = *texts[index];
         const std::size_t samples = layout.samples.size();
         if (step.role == Draw_Role::Legend) {
-            Add_Samples(layout.samples, step, layout.texts[at]);
+            Add_Samples(layout.samples, step, layout.texts[index]);
         }
         if (Keeps_Its_Place(step) || step.role == Draw_Role::Caption) {
             builder.Add(step,
-                        Whole_Box(layout.texts[at], std::span(layout.samples).subspan(samples)));
+                        Whole_Box(layout.texts[index], std::span(layout.samples).subspan(samples)));
         }
     }
     layout.panels = std::move(builder.panels);
@@ -143,11 +143,11 @@ Text_Layout Lay_Out_Texts(std::span<const Draw_Operation* const> texts, double f
     layout.texts.resize(texts.size());
     std::vector<QRectF> taken;
     for (const bool keeping : {true, false}) {
-        for (std::size_t at = 0; at < texts.size(); ++at) {
-            if (Keeps_Its_Place(*texts[at]) == keeping) {
-                layout.texts[at] = keeping ? Set_On_Canvas(*texts[at], most_right)
-                                           : Placed(*texts[at], taken, most_right);
-                taken.push_back(layout.texts[at].Box());
+        for (std::size_t index = 0; index < texts.size(); ++index) {
+            if (Keeps_Its_Place(*texts[index]) == keeping) {
+                layout.texts[index] = keeping ? Set_On_Canvas(*texts[index], most_right)
+                                              : Placed(*texts[index], taken, most_right);
+                taken.push_back(layout.texts[index].Box());
             }
         }
     }

@@ -1,7 +1,7 @@
 #include "tests/script_run.h"
 
-#include "cli/script_error.h"
 #include "cli/script_runner.h"
+#include "cli/usage_error.h"
 
 #include <algorithm>
 #include <sstream>

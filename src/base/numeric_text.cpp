@@ -158,13 +158,13 @@ void Round_To(Digits& digits, int decimals) {
         const bool up = kept >= 0 && digits.digit[static_cast<std::size_t>(kept)] >= '5';
         digits.count = std::max(kept, 0);
         if (up) {
-            int at = digits.count - 1;
-            while (at >= 0 && digits.digit[static_cast<std::size_t>(at)] == '9') {
-                --at;
+            int last = digits.count - 1;
+            while (last >= 0 && digits.digit[static_cast<std::size_t>(last)] == '9') {
+                --last;
             }
-            digits.count = at + 1;
-            if (at >= 0) {
-                ++digits.digit[static_cast<std::size_t>(at)];
+            digits.count = last + 1;
+            if (last >= 0) {
+                ++digits.digit[static_cast<std::size_t>(last)];
             } else {
                 digits.digit[0] = '1'; // 9.99 became 10
                 digits.count = 1;
@@ -182,8 +182,8 @@ void Round_To(Digits& digits, int decimals) {
 
 /// The digit that stands at a power of ten.
 char Digit_At(const Digits& digits, int power) {
-    const int at = digits.exponent - power;
-    return at >= 0 && at < digits.count ? digits.digit[static_cast<std::size_t>(at)] : '0';
+    const int index = digits.exponent - power;
+    return index >= 0 && index < digits.count ? digits.digit[static_cast<std::size_t>(index)] : '0';
 }
 
 std::string Written(const Digits& digits, int least_decimals, char point) {
@@ -309,8 +309,8 @@ std::string Numeric_Text::Fmt_Thousands(Real value) const {
     constexpr int group = 3;
     std::string text = Picture(value, 0, 0, Point());
     const int sign = text.front() == '-' ? 1 : 0;
-    for (int at = static_cast<int>(text.size()) - group; at > sign; at -= group) {
-        text.insert(static_cast<std::size_t>(at), 1, comma_mode != 0 ? '.' : ',');
+    for (int index = static_cast<int>(text.size()) - group; index > sign; index -= group) {
+        text.insert(static_cast<std::size_t>(index), 1, comma_mode != 0 ? '.' : ',');
     }
     return text;
 }

@@ -19,8 +19,11 @@ bool Starts_Character(char byte) {
 
 /// Byte offset of the character at a position counted from 0.
 std::size_t Offset_Of(std::string_view text, std::size_t character) {
+    if (character >= text.size()) {
+        return text.size(); // no character is shorter than a byte
+    }
     std::size_t offset = 0;
-    while (offset < text.size() && character > 0) {
+    while (character > 0 && offset < text.size()) {
         ++offset;
         while (offset < text.size() && !Starts_Character(text[offset])) {
             ++offset;
@@ -32,11 +35,11 @@ std::size_t Offset_Of(std::string_view text, std::size_t character) {
 
 /// Length in bytes of the valid sequence at the front, 0 when it is not valid UTF-8.
 std::size_t Sequence_Length(std::string_view text) {
-    const auto byte = [&](std::size_t at) {
-        return at < text.size() ? static_cast<unsigned char>(text[at]) : 0U;
+    const auto byte = [&](std::size_t offset) {
+        return offset < text.size() ? static_cast<unsigned char>(text[offset]) : 0U;
     };
-    const auto tail = [&](std::size_t at, unsigned low = 0x80, unsigned high = 0xBF) {
-        return byte(at) >= low && byte(at) <= high;
+    const auto tail = [&](std::size_t offset, unsigned low = 0x80, unsigned high = 0xBF) {
+        return byte(offset) >= low && byte(offset) <= high;
     };
     const unsigned lead = byte(0);
     if (lead < 0x80) {
@@ -163,15 +166,15 @@ std::string Decoded(std::string_view bytes) {
 
 std::u32string Characters_Of(std::string_view text) {
     std::u32string characters;
-    for (std::size_t at = 0; at < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[at]);
+    for (std::size_t offset = 0; offset < text.size();) {
+        const auto lead = static_cast<unsigned char>(text[offset]);
         const std::size_t tail = lead < 0xC0 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
         char32_t code = tail == 0 ? lead : lead & (0x3FU >> tail);
-        for (std::size_t next = 1; next <= tail && at + next < text.size(); ++next) {
-            code = (code << 6U) | (static_cast<unsigned char>(text[at + next]) & 0x3FU);
+        for (std::size_t next = 1; next <= tail && offset + next < text.size(); ++next) {
+            code = (code << 6U) | (static_cast<unsigned char>(text[offset + next]) & 0x3FU);
         }
         characters += code;
-        at += tail + 1;
+        offset += tail + 1;
     }
     return characters;
 }

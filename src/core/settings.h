@@ -44,6 +44,8 @@ struct Grid_Setting {
     bool on = true;
     Colour colour = 0x909090;
     Line_Style style = Line_Style::Solid;
+
+    bool operator==(const Grid_Setting&) const = default;
 };
 
 /// The logo of the shop, on the graph and at the foot of prints.
@@ -53,6 +55,8 @@ struct Logo_Setting {
     std::string file;
     /// Of the picture in pixels, nothing when there is none.
     std::optional<Extent> size;
+
+    bool operator==(const Logo_Setting&) const = default;
 };
 
 /// What the user has chosen for the whole session.
@@ -70,6 +74,8 @@ struct Settings {
     int flow_filter_index = 1;
     /// The mouse shows as the plain arrow, on screens to come as well.
     bool plain_pointer = false;
+
+    bool operator==(const Settings&) const = default;
 };
 
 } // namespace kestrum

@@ -49,14 +49,14 @@ private:
             return std::nullopt;
         }
         std::string cell;
-        for (std::size_t at = 1; at < rest_.size(); ++at) {
-            if (rest_[at] != quote) {
-                cell += rest_[at];
-            } else if (rest_.substr(at + 1).starts_with(quote)) {
-                cell += rest_[at++];
-            } else if (at + 1 == rest_.size() ||
-                       cell_ends.find(rest_[at + 1]) != std::string_view::npos) {
-                rest_.remove_prefix(at + 1);
+        for (std::size_t offset = 1; offset < rest_.size(); ++offset) {
+            if (rest_[offset] != quote) {
+                cell += rest_[offset];
+            } else if (rest_.substr(offset + 1).starts_with(quote)) {
+                cell += rest_[offset++];
+            } else if (offset + 1 == rest_.size() ||
+                       cell_ends.find(rest_[offset + 1]) != std::string_view::npos) {
+                rest_.remove_prefix(offset + 1);
                 return cell;
             } else {
                 return std::nullopt;

@@ -5,20 +5,6 @@
 
 namespace kestrum {
 
-namespace {
-
-Draw_Operation Solid_Line(double x1, double y1, double x2, double y2, int colour, double width) {
-    return {.kind = Draw_Kind::Line,
-            .x1 = x1,
-            .y1 = y1,
-            .x2 = x2,
-            .y2 = y2,
-            .width = width,
-            .colour = colour};
-}
-
-} // namespace
-
 void Drawing::Add(Draw_Operation operation) {
     if (keeps_journal_) {
         journal_.push_back(operation);
@@ -55,18 +41,33 @@ void Drawing::Clear() {
     Add({.kind = Draw_Kind::Clear});
 }
 
+/// A curve has thousands of lines, so they are made where they stay.
 void Drawing::Line(double x1, double y1, double x2, double y2, int colour, double width,
                    Line_Style style, Draw_Role role) {
-    Draw_Operation line = Solid_Line(x1, y1, x2, y2, colour, width);
+    Draw_Operation& line = Own_Steps().emplace_back();
+    line.kind = Draw_Kind::Line;
+    line.x1 = x1;
+    line.y1 = y1;
+    line.x2 = x2;
+    line.y2 = y2;
+    line.width = width;
+    line.colour = colour;
     line.style = style;
     line.role = role;
-    Add(std::move(line));
+    if (keeps_journal_) {
+        journal_.push_back(line);
+    }
 }
 
 void Drawing::Line_By_Hand(double x1, double y1, double x2, double y2, int colour, double width) {
-    Draw_Operation line = Solid_Line(x1, y1, x2, y2, colour, width);
-    line.by_hand = true;
-    Add(std::move(line));
+    Add({.kind = Draw_Kind::Line,
+         .x1 = x1,
+         .y1 = y1,
+         .x2 = x2,
+         .y2 = y2,
+         .width = width,
+         .colour = colour,
+         .by_hand = true});
 }
 
 void Drawing::Circle(double x, double y, double radius, int colour, double width) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <span>
@@ -88,6 +89,12 @@ public:
     void Text(double x, double y, std::string_view text, double size, int colour);
     /// A step that has been put together elsewhere.
     void Add(Draw_Operation operation);
+
+    /// Takes the last steps off again.
+    void Take_Off(std::size_t count) {
+        auto& steps = Own_Steps();
+        steps.resize(steps.size() - std::min(count, steps.size()));
+    }
 
     /// All that stands on the surface.
     [[nodiscard]] std::span<const Draw_Operation> Operations() const {

@@ -15,22 +15,22 @@ struct Size {
     std::uint64_t height = 0;
 };
 
-std::uint64_t Byte_At(std::string_view bytes, std::size_t at) {
-    return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0U;
+std::uint64_t Byte_At(std::string_view bytes, std::size_t offset) {
+    return offset < bytes.size() ? static_cast<unsigned char>(bytes[offset]) : 0U;
 }
 
-std::uint64_t Little_Endian(std::string_view bytes, std::size_t at, std::size_t length) {
+std::uint64_t Little_Endian(std::string_view bytes, std::size_t offset, std::size_t length) {
     std::uint64_t value = 0;
     while (length-- > 0) {
-        value = value << 8U | Byte_At(bytes, at + length);
+        value = value << 8U | Byte_At(bytes, offset + length);
     }
     return value;
 }
 
-std::uint64_t Big_Endian(std::string_view bytes, std::size_t at, std::size_t length) {
+std::uint64_t Big_Endian(std::string_view bytes, std::size_t offset, std::size_t length) {
     std::uint64_t value = 0;
     for (std::size_t index = 0; index < length; ++index) {
-        value = value << 8U | Byte_At(bytes, at + index);
+        value = value << 8U | Byte_At(bytes, offset + index);
     }
     return value;
 }
@@ -56,9 +56,9 @@ Size Bitmap_Size(std::string_view head, std::uint64_t file_size) {
 Size Jpeg_Size(const Open_File& file) {
     constexpr int most_markers = 4096;
     constexpr std::size_t longest_head = 9;
-    off_t at = 2;
+    off_t offset = 2;
     for (int markers = 0; markers < most_markers; ++markers) {
-        const std::string head = file.Piece(at, longest_head);
+        const std::string head = file.Piece(offset, longest_head);
         if (head.size() < longest_head || Byte_At(head, 0) != 0xFF) {
             break;
         }
@@ -68,7 +68,7 @@ Size Jpeg_Size(const Open_File& file) {
         if (is_frame) {
             return {.width = Big_Endian(head, 7, 2), .height = Big_Endian(head, 5, 2)};
         }
-        at += 2 + static_cast<off_t>(Big_Endian(head, 2, 2));
+        offset += 2 + static_cast<off_t>(Big_Endian(head, 2, 2));
     }
     return {};
 }

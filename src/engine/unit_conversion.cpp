@@ -211,13 +211,13 @@ private:
 
     void Convert_Rows(Flow_Sheet& sheet) const {
         std::array<const Control_Array*, lift_columns.size()> columns{};
-        for (std::size_t at = 0; at < columns.size(); ++at) {
-            columns[at] = &sheet.Array(lift_columns[at].array);
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            columns[column] = &sheet.Array(lift_columns[column].array);
         }
         for (int row = zero_lift_row; row <= last_lift_row; ++row) {
-            for (std::size_t at = 0; at < columns.size(); ++at) {
-                Control& field = (*columns[at])(row);
-                Convert(field, field, lift_columns[at].formats);
+            for (std::size_t column = 0; column < columns.size(); ++column) {
+                Control& field = (*columns[column])(row);
+                Convert(field, field, lift_columns[column].formats);
             }
         }
     }

@@ -21,8 +21,8 @@ char Delimiter_Of(std::string_view content) {
     const std::size_t first = content.find_first_not_of(blank_marks);
     bool has_semicolon = false;
     bool quoted = false;
-    for (std::size_t at = first; at < content.size(); ++at) {
-        const char mark = content[at];
+    for (std::size_t index = first; index < content.size(); ++index) {
+        const char mark = content[index];
         if (mark == quote) {
             quoted = !quoted;
         } else if (!quoted && line_ends.find(mark) != std::string_view::npos) {

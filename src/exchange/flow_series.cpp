@@ -73,12 +73,12 @@ private:
     }
 
     void Read_Values(std::array<Real, Flow_Series::places>& values, int count) {
-        for (int at = 0; at < count; ++at) {
+        for (int index = 0; index < count; ++index) {
             const Real value = session_.numbers.Read(Four_Places(Line()));
-            if (static_cast<std::size_t>(at) >= values.size()) {
+            if (static_cast<std::size_t>(index) >= values.size()) {
                 Fail(error::subscript_out_of_range);
             }
-            values[static_cast<std::size_t>(at)] = value;
+            values[static_cast<std::size_t>(index)] = value;
         }
     }
 

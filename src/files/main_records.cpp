@@ -222,9 +222,9 @@ void Write_Look(Session& session, Record_Writer& writer) {
     writer.Write_Line("Logo_Name", session.settings.logo.file);
     writer.Write_Line("Logo_Top", numbers.Plain(logo.top));
     writer.Write_Line("Logo_Left", numbers.Plain(logo.left));
-    for (std::size_t at = 0; at < compare_switches.size(); ++at) {
-        writer.Write_Line("Form50Check" + numbers.Fmt_Whole(static_cast<int>(at) + 1),
-                          Yes_Or_No(session.settings.*compare_switches[at].variable));
+    for (std::size_t index = 0; index < compare_switches.size(); ++index) {
+        writer.Write_Line("Form50Check" + numbers.Fmt_Whole(static_cast<int>(index) + 1),
+                          Yes_Or_No(session.settings.*compare_switches[index].variable));
     }
     writer.Write_Line("Grid_SW", numbers.Plain(session.settings.grid.on));
     writer.Write_Line("Grid_Color", numbers.Plain(session.settings.grid.colour));
@@ -234,9 +234,9 @@ void Write_Look(Session& session, Record_Writer& writer) {
 
 void Write_Fields(Session& session, Record_Writer& writer) {
     for (const Field_Key& entry : field_keys) {
-        for (std::size_t at = 0; at < entry.rows.size(); ++at) {
-            const int row = entry.rows.at(at);
-            if (at == 0 || row != entry.rows.front()) {
+        for (std::size_t index = 0; index < entry.rows.size(); ++index) {
+            const int row = entry.rows.at(index);
+            if (index == 0 || row != entry.rows.front()) {
                 writer.Write_Line(std::string(entry.array) + "_" + session.numbers.Fmt_Whole(row),
                                   session.Main().Array(entry.array)(row).Text());
             }

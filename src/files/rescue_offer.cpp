@@ -36,9 +36,9 @@ std::string Described(const Left_Copy& copy) {
     }
     const std::string content = copy.folder->Content(Rescue_Folder::File_Of(copy.screen));
     constexpr std::string_view key = "Text102_0 = ";
-    const std::size_t at = content.find(key);
-    const std::size_t begin = at + key.size();
-    const std::string part = at == std::string::npos
+    const std::size_t found = content.find(key);
+    const std::size_t begin = found + key.size();
+    const std::string part = found == std::string::npos
                                  ? std::string()
                                  : content.substr(begin, content.find('\r', begin) - begin);
     return Title_Of(copy.screen) + " (" + part + ")";

@@ -17,15 +17,15 @@ std::vector<Curve_Point> Solve_Tridiagonal(double beside, double diagonal,
     }
     double pivot = diagonal;
     solution[0] = {right[0].x / pivot, right[0].y / pivot};
-    for (std::size_t at = 1; at < right.size(); ++at) {
-        work[at] = beside / pivot;
-        pivot = diagonal - beside * work[at];
-        solution[at].x = (right[at].x - beside * solution[at - 1].x) / pivot;
-        solution[at].y = (right[at].y - beside * solution[at - 1].y) / pivot;
+    for (std::size_t row = 1; row < right.size(); ++row) {
+        work[row] = beside / pivot;
+        pivot = diagonal - beside * work[row];
+        solution[row].x = (right[row].x - beside * solution[row - 1].x) / pivot;
+        solution[row].y = (right[row].y - beside * solution[row - 1].y) / pivot;
     }
-    for (std::size_t at = right.size() - 1; at-- > 0;) {
-        solution[at].x = solution[at].x - work[at + 1] * solution[at + 1].x;
-        solution[at].y = solution[at].y - work[at + 1] * solution[at + 1].y;
+    for (std::size_t row = right.size() - 1; row-- > 0;) {
+        solution[row].x = solution[row].x - work[row + 1] * solution[row + 1].x;
+        solution[row].y = solution[row].y - work[row + 1] * solution[row + 1].y;
     }
     return solution;
 }
@@ -65,9 +65,11 @@ std::vector<Curve_Point> Fit_Tension_Spline(std::span<const Curve_Point> points,
     const double diagonal = 2 * tension * Hyp_Cos(tension * h) / Hyp_Sin(tension * h) - 2 / h;
     const double scale = tension * tension / h;
     std::vector<Curve_Point> right(count - 2);
-    for (std::size_t at = 1; at + 1 < count; ++at) {
-        right[at - 1].x = (points[at + 1].x - 2 * points[at].x + points[at - 1].x) * scale;
-        right[at - 1].y = (points[at + 1].y - 2 * points[at].y + points[at - 1].y) * scale;
+    for (std::size_t point = 1; point + 1 < count; ++point) {
+        right[point - 1].x =
+            (points[point + 1].x - 2 * points[point].x + points[point - 1].x) * scale;
+        right[point - 1].y =
+            (points[point + 1].y - 2 * points[point].y + points[point - 1].y) * scale;
     }
     const std::vector<Curve_Point> inner = Solve_Tridiagonal(beside, diagonal, right);
     std::vector<Curve_Point> bends(count); // the ends are natural: zero
@@ -93,11 +95,11 @@ void Sample_Curve(std::span<const Curve_Point> points, double tension, int sampl
                           .sinh_before = Hyp_Sin(tension * before),
                           .sinh_behind = Hyp_Sin(tension * behind),
                           .sinh_step = sinh_step};
-        const auto at = static_cast<std::size_t>(next);
-        const Curve_Point& p0 = points[at - 1];
-        const Curve_Point& p1 = points[at];
-        take({blend.Of(p0.x, p1.x, bends[at - 1].x, bends[at].x),
-              blend.Of(p0.y, p1.y, bends[at - 1].y, bends[at].y)});
+        const auto interval = static_cast<std::size_t>(next);
+        const Curve_Point& p0 = points[interval - 1];
+        const Curve_Point& p1 = points[interval];
+        take({blend.Of(p0.x, p1.x, bends[interval - 1].x, bends[interval].x),
+              blend.Of(p0.y, p1.y, bends[interval - 1].y, bends[interval].y)});
     }
 }
 

@@ -25,8 +25,8 @@ void Graph_Canvas::Grid_Line(double x1, double y1, double x2, double y2) const {
 
 void Graph_Canvas::Vertical_Line(double x, int colour) const {
     if (State().x_per_unit != 0) {
-        const double at = (Real(x) / State().x_per_unit).Value();
-        State().canvas.Line(at, 0, at, State().plot_bottom, colour, pen_width);
+        const double column = (Real(x) / State().x_per_unit).Value();
+        State().canvas.Line(column, 0, column, State().plot_bottom, colour, pen_width);
     }
 }
 
@@ -81,8 +81,8 @@ void Graph_Canvas::Mark(const Curve_Point& point, int colour) const {
     constexpr double radius = 4;
     // This exponent, not a third.
     const double scale = std::pow(session_.display.canvas_x_size / design_size, 0.3333);
-    const Curve_Point at = Mapped(point);
-    State().canvas.Circle(at.x, at.y, scale * radius, colour, pen_width);
+    const Curve_Point centre = Mapped(point);
+    State().canvas.Circle(centre.x, centre.y, scale * radius, colour, pen_width);
 }
 
 bool Graph_Canvas::Has_Scale() const {
@@ -114,9 +114,13 @@ void Stretch_Graph_Canvas(Session& session) {
     Graph_State& graph = Graph_Of(session);
     graph.plot_right = static_cast<int>(std::nearbyint(display.canvas_x_size - 1));
     graph.plot_bottom = static_cast<int>(std::nearbyint(display.canvas_y_size - 1));
-    // An overlay goes by the axes of the graph that stands.
-    graph.x_per_unit /= display.scale_x;
-    graph.y_per_unit /= display.scale_y;
+    // An overlay goes by the axes of the graph that stands; there may be none yet.
+    if (graph.x_per_unit != 0) {
+        graph.x_per_unit = (graph.x_high - graph.x_low) / display.canvas_x_size;
+    }
+    if (graph.y_per_unit != 0) {
+        graph.y_per_unit = (graph.y_high - graph.y_low) / display.canvas_y_size;
+    }
     graph.canvas.Stretch(display.scale_x, display.scale_y);
     graph.pen_at.x *= display.scale_x;
     graph.pen_at.y *= display.scale_y;

@@ -32,10 +32,9 @@ struct Curve {
 /// Points with Y 0 are dropped, but for a first one.
 std::vector<Curve_Point> Points_Of(const Curve& curve) {
     std::vector<Curve_Point> points;
-    for (int index = 0; index < curve.point_count; ++index) {
-        const auto at = static_cast<std::size_t>(index);
-        if (index == 0 || curve.y.at(at) != 0) {
-            points.push_back({curve.x.at(at), curve.y.at(at)});
+    for (std::size_t index = 0; index < static_cast<std::size_t>(curve.point_count); ++index) {
+        if (index == 0 || curve.y.at(index) != 0) {
+            points.push_back({curve.x.at(index), curve.y.at(index)});
         }
     }
     return points;
@@ -103,13 +102,13 @@ void Draw_Curves(Graph_Canvas& canvas) {
          {graph.to_x, graph.to_exhaust, to, colours.exhaust, thick_pen, table.Text105(11)}},
     }};
     bool failed = false;
-    for (std::size_t at = 0; at < curves.size(); ++at) {
+    for (std::size_t index = 0; index < curves.size(); ++index) {
         // After a short curve the last one alone is still tried.
-        const bool is_last = at + 1 == curves.size();
-        if (!curves[at].first || (failed && !is_last)) {
+        const bool is_last = index + 1 == curves.size();
+        if (!curves[index].first || (failed && !is_last)) {
             continue;
         }
-        if (!Try_Curve(canvas, curves[at].second) && !failed) {
+        if (!Try_Curve(canvas, curves[index].second) && !failed) {
             failed = true;
             Report_Failed_Graph(session);
         }

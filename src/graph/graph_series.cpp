@@ -114,8 +114,8 @@ void Find_Low_Y(Graph_State& graph) {
     const int count = std::max(graph.from_point_count, graph.to_point_count);
     for (const Series* const series :
          {&graph.from_intake, &graph.from_exhaust, &graph.to_intake, &graph.to_exhaust}) {
-        for (int at = 0; at < count; ++at) {
-            const double value = series->at(static_cast<std::size_t>(at));
+        for (int index = 0; index < count; ++index) {
+            const double value = series->at(static_cast<std::size_t>(index));
             if (value > smallest && value < graph.y_low) {
                 graph.y_low = value;
             }

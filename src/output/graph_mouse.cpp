@@ -7,48 +7,48 @@ namespace kestrum {
 
 namespace {
 
-void Show_Values(Session& session, const Curve_Point& at) {
+void Show_Values(Session& session, const Curve_Point& place) {
     const Graph_State& graph = Graph_Of(session);
     const Graph_Screen& screen = session.Form60();
     if (session.display.canvas_y_size > 0) {
         screen.Label18.Set_Text(session.numbers.Fmt_Eight_Wide(
-            graph.y_high - at.y / session.display.canvas_y_size * (graph.y_high - graph.y_low)));
+            graph.y_high - place.y / session.display.canvas_y_size * (graph.y_high - graph.y_low)));
     }
     if (session.display.canvas_x_size > 0) {
         screen.Label19.Set_Text(session.numbers.Fmt_Eight_Wide(
-            at.x / session.display.canvas_x_size * (graph.x_high - graph.x_low) + graph.x_low));
+            place.x / session.display.canvas_x_size * (graph.x_high - graph.x_low) + graph.x_low));
     }
 }
 
 /// A line of the user's from where the pen stands. It lands in the picture and is kept nowhere
 /// else.
-void Draw_To(Session& session, const Curve_Point& at) {
+void Draw_To(Session& session, const Curve_Point& place) {
     Graph_State& graph = Graph_Of(session);
     graph.saved_draw_width = graph.draw_width;
-    graph.canvas.Line_By_Hand(graph.pen_at.x, graph.pen_at.y, at.x, at.y,
+    graph.canvas.Line_By_Hand(graph.pen_at.x, graph.pen_at.y, place.x, place.y,
                               Swapped_Colour(session.settings.draw_line_color),
                               session.settings.draw_line_width);
-    graph.pen_at = at;
+    graph.pen_at = place;
     session.Form60().Picture1.Repaint();
 }
 
 } // namespace
 
-void Mouse_On_Canvas(Session& session, Mouse_Action action, const Curve_Point& at) {
+void Mouse_On_Canvas(Session& session, Mouse_Action action, const Curve_Point& place) {
     Graph_State& graph = Graph_Of(session);
     switch (action) {
     case Mouse_Action::Down:
         if (session.Form60().Check1.Value() != 0) {
-            graph.pen_at = at;
-            Draw_To(session, at);
+            graph.pen_at = place;
+            Draw_To(session, place);
             graph.drawing_now = true;
         }
         break;
     case Mouse_Action::Move:
         if (graph.drawing_now) {
-            Draw_To(session, at);
+            Draw_To(session, place);
         } else {
-            Show_Values(session, at);
+            Show_Values(session, place);
         }
         break;
     case Mouse_Action::Up:

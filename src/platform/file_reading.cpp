@@ -2,14 +2,18 @@
 #include "platform/file_store.h"
 #include "platform/open_file.h"
 
+#include <algorithm>
+
 namespace kestrum {
 
 std::string Read_Whole_File(const std::string& path) {
     const Open_File file = Open_To_Read(path);
-    if (file.Facts().st_size > static_cast<off_t>(most_text_bytes)) {
+    const auto told_size = static_cast<std::size_t>(file.Facts().st_size);
+    if (told_size > most_text_bytes) {
         Fail(error::path_or_file_access);
     }
-    constexpr std::size_t piece = 65536;
+    // Most files come in one piece, which is not much larger than they are.
+    const std::size_t piece = std::clamp<std::size_t>(told_size + 1, 4096, 65536);
     std::string content;
     for (;;) {
         const std::string more = file.Piece(static_cast<off_t>(content.size()), piece);

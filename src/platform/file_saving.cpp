@@ -182,10 +182,11 @@ void Wait_For_Turn(const Open_File& file) {
 
 void Copy_Content(const Open_File& from, const Open_File& to) {
     constexpr std::size_t piece = 65536;
-    off_t at = 0;
-    for (std::string bytes = from.Piece(at, piece); !bytes.empty(); bytes = from.Piece(at, piece)) {
+    off_t offset = 0;
+    for (std::string bytes = from.Piece(offset, piece); !bytes.empty();
+         bytes = from.Piece(offset, piece)) {
         to.Write_All(bytes);
-        at += static_cast<off_t>(bytes.size());
+        offset += static_cast<off_t>(bytes.size());
     }
 }
 

@@ -105,10 +105,10 @@ std::string Time_Of_File(const std::string& path) {
     }
     std::string text;
     const auto put = [&text](int number, std::size_t digits, std::string_view mark) {
-        const std::size_t at = text.size();
+        const std::size_t stem_length = text.size();
         text.append(digits, '0');
         for (std::size_t digit = digits; digit > 0 && number > 0; --digit, number /= 10) {
-            text[at + digit - 1] = static_cast<char>('0' + number % 10);
+            text[stem_length + digit - 1] = static_cast<char>('0' + number % 10);
         }
         text += mark;
     };

@@ -70,12 +70,12 @@ struct stat Open_File::Facts() const {
     return facts;
 }
 
-std::string Open_File::Piece(off_t at, std::size_t bytes) const {
+std::string Open_File::Piece(off_t offset, std::size_t bytes) const {
     std::string piece(bytes, '\0');
     std::size_t filled = 0;
     while (filled < bytes) {
         const ssize_t got = ::pread(handle_, piece.data() + filled, bytes - filled,
-                                    at + static_cast<off_t>(filled));
+                                    offset + static_cast<off_t>(filled));
         if (got < 0 && errno == EINTR) {
             continue;
         }

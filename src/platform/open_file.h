@@ -24,7 +24,7 @@ public:
     /// What was opened, which a look at the name cannot tell for sure.
     [[nodiscard]] struct stat Facts() const;
     /// Reads up to so many bytes from a place on; fewer at the end of the file only.
-    [[nodiscard]] std::string Piece(off_t at, std::size_t bytes) const;
+    [[nodiscard]] std::string Piece(off_t offset, std::size_t bytes) const;
     void Write_All(std::string_view content) const;
     /// Puts all that was written onto the disk.
     void Flush() const;

@@ -62,18 +62,18 @@ std::optional<Process_Facts> Facts_Of(std::uint64_t process) {
     std::array<char, 20> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), process).ptr;
     const std::string text = Content_If_Any("/proc/" + std::string(digits.data(), end) + "/stat");
-    std::size_t at = text.rfind(')');
+    std::size_t blank = text.rfind(')');
     Process_Facts facts;
-    for (int word = 0; word < words_to_start && at != std::string::npos; ++word) {
-        at = text.find(' ', at + 1);
-        if (word == 0 && at != std::string::npos && at + 1 < text.size()) {
-            facts.state = text[at + 1];
+    for (int word = 0; word < words_to_start && blank != std::string::npos; ++word) {
+        blank = text.find(' ', blank + 1);
+        if (word == 0 && blank != std::string::npos && blank + 1 < text.size()) {
+            facts.state = text[blank + 1];
         }
     }
-    if (at == std::string::npos) {
+    if (blank == std::string::npos) {
         return std::nullopt;
     }
-    std::from_chars(text.data() + at + 1, text.data() + text.size(), facts.start);
+    std::from_chars(text.data() + blank + 1, text.data() + text.size(), facts.start);
     return facts;
 }
 
@@ -123,16 +123,16 @@ std::optional<Writer> Writer_Named_In(std::string_view name) {
         return std::nullopt;
     }
     std::array<std::uint64_t, 4> numbers{};
-    const char* at = name.data() + mark + passing_mark.size();
+    const char* begin = name.data() + mark + passing_mark.size();
     const char* const end = name.data() + name.size();
     for (std::uint64_t& number : numbers) {
-        const auto read = std::from_chars(at, end, number, hexadecimal);
+        const auto read = std::from_chars(begin, end, number, hexadecimal);
         const bool is_last = &number == &numbers.back();
         if (read.ec != std::errc() || (is_last ? read.ptr != end : read.ptr == end) ||
             (!is_last && *read.ptr != '-')) {
             return std::nullopt;
         }
-        at = read.ptr + (is_last ? 0 : 1);
+        begin = read.ptr + (is_last ? 0 : 1);
     }
     return Writer{.process = numbers[0], .start = numbers[1], .system = numbers[2]};
 }

@@ -86,8 +86,8 @@ void Screen::Set_State(const Screen_State& state) {
     if (state.controls == kept_states_) {
         return; // nothing has changed since
     }
-    for (std::size_t at = 0; at < controls_.size(); ++at) {
-        controls_[at].Set_State((*state.controls)[at]);
+    for (std::size_t index = 0; index < controls_.size(); ++index) {
+        controls_[index].Set_State((*state.controls)[index]);
     }
     kept_states_ = state.controls;
 }

@@ -35,34 +35,36 @@ struct Row_Side {
     }
 };
 
-void Correct_Flow(const Row_Side& at) {
-    const Control& observed = at.side.observed(at.row);
-    Control& depression = at.side.depression(at.row);
-    const Control& correction = at.context.sheet.Text110(8);
-    Control& swirl = at.context.sheet.Text207(at.row);
-    if (Holds_Text(observed) && Holds_Text(depression) && at.Number(depression) > 0) {
-        const Real flow = at.Number(observed); // read before the pressures
-        const Real pressures = at.Number(at.context.sheet.Text108(8)) / at.Number(depression);
-        at.Put(at.Corrected(), flow * Power(pressures, 0.5), at.context.units.corrected_flow);
-        if (at.Number(at.Corrected()) == 0) {
-            if (at.Is_Intake()) { // swirl is measured on the intake
+void Correct_Flow(const Row_Side& place) {
+    const Control& observed = place.side.observed(place.row);
+    Control& depression = place.side.depression(place.row);
+    const Control& correction = place.context.sheet.Text110(8);
+    Control& swirl = place.context.sheet.Text207(place.row);
+    if (Holds_Text(observed) && Holds_Text(depression) && place.Number(depression) > 0) {
+        const Real flow = place.Number(observed); // read before the pressures
+        const Real pressures =
+            place.Number(place.context.sheet.Text108(8)) / place.Number(depression);
+        place.Put(place.Corrected(), flow * Power(pressures, 0.5),
+                  place.context.units.corrected_flow);
+        if (place.Number(place.Corrected()) == 0) {
+            if (place.Is_Intake()) { // swirl is measured on the intake
                 swirl.Set_Text("0");
             }
             depression.Set_Text("0");
         }
     } else if (Holds_Text(observed) && Holds_Text(correction)) {
-        at.Put(at.Corrected(), at.Number(observed) * at.Number(correction),
-               at.context.units.corrected_flow);
+        place.Put(place.Corrected(), place.Number(observed) * place.Number(correction),
+                  place.context.units.corrected_flow);
     } else {
-        at.Corrected().Set_Text("0");
-        if (at.Is_Intake()) {
+        place.Corrected().Set_Text("0");
+        if (place.Is_Intake()) {
             swirl.Set_Text("0");
         }
     }
 }
 
-void Add_Flow(const Row_Side& at, Flow_Totals::Sum& sum) {
-    const Real flow = at.Number(at.Corrected());
+void Add_Flow(const Row_Side& place, Flow_Totals::Sum& sum) {
+    const Real flow = place.Number(place.Corrected());
     sum.total += flow;
     if (flow != 0) {
         ++sum.count;
@@ -70,42 +72,44 @@ void Add_Flow(const Row_Side& at, Flow_Totals::Sum& sum) {
 }
 
 /// The lift, held at a quarter of the valve diameter. Texts are copied as they stand.
-void Effective_Lift(const Row_Side& at) {
-    Control& target = at.side.effective_lift(at.row);
-    const Control& limit = at.side.quarter_diameter;
-    if (!Holds_Text(at.Lift()) || !Holds_Text(limit)) {
+void Effective_Lift(const Row_Side& place) {
+    Control& target = place.side.effective_lift(place.row);
+    const Control& limit = place.side.quarter_diameter;
+    if (!Holds_Text(place.Lift()) || !Holds_Text(limit)) {
         target.Set_Text("0");
         return;
     }
-    target.Set_Text(at.Number(limit) < at.Number(at.Lift()) ? limit.Text() : at.Lift().Text());
+    target.Set_Text(place.Number(limit) < place.Number(place.Lift()) ? limit.Text()
+                                                                     : place.Lift().Text());
 }
 
-void Flow_Per_Area(const Row_Side& at) {
-    const Control& lift = at.side.effective_lift(at.row);
-    Control& target = at.side.flow_per_area(at.row);
-    if (!Holds_Text(at.Corrected()) || !Holds_Text(lift) || !(at.Number(lift) > 0)) {
+void Flow_Per_Area(const Row_Side& place) {
+    const Control& lift = place.side.effective_lift(place.row);
+    Control& target = place.side.flow_per_area(place.row);
+    if (!Holds_Text(place.Corrected()) || !Holds_Text(lift) || !(place.Number(lift) > 0)) {
         target.Set_Text("0");
         return;
     }
-    const Units& units = at.Factors();
-    const Real curtain = at.Number(at.side.valve_diameter) / units.inch * circle *
-                         (at.Number(lift) / units.inch) / units.lift_unit;
-    at.Put(target,
-           at.Cubic_Feet() / curtain * units.cubic_foot * units.square_inch / at.side.valves,
-           &Numeric_Text::Fmt_Two_Place);
+    const Units& units = place.Factors();
+    const Real curtain = place.Number(place.side.valve_diameter) / units.inch * circle *
+                         (place.Number(lift) / units.inch) / units.lift_unit;
+    place.Put(target,
+              place.Cubic_Feet() / curtain * units.cubic_foot * units.square_inch /
+                  place.side.valves,
+              &Numeric_Text::Fmt_Two_Place);
 }
 
-void Discharge(const Row_Side& at) {
-    const Control& flow = at.side.flow_per_area(at.row);
-    Control& target = at.side.discharge(at.row);
+void Discharge(const Row_Side& place) {
+    const Control& flow = place.side.flow_per_area(place.row);
+    Control& target = place.side.discharge(place.row);
     if (!Holds_Text(flow)) {
         target.Set_Text("0");
         return;
     }
-    at.Put(target,
-           at.Number(flow) / at.Factors().cubic_foot / at.Factors().square_inch /
-               full_flow_per_area,
-           &Numeric_Text::Fmt_Three_Place);
+    place.Put(target,
+              place.Number(flow) / place.Factors().cubic_foot / place.Factors().square_inch /
+                  full_flow_per_area,
+              &Numeric_Text::Fmt_Three_Place);
 }
 
 void Flow_Ratio(const Flow_Context& context, int row, Flow_Totals& totals) {
@@ -128,62 +132,64 @@ void Flow_Ratio(const Flow_Context& context, int row, Flow_Totals& totals) {
     }
 }
 
-void Port_Velocity(const Row_Side& at) {
-    const Control& area = at.side.mean_area;
-    Control& target = at.side.port_velocity(at.row);
-    if (!Holds_Text(at.Corrected()) || !Holds_Text(area) || !(at.Number(area) > 0)) {
+void Port_Velocity(const Row_Side& place) {
+    const Control& area = place.side.mean_area;
+    Control& target = place.side.port_velocity(place.row);
+    if (!Holds_Text(place.Corrected()) || !Holds_Text(area) || !(place.Number(area) > 0)) {
         target.Set_Text("0");
         return;
     }
     constexpr double square_inches_in_foot = 144;
-    const Units& units = at.Factors();
-    at.Put(target,
-           at.Cubic_Feet() / 60 / (at.Number(area) / units.square_inch / square_inches_in_foot) *
-               units.foot,
-           &Numeric_Text::Fmt_One_Place);
+    const Units& units = place.Factors();
+    place.Put(target,
+              place.Cubic_Feet() / 60 /
+                  (place.Number(area) / units.square_inch / square_inches_in_foot) * units.foot,
+              &Numeric_Text::Fmt_One_Place);
 }
 
-void Effective_Flow_Area(const Row_Side& at) {
-    Control& area_field = at.side.effective_area(at.row);
-    Control& velocity = at.side.effective_velocity(at.row);
-    if (!Holds_Text(at.Lift()) || !Holds_Text(at.side.quarter_diameter) ||
-        !(at.Number(at.Lift()) > 0)) {
+void Effective_Flow_Area(const Row_Side& place) {
+    Control& area_field = place.side.effective_area(place.row);
+    Control& velocity = place.side.effective_velocity(place.row);
+    if (!Holds_Text(place.Lift()) || !Holds_Text(place.side.quarter_diameter) ||
+        !(place.Number(place.Lift()) > 0)) {
         area_field.Set_Text("0");
         velocity.Set_Text("0");
         return;
     }
-    const Units& units = at.Factors();
-    Numeric_Text& numbers = at.context.session.numbers;
+    const Units& units = place.Factors();
+    Numeric_Text& numbers = place.context.session.numbers;
     // The row's own lift, not the effective one; the velocity takes the area unrounded.
-    const Real area = Effective_Area(Sheets_Of(at.context.session).curtain_areas, at.side,
-                                     at.Number(at.Lift()) / 1000, units);
-    at.Put(area_field, area * units.square_inch, at.context.units.effective_area);
-    const Real flow = numbers.Read_Either_Mark(at.Corrected());
-    at.Put(velocity, flow / units.cubic_foot / area * 2.4 * units.foot,
-           &Numeric_Text::Fmt_One_Place);
+    const Real area = Effective_Area(Sheets_Of(place.context.session).curtain_areas, place.side,
+                                     place.Number(place.Lift()) / 1000, units);
+    place.Put(area_field, area * units.square_inch, place.context.units.effective_area);
+    const Real flow = numbers.Read_Either_Mark(place.Corrected());
+    place.Put(velocity, flow / units.cubic_foot / area * 2.4 * units.foot,
+              &Numeric_Text::Fmt_One_Place);
 }
 
-void Effective_Discharge(const Row_Side& at) {
-    const Control& area = at.side.effective_area(at.row);
-    Control& target = at.side.effective_discharge(at.row);
-    if (!Holds_Text(area) || !(at.Number(area) > 0)) {
+void Effective_Discharge(const Row_Side& place) {
+    const Control& area = place.side.effective_area(place.row);
+    Control& target = place.side.effective_discharge(place.row);
+    if (!Holds_Text(area) || !(place.Number(area) > 0)) {
         target.Set_Text("0");
         return;
     }
-    at.Put(target,
-           at.Cubic_Feet() / (at.Number(area) / at.Factors().square_inch) / full_flow_per_area,
-           &Numeric_Text::Fmt_Three_Place);
+    place.Put(target,
+              place.Cubic_Feet() / (place.Number(area) / place.Factors().square_inch) /
+                  full_flow_per_area,
+              &Numeric_Text::Fmt_Three_Place);
 }
 
-void Lift_Ratio(const Row_Side& at) {
-    Control& target = at.side.lift_ratio(at.row);
-    if (!Holds_Text(at.Lift()) || !(at.Number(at.Lift()) > 0)) {
+void Lift_Ratio(const Row_Side& place) {
+    Control& target = place.side.lift_ratio(place.row);
+    if (!Holds_Text(place.Lift()) || !(place.Number(place.Lift()) > 0)) {
         target.Set_Text("0");
         return;
     }
-    at.Put(target,
-           at.Number(at.Lift()) / at.Number(at.side.valve_diameter) / at.Factors().lift_unit,
-           &Numeric_Text::Fmt_Three_Place);
+    place.Put(target,
+              place.Number(place.Lift()) / place.Number(place.side.valve_diameter) /
+                  place.Factors().lift_unit,
+              &Numeric_Text::Fmt_Three_Place);
 }
 
 void Required_Ratio(const Flow_Context& context) {

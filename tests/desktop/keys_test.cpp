@@ -57,6 +57,37 @@ TEST(Keys, Editing_Shortcuts_Are_No_Characters) {
     EXPECT_EQ(bench.Take_Events(), Events{});
 }
 
+TEST(Keys, Undo_Goes_Back_Over_Typing_Buttons_And_A_Closed_Sheet) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    bench.Enter("Form1.Text106(20)", "99");
+    bench.Press(Qt::Key_Tab);
+    bench.Click("Form1.Command1");
+    const std::string flow = bench.Text("Form1.Text102(20)");
+    const auto undo = [&] { bench.Press(Qt::Key_Z, Qt::ControlModifier); };
+    undo();
+    EXPECT_NE(bench.Text("Form1.Text102(20)"), flow);
+    EXPECT_EQ(bench.Help("Form1"), "Undone: Calculate");
+    undo();
+    EXPECT_EQ(bench.Text("Form1.Text106(20)"), "145") << "both digits are one step";
+    EXPECT_EQ(bench.Edit("Form1.Text106(20)").text(), QStringLiteral("145"));
+    undo();
+    EXPECT_EQ(bench.Help("Form1"), "There is nothing to undo.");
+    bench.Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    bench.Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(bench.Text("Form1.Text102(20)"), flow);
+    bench.Widget("Form1.Text106(20)").window()->close();
+    bench.Take_Events();
+    bench.Widget("Main.Text101(7)").activateWindow();
+    QApplication::processEvents();
+    bench.Tab_To("Main.Text101(7)");
+    undo();
+    EXPECT_EQ(bench.Help("Main"), "Undone: Close Flow Test 1");
+    EXPECT_EQ(bench.Text("Form1.Text102(20)"), flow) << "the closed test is back";
+    EXPECT_TRUE(bench.At("Form1.Text106(20)").Owner().visible);
+    bench.Take_Events();
+}
+
 TEST(Keys, A_Refused_Key_Is_Told_In_The_Help_Line_Until_The_Next_One) {
     Desktop_Bench bench;
     bench.Open_Sheet();
