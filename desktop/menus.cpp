@@ -23,7 +23,10 @@ public:
             action_.setShortcut(QKeySequence(To_Qt(its_control.Entry().shortcut)));
         }
         Entry_View::Refresh();
-        connect(&action_, &QAction::triggered, this, [this] { facts.events.Clicked(control); });
+        connect(&action_, &QAction::triggered, this, [this] {
+            facts.events.Clicked(control);
+            Entry_View::Refresh(); // the toolkit has turned the mark by itself
+        });
         connect(&action_, &QAction::hovered, this, [this] { facts.events.Hovered(control); });
     }
 
@@ -31,6 +34,8 @@ public:
         action_.setText(To_Qt(control.Text()));
         action_.setEnabled(control.Present_Look().enabled && Has_Routine(control));
         action_.setVisible(control.Present_Look().visible);
+        action_.setCheckable(control.Value() != 0);
+        action_.setChecked(control.Value() != 0);
     }
 
     QWidget* Widget() override { return nullptr; }

@@ -14,11 +14,10 @@ inline constexpr int top = -8;
 inline constexpr int width = 616;
 inline constexpr int height = 664;
 
-/// All of it.
-[[nodiscard]] inline QRectF Whole() {
-    return {left, top, width, height};
-}
 } // namespace picture_area
+
+/// All of it. On a stretched canvas the border stays as wide as it is.
+[[nodiscard]] QRectF Whole_Area_Of(const Drawing& drawing);
 
 /// What a picture file shows of a drawing: the area down to its last caption, with no empty strip
 /// below. Whole units.

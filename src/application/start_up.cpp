@@ -1,10 +1,12 @@
 #include "application/start_up.h"
 
+#include "application/full_screen.h"
 #include "base/text.h"
 #include "engine/mode_switches.h"
 #include "files/main_data_file.h"
 #include "platform/file_moves.h"
 #include "platform/file_store.h"
+#include "presentation/menu_marks.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
 
@@ -32,15 +34,13 @@ void Handle_Switches(Session& session) {
     const auto given = [&line](std::string_view name) {
         return line.find(name) != std::string::npos;
     };
-    Engine_Screen& main = session.Main();
     if (given("/fs") || given("/fn")) {
         session.display.full_screen_mode = true;
         session.display.aspect_free = !given("/fs");
-        main.FullScrRes.Set_Enabled(false);
-        main.AspectRatio.Set_Enabled(false);
+        Use_Full_Screen(session);
     }
     if (given("/mp")) {
-        main.MouseP.Set_Enabled(false);
+        session.Main().MouseP.Set_Enabled(false);
         Set_Plain_Pointer(session);
     }
 }
@@ -108,12 +108,11 @@ void Start_Up(Session& session) {
         session.Message("Program Set for Decimal Point to be >>,<< [Comma] ",
                         Box_Icon::Information);
     }
-    for (int number = 1; number <= sheet_count; ++number) {
-        Calc_Flow_Test(session, session.Sheet(number));
-    }
+    Calc_All_Flow_Tests(session);
     session.display.dpi = session.surroundings.display.dpi;
     Handle_Switches(session);
     Restore_Last_Session(session);
+    Mark_Choices(session);
     session.Show(session.Main());
 }
 

@@ -25,6 +25,7 @@ namespace kestrum {
 struct Painter;
 struct Printers;
 struct Screen_Camera;
+struct Shell;
 
 /// What the routines that read and write files share.
 struct File_Transfer {
@@ -36,24 +37,43 @@ struct File_Transfer {
     std::string kept;
 };
 
+/// What the font dialog gave, or a file in its place, before it is looked at.
+struct Font_Answer {
+    std::string name;
+    /// In points, in the session's decimal mode.
+    std::string size;
+    bool bold = false;
+    bool italic = false;
+    /// The dialog was cancelled; the rest is of the answer before.
+    bool cancelled = false;
+};
+
 /// What the user answered last.
 struct Dialog_Answers {
     /// Number of a box's answer: OK 1, Cancel 2, Yes 6, No 7.
     int box = 0;
     /// What the colour dialog gave, as decimal digits; empty after a cancel.
     std::string colour;
+    Font_Answer font;
 };
 
 /// How the screens lie on the display.
 struct Display_Scale {
     bool full_screen_mode = false;
+    /// The graph may be stretched by two different factors.
     bool aspect_free = false;
     int dpi = 0;
+    /// Pixels that an adapted screen fills; 0 while the screens stand as they were designed.
+    double target_width = 0;
+    double target_height = 0;
+    // Factors of the graph, which its drawing goes by.
     double scale_x = 1;
     double scale_y = 1;
     double scale_font = 1;
     double canvas_x_size = 600;
     double canvas_y_size = 600;
+
+    [[nodiscard]] bool Is_Adapted() const { return target_width > 0; }
 };
 
 /// One run of the program: the screens and the variables that its routines share.
@@ -90,6 +110,8 @@ public:
     Painter* painter = nullptr;
     Printers* printers = nullptr;
     Screen_Camera* camera = nullptr;
+    /// Null where nothing can be handed to the system.
+    Shell* shell = nullptr;
 
     // Screens. Each is created when it is first asked for, and again after it was unloaded.
 
@@ -119,7 +141,7 @@ public:
     void Message(std::string_view text, Box_Icon icon = Box_Icon::None);
 
 private:
-    /// What every new screen gets besides its stored texts: its place and the pointer.
+    /// What every new screen gets besides its stored texts: its place, its scale and the pointer.
     void Place_On_Display(Screen& screen) const;
     void Dress(Screen& screen) const;
     void Copy_Look_From_Open_Sheet(Flow_Sheet& sheet) const;

@@ -65,6 +65,12 @@ struct Draw_Operation {
     std::string text{}; // also the file of a picture
 };
 
+/// How much larger a surface is than it was designed.
+struct Stretch_Factors {
+    double x = 1;
+    double y = 1;
+};
+
 /// A display list. It is painted by replaying it, at any pixel density and on any device. A copy
 /// shares its steps with the original until one of the two draws.
 class Drawing {
@@ -105,6 +111,13 @@ public:
     /// Hands out and forgets what was noted.
     [[nodiscard]] std::vector<Draw_Operation> Take_Journal();
 
+    /// Stretches all that stands there, which is no drawing and is not noted. Letters and pens grow
+    /// by the smaller factor.
+    void Stretch(double factor_x, double factor_y);
+
+    /// By how much the surface has been stretched since the beginning.
+    [[nodiscard]] const Stretch_Factors& Stretched_By() const { return stretched_by_; }
+
     /// Makes room for a number of operations to come.
     void Reserve(std::size_t more) { Own_Steps().reserve(Own_Steps().size() + more); }
 
@@ -116,6 +129,7 @@ private:
     std::shared_ptr<std::vector<Draw_Operation>> operations_;
     std::vector<Draw_Operation> journal_;
     bool keeps_journal_ = false;
+    Stretch_Factors stretched_by_;
 };
 
 /// Text on the canvas is measured by these fixed rules, so that a layout comes out the same on
