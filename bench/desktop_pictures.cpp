@@ -5,7 +5,7 @@
 #include "application/events.h"
 #include "desktop/desktop_run.h"
 #include "desktop/program.h"
-#include "files/main_data_file.h"
+#include "files/flow_data_file.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -73,7 +73,7 @@ private:
 
     void Open_Example() {
         program_.Its_Gate().Enter([this] {
-            Load_Main_File(session_, "pictures.dat");
+            Load_Flow_File(session_, session_.Sheet(1), "pictures.dat");
         });
         Wait(settling);
     }

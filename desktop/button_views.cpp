@@ -1,5 +1,6 @@
 #include "desktop/button_views.h"
 
+#include "desktop/crisp.h"
 #include "desktop/text_bridge.h"
 
 #include <QKeyEvent>
@@ -73,41 +74,55 @@ void Button_View::keyPressEvent(QKeyEvent* event) {
 
 QRgb Button_View::Back() const {
     if (!isEnabled()) {
-        return theme::window;
+        return theme::Colours().window;
     }
     if (is_primary_) {
-        return isDown() || !underMouse() ? theme::accent : theme::accent_hover;
+        return isDown() || !underMouse() ? theme::Colours().accent : theme::Colours().accent_hover;
     }
     if (isDown()) {
-        return theme::line;
+        return theme::Colours().line;
     }
-    return underMouse() ? theme::accent_soft : theme::card;
+    return underMouse() ? theme::Colours().accent_soft : theme::Colours().card;
+}
+
+QRgb Button_View::Ink() const {
+    const Colour_Scheme& colours = theme::Colours();
+    return !isEnabled() ? colours.faint_ink : is_primary_ ? colours.on_accent : colours.ink;
 }
 
 void Button_View::paintEvent(QPaintEvent* /*event*/) {
+    const Colour_Scheme& colours = theme::Colours();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    const Crisp crisp(painter);
     const bool has_focus = hasFocus();
-    painter.setPen(QColor::fromRgb(has_focus || (is_primary_ && isEnabled()) ? theme::accent
-                                   : isEnabled()                             ? theme::line
-                                                                             : theme::card_line));
-    painter.setBrush(QColor::fromRgb(Back()));
-    const QRectF outline = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.drawRoundedRect(outline, theme::radius, theme::radius);
+    const bool is_strong = has_focus || (is_primary_ && isEnabled());
+    crisp.Card(rect(), theme::radius,
+               is_strong     ? colours.accent
+               : isEnabled() ? colours.line
+                             : colours.card_line,
+               Back());
     if (has_focus) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QColor::fromRgb(is_primary_ ? theme::card : theme::accent));
-        painter.drawRoundedRect(outline.adjusted(2, 2, -2, -2), theme::radius - 2,
-                                theme::radius - 2);
+        crisp.Card(rect().adjusted(2, 2, -2, -2), theme::radius - 2,
+                   is_primary_ ? colours.on_accent : colours.accent, qRgba(0, 0, 0, 0));
     }
-    painter.setPen(QColor::fromRgb(!isEnabled()  ? theme::faint_ink
-                                   : is_primary_ ? theme::card
-                                                 : theme::ink));
+    Paint_Caption(painter);
+}
+
+/// In smaller letters when it does not fit.
+void Button_View::Paint_Caption(QPainter& painter) const {
+    constexpr int flags = static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextWordWrap) |
+                          static_cast<int>(Qt::TextShowMnemonic);
+    const QRect area = rect().adjusted(4, 1, -4, -1);
     QFont letters = font();
     letters.setBold(is_primary_);
     painter.setFont(letters);
-    painter.drawText(rect().adjusted(4, 1, -4, -1),
-                     Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, text());
+    while (letters.pixelSize() > theme::smallest_pixels &&
+           !area.contains(painter.boundingRect(area, flags, text()))) {
+        letters.setPixelSize(letters.pixelSize() - 1);
+        painter.setFont(letters);
+    }
+    painter.setPen(QColor::fromRgb(Ink()));
+    painter.drawText(area, flags, text());
 }
 
 Check_View::Check_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)

@@ -1,5 +1,6 @@
 #include "desktop/entry_field.h"
 
+#include "desktop/crisp.h"
 #include "desktop/text_bridge.h"
 #include "desktop/text_views.h"
 #include "desktop/typed_keys.h"
@@ -77,23 +78,21 @@ void Entry_Field::Show_Look() {
     shown_once_ = true;
     setReadOnly(look_.locked || text() != To_Qt(control.Text()));
     setAlignment(Alignment_Of(control));
-    theme::Cell_Colours colours = theme::Colours_Of(control);
-    if (control.Entry().use == Cell_Use::Caption) {
-        colours.text = theme::Caption_Ink(look_.side); // a caption with a field's handlers
-    }
-    if (palette().color(QPalette::Base).rgb() != colours.back ||
-        palette().color(QPalette::Text).rgb() != colours.text) {
-        QPalette own = palette();
-        own.setColor(QPalette::Base, QColor::fromRgb(colours.back));
-        own.setColor(QPalette::Text, QColor::fromRgb(colours.text));
-        setPalette(own);
-    }
+    Show_Ink();
     Show_Common_State(*this, control);
     update();
 }
 
-QRect Entry_Field::Area_In(const QRect& cell) const {
-    return cell.adjusted(0, 0, -1, -1);
+void Entry_Field::Show_Ink() {
+    theme::Cell_Colours colours = theme::Colours_Of(control);
+    if (control.Entry().use == Cell_Use::Caption) {
+        colours.text = theme::Caption_Ink(look_.side); // a caption with a field's handlers
+    }
+    if (palette().color(QPalette::Text).rgb() != colours.text) {
+        QPalette own = palette();
+        own.setColor(QPalette::Text, QColor::fromRgb(colours.text));
+        setPalette(own);
+    }
 }
 
 void Entry_Field::Show_Selection(const Selection& selection) {
@@ -266,27 +265,51 @@ void Entry_Field::focusInEvent(QFocusEvent* event) {
     update();
 }
 
-void Entry_Field::paintEvent(QPaintEvent* event) {
-    QLineEdit::paintEvent(event);
-    if (control.Entry().use == Cell_Use::Caption && !hasFocus()) {
-        return;
+void Entry_Field::changeEvent(QEvent* event) {
+    Widget_View::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && shown_once_) {
+        Show_Ink(); // the desktop has changed its colours
     }
+}
+
+void Entry_Field::paintEvent(QPaintEvent* event) {
+    const bool is_plain = control.Entry().use == Cell_Use::Caption && !hasFocus();
+    if (!is_plain) {
+        QPainter painter(this);
+        const Crisp crisp(painter);
+        crisp.Fill(Cell_Dots(crisp, rect()), theme::Colours_Of(control).back);
+    }
+    QLineEdit::paintEvent(event);
+    if (!is_plain) {
+        QPainter painter(this);
+        Paint_Frame(painter);
+    }
+}
+
+/// The focus is a frame of double width, not only another colour.
+void Entry_Field::Paint_Frame(QPainter& painter) const {
     const theme::Cell_Colours colours = theme::Colours_Of(control);
-    QPainter painter(this);
-    const bool has_focus = hasFocus();
-    painter.setPen(QColor::fromRgb(has_focus ? theme::accent : colours.line));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const Crisp crisp(painter);
+    const QRect cell = Cell_Dots(crisp, rect());
+    const int foot = crisp.Dots_In(2);
+    const QRect foot_area(cell.left(), cell.bottom() - foot + 1, cell.width(), foot);
+    if (hasFocus()) {
+        crisp.Frame(cell, foot, theme::Colours().accent);
+    } else {
+        crisp.Frame(cell, crisp.Dots_In(1), colours.line);
+        if (colours.dashed) {
+            crisp.Fill(foot_area, colours.back);
+        }
+        crisp.Mark(foot_area, colours.foot, colours.dashed);
+    }
     if (flashes_) {
-        QColor veil = QColor::fromRgb(theme::failure);
-        painter.setPen(QPen(veil, 2));
+        QColor veil = QColor::fromRgb(theme::Colours().failure);
         veil.setAlphaF(0.2F);
         painter.fillRect(rect(), veil);
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+        crisp.Frame(cell, foot, theme::Colours().failure);
     }
-    const QRect foot(0, height() - 2, width(), 2);
-    painter.fillRect(foot, QColor::fromRgb(has_focus ? theme::accent : colours.foot));
     if (control.Entry().hover == Hover::Shows) {
-        Paint_Information_Mark(painter, rect());
+        Paint_Information_Mark(painter, rect().adjusted(0, 0, -1, 0));
     }
 }
 

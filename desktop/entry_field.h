@@ -12,7 +12,6 @@ public:
     Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent);
 
     void Refresh() override;
-    [[nodiscard]] QRect Area_In(const QRect& cell) const override;
     void Show_Selection(const Selection& selection) override;
     void Take_Words(const QString& words) override;
 
@@ -23,11 +22,14 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void Show_Text();
     void Show_Look();
+    void Show_Ink();
+    void Paint_Frame(QPainter& painter) const;
     [[nodiscard]] bool Moves_Away(const QKeyEvent& event);
     /// Whether the filter lets all pass; flashes where it does not.
     [[nodiscard]] bool All_Pass(const QString& typed);

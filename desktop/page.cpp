@@ -1,5 +1,6 @@
 #include "desktop/page.h"
 
+#include "desktop/crisp.h"
 #include "desktop/frame_view.h"
 #include "desktop/make_view.h"
 #include "desktop/text_bridge.h"
@@ -220,15 +221,13 @@ QRect Page::Area_Of(const Place& place) const {
 
 void Page::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor::fromRgb(theme::card_line));
-    painter.setBrush(QColor::fromRgb(theme::card));
+    const Crisp crisp(painter);
     for (const Place& place : design_.cards) {
         const bool at_left = place.column == 0;
         const bool at_right = place.column + place.columns == columns_;
-        const QRectF card = QRectF(Area_Of(place))
-                                .adjusted(at_left ? -3.5 : -0.5, -2.5, at_right ? 1.5 : -0.5, 1.5);
-        painter.drawRoundedRect(card, theme::radius, theme::radius);
+        const QRectF card =
+            QRectF(Area_Of(place)).adjusted(at_left ? -4 : -1, -3, at_right ? 3 : 0, 3);
+        crisp.Card(card, theme::radius, theme::Colours().card_line, theme::Colours().card);
     }
     Paint_Captions(painter);
     if (holder_.empty() && design_.information_sample) {

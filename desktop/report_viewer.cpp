@@ -48,10 +48,8 @@ Report_Viewer::Report_Viewer(Control& its_control, const View_Facts& its_facts, 
     hint_->setText(QStringLiteral(
         "Any key that types closes the report; with \".\" it is saved to a file first.  Arrow and "
         "page keys scroll.  Ctrl+A selects all, Ctrl+C copies."));
-    QPalette colours = hint_->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(theme::quiet_ink));
-    colours.setColor(QPalette::Window, QColor::fromRgb(theme::accent_soft));
-    hint_->setPalette(colours);
+    hint_->setForegroundRole(QPalette::ToolTipText);
+    hint_->setBackgroundRole(QPalette::ToolTipBase);
     hint_->setAutoFillBackground(true); // nobody else paints the margin of the text
     hint_->setFont(theme::Text_Font());
     hint_->setMargin(theme::text_padding);

@@ -99,9 +99,9 @@ Screen_Window::Screen_Window(Session& session, Gate& gate, Screen& screen)
 
 void Screen_Window::Make_Content() {
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
     layout->setSpacing(0);
     help_ = new Help_Line(this);
+    layout->setContentsMargins(0, 0, 0, help_->Least_Height());
     block_ = std::make_unique<Block_Selection>(session_, gate_, keeper_, *help_);
     auto* const bar = new QMenuBar(this);
     Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
@@ -114,7 +114,6 @@ void Screen_Window::Make_Content() {
     body_ = new Body(this);
     front_ = new Page(Context(), "", body_);
     layout->addWidget(body_, 1);
-    layout->addWidget(help_);
     if (Control* const label = screen_->Find("Label7", std::nullopt)) {
         own_views_.push_back(
             std::make_unique<Help_Label_View>(*label, View_Facts{.events = *this}, *help_));

@@ -1,5 +1,6 @@
 #include "desktop/theme_style.h"
 
+#include "desktop/control_view.h"
 #include "desktop/theme.h"
 
 #include <QApplication>
@@ -31,16 +32,17 @@ Indicator Indicator_Of(const QStyleOption& option) {
 
 void Set_Colours(QPainter& painter, const Indicator& indicator) {
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRgb fill = !indicator.enabled ? theme::window
-                      : indicator.on     ? theme::accent
-                                         : theme::card;
+    const QRgb fill = !indicator.enabled ? theme::Colours().window
+                      : indicator.on     ? theme::Colours().accent
+                                         : theme::Colours().card;
     const bool strong = indicator.enabled && (indicator.on || indicator.marked);
     painter.setBrush(QColor::fromRgb(fill));
-    painter.setPen(QColor::fromRgb(strong ? theme::accent : theme::line));
+    painter.setPen(QColor::fromRgb(strong ? theme::Colours().accent : theme::Colours().line));
 }
 
 QColor Mark_Colour(const Indicator& indicator) {
-    return QColor::fromRgb(indicator.enabled ? theme::card : theme::faint_ink);
+    return QColor::fromRgb(indicator.enabled ? theme::Colours().on_accent
+                                             : theme::Colours().faint_ink);
 }
 
 void Paint_Check_Box(QPainter& painter, const Indicator& indicator) {
@@ -84,7 +86,7 @@ QIcon Sign(QRgb colour, QChar letter) {
         bold.setBold(true);
         bold.setPixelSize(size * 5 / 8);
         painter.setFont(bold);
-        painter.setPen(QColor::fromRgb(theme::card));
+        painter.setPen(QColor::fromRgb(theme::Colours().on_accent));
         painter.drawText(picture.rect(), Qt::AlignCenter, letter);
         painter.end();
         icon.addPixmap(picture);
@@ -94,10 +96,20 @@ QIcon Sign(QRgb colour, QChar letter) {
 
 } // namespace
 
-Theme_Style::Theme_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+Theme_Style::Theme_Style()
+    : QProxyStyle(QStringLiteral("Fusion")), scheme_(Scheme_For(QPalette())) {}
+
+/// Comes with the desktop's colours, at the start and whenever they change.
+void Theme_Style::polish(QPalette& palette) {
+    scheme_ = Scheme_For(palette);
+    palette = Palette_Of(scheme_);
+}
 
 void Theme_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
+    if (element == PE_PanelLineEdit && dynamic_cast<const Control_View*>(widget) != nullptr) {
+        return; // a cell paints its own back
+    }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
@@ -139,13 +151,13 @@ QIcon Theme_Style::standardIcon(StandardPixmap picture, const QStyleOption* opti
                                 const QWidget* widget) const {
     switch (picture) {
     case SP_MessageBoxInformation:
-        return Sign(theme::accent, QLatin1Char('i'));
+        return Sign(theme::Colours().accent, QLatin1Char('i'));
     case SP_MessageBoxQuestion:
-        return Sign(theme::accent, QLatin1Char('?'));
+        return Sign(theme::Colours().accent, QLatin1Char('?'));
     case SP_MessageBoxWarning:
-        return Sign(theme::warning, QLatin1Char('!'));
+        return Sign(theme::Colours().warning, QLatin1Char('!'));
     case SP_MessageBoxCritical:
-        return Sign(theme::failure, QLatin1Char('!'));
+        return Sign(theme::Colours().failure, QLatin1Char('!'));
     default:
         return QProxyStyle::standardIcon(picture, option, widget);
     }
@@ -153,7 +165,6 @@ QIcon Theme_Style::standardIcon(StandardPixmap picture, const QStyleOption* opti
 
 void Apply_Theme() {
     QApplication::setStyle(new Theme_Style);
-    QApplication::setPalette(theme::Palette());
     QApplication::setFont(theme::Text_Font());
 }
 

@@ -79,7 +79,7 @@ TEST(Keys, A_Refused_Key_Is_Told_In_The_Help_Line_Until_The_Next_One) {
 /// Whether anything but the text's own ink is painted in the colour of failures.
 bool Flashes(QWidget& cell) {
     const QImage picture = cell.grab().toImage();
-    return picture.pixelColor(0, picture.height() / 2) == QColor::fromRgb(theme::failure);
+    return picture.pixelColor(0, picture.height() / 2) == QColor::fromRgb(theme::Colours().failure);
 }
 
 TEST(Keys, A_Refused_Key_Lets_The_Cell_Flash_For_A_Moment) {
