@@ -2,6 +2,7 @@
 
 #include "desktop/crisp.h"
 #include "desktop/text_bridge.h"
+#include "desktop/text_views.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -108,21 +109,14 @@ void Button_View::paintEvent(QPaintEvent* /*event*/) {
     Paint_Caption(painter);
 }
 
-/// In smaller letters when it does not fit.
 void Button_View::Paint_Caption(QPainter& painter) const {
-    constexpr int flags = static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextWordWrap) |
-                          static_cast<int>(Qt::TextShowMnemonic);
-    const QRect area = rect().adjusted(4, 1, -4, -1);
     QFont letters = font();
     letters.setBold(is_primary_);
     painter.setFont(letters);
-    while (letters.pixelSize() > theme::smallest_pixels &&
-           !area.contains(painter.boundingRect(area, flags, text()))) {
-        letters.setPixelSize(letters.pixelSize() - 1);
-        painter.setFont(letters);
-    }
     painter.setPen(QColor::fromRgb(Ink()));
-    painter.drawText(area, flags, text());
+    Paint_Wrapped(painter, rect().adjusted(4, 1, -4, -1),
+                  static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextShowMnemonic),
+                  text());
 }
 
 Check_View::Check_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)

@@ -41,7 +41,8 @@ QString Typed_Characters(const QKeyEvent& event) {
 Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
     setFrame(false);
-    setTextMargins(theme::text_padding - 2, 0, 0, 0);
+    constexpr int foot = 2;
+    setTextMargins(theme::text_padding - 2, 0, 0, foot);
     Entry_Field::Take_Words(facts.words);
     Entry_Field::Refresh();
     connect(this, &QLineEdit::textChanged, this, &Entry_Field::Take_Typed);

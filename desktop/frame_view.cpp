@@ -11,7 +11,7 @@ namespace kestrum::desktop {
 
 namespace {
 
-constexpr int caption_gap = 6;
+constexpr int caption_gap = 4;
 
 } // namespace
 

@@ -12,6 +12,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <tuple>
 
@@ -145,8 +146,17 @@ void Page::Weigh_Rows() {
             weight = std::max(weight, is_heading ? of_heading : 1.0);
         }
     }
-    row_feet_.resize(weights.size());
-    std::partial_sum(weights.begin(), weights.end(), row_feet_.begin());
+    constexpr double of_options = 1.25;
+    for (int row = 0; row < std::min(rows_, design_.rows_of_options); ++row) {
+        weights[static_cast<std::size_t>(row)] = of_options;
+    }
+    constexpr double gap = 0.5;
+    double foot = 0;
+    for (int row = 0; row < rows_; ++row) {
+        row_tops_.push_back(row > 0 && row == design_.gap_before_row ? foot + gap : foot);
+        foot = row_tops_.back() + weights[static_cast<std::size_t>(row)];
+        row_feet_.push_back(foot);
+    }
 }
 
 QSize Page::sizeHint() const {
@@ -155,10 +165,12 @@ QSize Page::sizeHint() const {
     return {width + margins, static_cast<int>(row_feet_.back() * design_.row_height) + margins};
 }
 
+/// Smaller, even the smallest letters would be cut.
 QSize Page::minimumSizeHint() const {
-    constexpr double least = 0.8;
-    return {static_cast<int>(sizeHint().width() * least),
-            static_cast<int>(sizeHint().height() * least)};
+    constexpr double least_across = 0.7;
+    constexpr double least_down = 0.62;
+    return {static_cast<int>(sizeHint().width() * least_across),
+            static_cast<int>(sizeHint().height() * least_down)};
 }
 
 void Page::resizeEvent(QResizeEvent* /*event*/) {
@@ -166,16 +178,27 @@ void Page::resizeEvent(QResizeEvent* /*event*/) {
     Lay_Out();
 }
 
-/// Letters grow with the window; those of a panel are those of the form that it lies on.
+double Page::Scale_Across() const {
+    const int margins = is_panel_ ? 0 : 2 * theme::page_margin;
+    return static_cast<double>(width() - margins) / (sizeHint().width() - margins);
+}
+
+double Page::Scale_Down() const {
+    const int margins = is_panel_ ? 0 : 2 * theme::page_margin;
+    return static_cast<double>(height() - margins) / (sizeHint().height() - margins);
+}
+
+/// Letters grow with the window, all of a page alike; those of a panel are those of the form that
+/// it lies on.
 void Page::Set_Letters() {
     if (is_panel_) {
         return;
     }
     constexpr double most = 1.6;
-    const QSize usual = sizeHint();
-    const double scale = std::min({most, static_cast<double>(width()) / usual.width(),
-                                   static_cast<double>(height()) / usual.height()});
-    const QFont letters = theme::Text_Font(scale);
+    // Whole dots of a letter, but never more than the columns have room for.
+    const double pixels =
+        std::floor(theme::text_pixels * std::min({most, Scale_Across(), Scale_Down()}) + 0.01);
+    const QFont letters = theme::Text_Font(pixels / theme::text_pixels);
     if (letters.pixelSize() != font().pixelSize()) {
         setFont(letters);
     }
@@ -183,17 +206,11 @@ void Page::Set_Letters() {
 
 void Page::Lay_Out() {
     const int margin = is_panel_ ? 0 : theme::page_margin;
-    const int needed = std::accumulate(widths_.begin(), widths_.end(), 0);
-    const int given = width() - 2 * margin;
     edges_.assign(1, margin);
     int sum = 0;
-    for (std::size_t column = 0; column < widths_.size(); ++column) {
-        sum += widths_[column];
-        const int count = static_cast<int>(column) + 1;
-        // What is over goes to all columns alike; what is missing, each gives by its width.
-        const int edge = given >= needed ? sum + (given - needed) * count / columns_
-                                         : sum * given / std::max(needed, 1);
-        edges_.push_back(margin + edge);
+    for (const int width : widths_) {
+        sum += width;
+        edges_.push_back(margin + static_cast<int>(sum * Scale_Across()));
     }
     for (const Item& item : items_) {
         Place_Item(item);
@@ -207,16 +224,16 @@ void Page::Place_Item(const Item& item) const {
 QRect Page::Area_Of(const Place& place) const {
     const int margin = is_panel_ ? 0 : theme::page_margin;
     const int height_given = height() - 2 * margin;
-    const auto edge_of_row = [&](int row) {
-        const double above = row == 0 ? 0 : row_feet_[static_cast<std::size_t>(row - 1)];
+    const auto edge_of_row = [&](const std::vector<double>& edges, int row) {
+        const double above = edges[static_cast<std::size_t>(std::clamp(row, 0, rows_ - 1))];
         return margin + static_cast<int>(above * height_given / row_feet_.back());
     };
     const auto edge_of_column = [&](int column) {
         return edges_[static_cast<std::size_t>(std::clamp(column, 0, columns_))];
     };
-    const QPoint corner(edge_of_column(place.column), edge_of_row(place.row));
+    const QPoint corner(edge_of_column(place.column), edge_of_row(row_tops_, place.row));
     return {corner, QPoint(edge_of_column(place.column + place.columns) - 1,
-                           edge_of_row(place.row + place.rows) - 1)};
+                           edge_of_row(row_feet_, place.row + place.rows - 1) - 1)};
 }
 
 void Page::paintEvent(QPaintEvent* /*event*/) {

@@ -61,6 +61,9 @@ private:
     };
 
     [[nodiscard]] View_Facts Facts_Of(const Control& control) const;
+    /// Size against the usual one: of the columns, and of the rows.
+    [[nodiscard]] double Scale_Across() const;
+    [[nodiscard]] double Scale_Down() const;
     void Measure_Columns();
     void Weigh_Rows();
     void Lay_Out();
@@ -79,7 +82,8 @@ private:
     /// Least widths of the columns at the theme's own letter size, and their left edges now.
     std::vector<int> widths_;
     std::vector<int> edges_;
-    /// Heights of the rows against each other, summed up: the foot of each row.
+    /// Heights of the rows against each other, summed up: the top and the foot of each row.
+    std::vector<double> row_tops_;
     std::vector<double> row_feet_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "application/events.h"
 #include "core/field_handlers.h"
+#include "desktop/body.h"
 #include "desktop/frame_view.h"
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
@@ -19,32 +20,6 @@
 namespace kestrum::desktop {
 
 namespace {
-
-/// Keeps pages as large as itself.
-class Body : public QWidget {
-public:
-    using QWidget::QWidget;
-
-    [[nodiscard]] QSize sizeHint() const override {
-        QSize size;
-        for (const QObject* const child : children()) {
-            size = size.expandedTo(static_cast<const QWidget*>(child)->sizeHint());
-        }
-        return size;
-    }
-
-    [[nodiscard]] QSize minimumSizeHint() const override {
-        const auto* const page = static_cast<const QWidget*>(children().value(0));
-        return page == nullptr ? QSize() : page->minimumSizeHint();
-    }
-
-protected:
-    void resizeEvent(QResizeEvent* /*event*/) override {
-        for (QObject* const child : children()) {
-            static_cast<QWidget*>(child)->setGeometry(rect());
-        }
-    }
-};
 
 /// About what a window manager puts around a window.
 constexpr QSize window_frame(8, 32);
@@ -64,7 +39,7 @@ public:
                              window_.front_->Rows());
             Give_Name(*page_, control);
             Give_Description(*page_);
-            page_->setGeometry(window_.body_->rect());
+            window_.body_->Place_Pages();
         }
         QWidget* const holder = window_.focusWidget();
         const QWidget* const goes = shows ? window_.front_ : page_;

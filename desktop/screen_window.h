@@ -14,6 +14,7 @@
 
 namespace kestrum::desktop {
 
+class Body;
 class Help_Line;
 
 /// The window of one screen. It is made from the screen's table and decides nothing: what the user
@@ -89,7 +90,7 @@ private:
     Focus_Keeper keeper_;
     std::unique_ptr<Block_Selection> block_;
     std::vector<Control_View*> views_; // by the control's place in the screen
-    QWidget* body_ = nullptr;
+    Body* body_ = nullptr;
     std::vector<Page*> pages_;
     /// Views that are no widgets; those are owned by their parents.
     std::vector<std::unique_ptr<Control_View>> own_views_;

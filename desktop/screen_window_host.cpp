@@ -3,6 +3,7 @@
 #include "application/events.h"
 #include "core/field_handlers.h"
 #include "core/pasted_text.h"
+#include "desktop/body.h"
 #include "desktop/help_line.h"
 #include "desktop/screen_window.h"
 #include "desktop/text_bridge.h"
@@ -73,6 +74,7 @@ void Screen_Window::Focus_Came(Control_View& view, Qt::FocusReason reason) {
     if (reason == Qt::MouseFocusReason && view.control.Is_Text_Box()) {
         session_.mouse_down = true;
     }
+    body_->Reveal(*view.Widget());
     // A window that shows for the first time gets the focus without a move of the user's, too.
     const bool returns = Is_Return_Of_Focus(reason) && keeper_.Is_At(view.control);
     if (!keeper_.Is_At(view.control)) {

@@ -43,6 +43,20 @@ void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
     painter.setFont(usual);
 }
 
+void Paint_Wrapped(QPainter& painter, const QRect& area, int flags, const QString& text) {
+    const QString words = text.left(longest_line);
+    const QFont usual = painter.font();
+    QFont font = usual;
+    flags |= Qt::TextWordWrap;
+    while (font.pixelSize() > theme::smallest_pixels &&
+           !area.contains(painter.boundingRect(area, flags, words))) {
+        font.setPixelSize(font.pixelSize() - 1);
+        painter.setFont(font);
+    }
+    painter.drawText(area, flags, words);
+    painter.setFont(usual);
+}
+
 void Paint_Information_Mark(QPainter& painter, const QRect& cell) {
     constexpr int size = 6;
     const QPointF corner(cell.right() + 1, cell.top());
@@ -187,10 +201,11 @@ void Label_View::paintEvent(QPaintEvent* /*event*/) {
         QColor::fromRgb(isEnabled() ? theme::Colours().quiet_ink : theme::Colours().faint_ink));
     const QRect area = rect().adjusted(theme::text_padding, is_note ? theme::text_padding : 0,
                                        -theme::text_padding, 0);
-    painter.drawText(area,
-                     static_cast<int>(is_note ? Qt::AlignTop : Qt::AlignVCenter) | Qt::AlignLeft |
-                         Qt::TextWordWrap,
-                     Shown_Text().left(longest_line));
+    if (is_note) {
+        Paint_Wrapped(painter, area, Qt::AlignLeft | Qt::AlignTop, Shown_Text());
+    } else {
+        Paint_Fitted(painter, area, Qt::AlignLeft | Qt::AlignVCenter, Shown_Text());
+    }
 }
 
 Marker_View::Marker_View(Control& its_control, const View_Facts& its_facts, QWidget* parent,

@@ -84,6 +84,9 @@ private:
 void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
                   const QString& text);
 
+/// Paints words in as many lines as they need, in smaller letters when they do not fit.
+void Paint_Wrapped(QPainter& painter, const QRect& area, int flags, const QString& text);
+
 /// The dots of a cell without the gap to its neighbours.
 [[nodiscard]] QRect Cell_Dots(const Crisp& crisp, const QRectF& area);
 

@@ -9,11 +9,21 @@
 #include <QPolygonF>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace kestrum::desktop {
 
 namespace {
 
-constexpr int indicator_size = 14;
+/// Of a check box or an option: it grows with the letters beside it, and stays in its widget.
+int Indicator_Size(const QWidget* widget) {
+    constexpr int smallest = 8;
+    const int of_letters = widget == nullptr ? -1 : widget->font().pixelSize();
+    if (of_letters <= 0) {
+        return theme::text_pixels + 2;
+    }
+    return std::max(smallest, std::min(of_letters + 2, widget->height()));
+}
 
 struct Indicator {
     QRectF area;
@@ -130,7 +140,7 @@ int Theme_Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return indicator_size;
+        return Indicator_Size(widget);
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
