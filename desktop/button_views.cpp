@@ -3,10 +3,13 @@
 #include "desktop/crisp.h"
 #include "desktop/text_bridge.h"
 #include "desktop/text_views.h"
+#include "screens/screen.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace kestrum::desktop {
 
@@ -144,8 +147,17 @@ Option_View::Option_View(Control& its_control, const View_Facts& its_facts, QWid
     });
 }
 
+/// The Tab key comes to the option that is chosen, and the arrow keys choose another.
 void Option_View::Refresh() {
     Show_Value(*this, control);
+    const bool other_is_chosen =
+        control.Value() == 0 &&
+        std::ranges::any_of(control.Owner().Controls(), [this](const Control& other) {
+            return other.Entry().array == control.Entry().array && other.Value() != 0;
+        });
+    if (other_is_chosen) {
+        setFocusPolicy(Qt::ClickFocus);
+    }
 }
 
 QRect Option_View::Area_In(const QRect& cell) const {

@@ -43,7 +43,7 @@ Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWid
     setFrame(false);
     constexpr int foot = 2;
     setTextMargins(theme::text_padding - 2, 0, 0, foot);
-    Entry_Field::Take_Words(facts.words);
+    Entry_Field::Name_Anew();
     Entry_Field::Refresh();
     connect(this, &QLineEdit::textChanged, this, &Entry_Field::Take_Typed);
 }
@@ -105,9 +105,8 @@ void Entry_Field::Show_Selection(const Selection& selection) {
     }
 }
 
-void Entry_Field::Take_Words(const QString& words) {
-    Control_View::Take_Words(words);
-    setAccessibleName(words);
+void Entry_Field::Name_Anew() {
+    setAccessibleName(facts.events.Words_Of(control));
 }
 
 void Entry_Field::Take_Typed(const QString& text) {
@@ -165,6 +164,17 @@ bool Entry_Field::Moves_Away(const QKeyEvent& event) {
     }
 }
 
+/// The keypad of a keyboard has one key for the decimals, whatever its layout calls it.
+QString Entry_Field::Typed_By(const QKeyEvent& event) const {
+    const QString typed = Typed_Characters(event);
+    const bool is_decimal_key = event.modifiers().testFlag(Qt::KeypadModifier) &&
+                                (typed == QLatin1String(".") || typed == QLatin1String(","));
+    if (!is_decimal_key || control.Entry().filter == Key_Filter::Every_Key) {
+        return typed;
+    }
+    return facts.events.Decimal_Mark();
+}
+
 void Entry_Field::keyPressEvent(QKeyEvent* event) {
     if (Moves_Away(*event)) {
         event->accept();
@@ -180,9 +190,14 @@ void Entry_Field::keyPressEvent(QKeyEvent* event) {
         event->setAccepted(bare.isAccepted());
         return;
     }
-    const QString typed = Typed_Characters(*event);
+    const QString typed = Typed_By(*event);
     if (!typed.isEmpty() && (!All_Pass(typed) || isReadOnly())) {
         event->accept(); // and does nothing
+        return;
+    }
+    if (typed != event->text() && !typed.isEmpty()) {
+        QKeyEvent other(event->type(), event->key(), event->modifiers(), typed);
+        Widget_View::keyPressEvent(&other);
         return;
     }
     Widget_View::keyPressEvent(event);

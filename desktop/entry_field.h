@@ -13,7 +13,7 @@ public:
 
     void Refresh() override;
     void Show_Selection(const Selection& selection) override;
-    void Take_Words(const QString& words) override;
+    void Name_Anew() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -27,6 +27,7 @@ protected:
 
 private:
     void Show_Text();
+    [[nodiscard]] QString Typed_By(const QKeyEvent& event) const;
     void Show_Look();
     void Show_Ink();
     void Paint_Frame(QPainter& painter) const;

@@ -51,6 +51,9 @@ constexpr Form_Design panel_design{.column_width = 60, .row_height = 26};
 constexpr auto own_words = std::to_array<Own_Words>({
     {Screen_Kind::Engine, "", "Text33", no_index, "Name of test", {}},
     {Screen_Kind::Engine, "", "Text38", no_index, "Comments", {}},
+    {Screen_Kind::Engine, "", "Check1", no_index, "User Mach #", {}},
+    {Screen_Kind::Engine, "", "Check3", no_index, "User Peak HP RPM", {}},
+    {Screen_Kind::Engine, "", "Combo1", no_index, "Printer", {}},
     {Screen_Kind::Engine, "", "Option4", 0, "Company on prints", {6, 17, 2, 1}},
     {Screen_Kind::Engine, "Frame4", "Text1", 0, "Flow Test #1", {0, 0, 1, 1}},
     {Screen_Kind::Engine, "Frame4", "Text1", 1, "Flow Test #2", {0, 1, 1, 1}},
@@ -68,6 +71,9 @@ constexpr auto own_words = std::to_array<Own_Words>({
     {Screen_Kind::Compare, "", "Text4", no_index, "Valve Lift 2", {}},
     {Screen_Kind::Compare, "", "Text71", no_index, "Graph Caption Line 1", {}},
     {Screen_Kind::Compare, "", "Text72", no_index, "Graph Caption Line 2", {}},
+    {Screen_Kind::Graph, "", "Combo1", no_index, "Draw Line Width", {}},
+    {Screen_Kind::Graph, "", "Picture1", no_index, "Graph", {}},
+    {Screen_Kind::Sheet, "", "Text39", no_index, "File", {}},
     {Screen_Kind::Sheet, "Frame1", "Text38", no_index, "Comments", {}},
     {Screen_Kind::Report, "", "Text38", no_index, "Text Report", {}},
 });

@@ -28,7 +28,7 @@ struct Form_Design {
 
 [[nodiscard]] const Form_Design& Design_Of(const Screen& screen, std::string_view holder);
 
-/// Words for a field that has no caption cell beside it.
+/// Words for a control that has no caption cell beside it, or whose own caption tells too little.
 struct Own_Words {
     Screen_Kind screen;
     std::string_view holder;

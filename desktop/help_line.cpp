@@ -98,7 +98,7 @@ void Help_Line::paintEvent(QPaintEvent* /*event*/) {
 Help_Label_View::Help_Label_View(Control& its_control, const View_Facts& its_facts, Help_Line& line)
     : Control_View(its_control, its_facts), line_(line) {
     Give_Name(line, its_control);
-    Give_Description(line);
+    Give_Description(line, its_control);
 }
 
 void Help_Label_View::Refresh() {

@@ -70,7 +70,6 @@ Page::Page(const Page_Context& context, std::string_view holder, QWidget* parent
 View_Facts Page::Facts_Of(const Control& control) const {
     View_Facts facts{.events = context_.events};
     if (control.Is_Text_Box()) {
-        facts.words = map_.Spoken_Name_Of(control);
         facts.heads_column = control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
     }
     return facts;
@@ -82,7 +81,7 @@ void Page::Add_View(Control& control) {
             return; // the window has it beside this page
         }
         auto* const frame = new Frame_View(context_, control, Facts_Of(control), this);
-        Give_Description(*frame);
+        Give_Description(*frame, control);
         context_.made(*frame);
         items_.push_back({frame, Place_Of(control)});
         return;
@@ -91,7 +90,7 @@ void Page::Add_View(Control& control) {
     Control_View& view =
         Make_View(control, Facts_Of(control), this, map_.Has_Cell(place.column, place.row));
     if (dynamic_cast<const Text_View*>(&view) == nullptr) {
-        Give_Description(*view.Widget()); // light cells tell it when they are asked
+        Give_Description(*view.Widget(), control); // light cells tell it when they are asked
     }
     context_.made(view);
     items_.push_back({&view, place});
@@ -104,7 +103,15 @@ void Page::Add_View(Control& control) {
 void Page::Name_Fields_Anew() {
     for (const Item& item : items_) {
         if (item.view->control.Is_Text_Box()) {
-            item.view->Take_Words(map_.Spoken_Name_Of(item.view->control));
+            item.view->Name_Anew();
+        }
+    }
+}
+
+void Page::Name_Rows_Anew(const std::set<int>& rows) {
+    for (const Item& item : items_) {
+        if (rows.contains(item.place.row)) {
+            item.view->Name_Anew();
         }
     }
 }

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -36,8 +37,18 @@ public:
 
     /// Makes the view of a control that had none, as of a blank cell that gets a text.
     void Add_View(Control& control);
+
+    /// Words of the trade for a field of the page.
+    [[nodiscard]] QString Words_Of(const Control& field) const {
+        return map_.Words_With_Lift(field);
+    }
+
+    [[nodiscard]] bool Is_Lift(const Control& field) const { return map_.Is_Lift(field); }
+
     /// The captions of the page have changed.
     void Name_Fields_Anew();
+    /// So have the lifts of some rows.
+    void Name_Rows_Anew(const std::set<int>& rows);
 
     /// Where a place of the grid lies now.
     [[nodiscard]] QRect Area_Of(const Place& place) const;

@@ -54,7 +54,7 @@ Report_Viewer::Report_Viewer(Control& its_control, const View_Facts& its_facts, 
     hint_->setFont(theme::Text_Font());
     hint_->setMargin(theme::text_padding);
     setViewportMargins(0, hint_->sizeHint().height(), 0, 0);
-    Report_Viewer::Take_Words(facts.words);
+    Report_Viewer::Name_Anew();
     Report_Viewer::Refresh();
 }
 
@@ -93,9 +93,8 @@ void Report_Viewer::Give_Focus_Back() {
     }
 }
 
-void Report_Viewer::Take_Words(const QString& words) {
-    Control_View::Take_Words(words);
-    setAccessibleName(words);
+void Report_Viewer::Name_Anew() {
+    setAccessibleName(facts.events.Words_Of(control));
 }
 
 QRect Report_Viewer::Area_In(const QRect& /*cell*/) const {

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <set>
 
 namespace kestrum::desktop {
 
@@ -38,7 +39,7 @@ public:
             page_ = new Page(window_.Context(), control.Entry().array, window_.body_,
                              window_.front_->Rows());
             Give_Name(*page_, control);
-            Give_Description(*page_);
+            Give_Description(*page_, control);
             window_.body_->Place_Pages();
         }
         QWidget* const holder = window_.focusWidget();
@@ -64,7 +65,9 @@ private:
 Screen_Window::Screen_Window(Session& session, Gate& gate, Screen& screen)
     : session_(session), gate_(gate), screen_(&screen), keeper_(session) {
     setObjectName(To_Qt(screen.Name()));
-    setAccessibleDescription(objectName());
+    if (Shows_Addresses()) {
+        setAccessibleDescription(objectName());
+    }
     views_.resize(screen.Controls().size());
     static_cast<void>(screen.Take_Changes()); // the views are made from the present state
     Make_Content();
@@ -237,13 +240,20 @@ void Screen_Window::Refresh() {
         return;
     }
     bool captions_changed = false;
+    std::set<int> rows;
     for (Control* const control : screen_->Take_Changes()) {
         Show_Changed(*control);
         captions_changed = captions_changed || control->Entry().use == Cell_Use::Caption;
+        const Page* const page = control->Is_Text_Box() ? Page_Of(*control) : nullptr;
+        if (page != nullptr && page->Is_Lift(*control)) {
+            rows.insert(Place_Of(*control).row);
+        }
     }
-    if (captions_changed) {
-        for (Page* const page : pages_) {
+    for (Page* const page : pages_) {
+        if (captions_changed) {
             page->Name_Fields_Anew();
+        } else if (!rows.empty()) {
+            page->Name_Rows_Anew(rows);
         }
     }
     if (tab_order_stale_) {
@@ -262,12 +272,15 @@ void Screen_Window::Show_Changed(Control& control) {
         return;
     }
     // A blank cell has no view until a text comes into it.
-    const auto page = std::ranges::find_if(pages_, [&control](const Page* other) {
-        return other->Holder() == control.Entry().parent;
-    });
-    if (page != pages_.end() && control.Is_Text_Box() && !control.Text().empty()) {
-        (*page)->Add_View(control);
+    Page* const page = Page_Of(control);
+    if (page != nullptr && control.Is_Text_Box() && !control.Text().empty()) {
+        page->Add_View(control);
     }
+}
+
+Page* Screen_Window::Page_Of(const Control& control) const {
+    const auto page = std::ranges::find(pages_, control.Entry().parent, &Page::Holder);
+    return page == pages_.end() ? nullptr : *page;
 }
 
 void Screen_Window::Take_Focus(Control& control) {

@@ -53,7 +53,9 @@ protected:
 private:
     class Cover;
 
-    // What the views tell.
+    // What the views ask and tell.
+    [[nodiscard]] QString Words_Of(const Control& field) const override;
+    [[nodiscard]] QChar Decimal_Mark() const override;
     void Clicked(Control& control) override;
     void Picked(Control& combo, const std::string& text) override;
     void Typed(Control& field, const std::string& text) override;
@@ -82,6 +84,7 @@ private:
     void Set_Tab_Order() const;
     void Set_Pointer();
     static void Show_Arrow(Control_View& view);
+    [[nodiscard]] Page* Page_Of(const Control& control) const;
     [[nodiscard]] QSize Usual_Size() const;
 
     Session& session_;

@@ -22,6 +22,15 @@ bool Is_Return_Of_Focus(Qt::FocusReason reason) {
 
 } // namespace
 
+QString Screen_Window::Words_Of(const Control& field) const {
+    const Page* const page = Page_Of(field);
+    return page == nullptr ? QString() : page->Words_Of(field);
+}
+
+QChar Screen_Window::Decimal_Mark() const {
+    return QLatin1Char(session_.numbers.Point());
+}
+
 void Screen_Window::Clicked(Control& control) {
     const bool let_in = gate_.Enter_Command([&] { Click(session_, control); });
     if (!let_in && screen_ != nullptr) {
@@ -137,13 +146,9 @@ void Screen_Window::Hovered_Form() {
 }
 
 void Screen_Window::Move_Focus(const Control_View& from, Direction direction) {
-    for (const Page* const page : pages_) {
-        if (page->Holder() == from.control.Entry().parent) {
-            if (QWidget* const next = page->Neighbour_Of(from, direction)) {
-                next->setFocus(Qt::OtherFocusReason);
-            }
-            return;
-        }
+    const Page* const page = Page_Of(from.control);
+    if (QWidget* const next = page == nullptr ? nullptr : page->Neighbour_Of(from, direction)) {
+        next->setFocus(Qt::OtherFocusReason);
     }
 }
 

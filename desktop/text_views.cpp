@@ -1,6 +1,7 @@
 #include "desktop/text_views.h"
 
 #include "desktop/crisp.h"
+#include "desktop/form_design.h"
 #include "desktop/text_bridge.h"
 #include "screens/geometry.h"
 
@@ -107,7 +108,11 @@ Cell_View::Cell_View(Control& its_control, const View_Facts& its_facts, QWidget*
 }
 
 QString Cell_View::Spoken_Name() const {
-    return is_result_ ? facts.words : Shown_Text();
+    if (is_result_) {
+        return facts.events.Words_Of(control);
+    }
+    const Own_Words* const own = Own_Words_Of(control);
+    return own == nullptr ? Shown_Text() : To_Qt(own->words) + QLatin1String(": ") + Shown_Text();
 }
 
 QRect Cell_View::Text_Area() const {
