@@ -1,4 +1,5 @@
 #include "application/commands.h"
+#include "application/full_screen.h"
 #include "application/start_up.h"
 #include "engine/engine_calculation.h"
 #include "engine/mode_switches.h"
@@ -13,6 +14,7 @@
 #include "presentation/alignment.h"
 #include "presentation/graph_options.h"
 #include "presentation/mouse_pointer.h"
+#include "presentation/screen_adaptation.h"
 #include "sheet/flow_calculation.h"
 
 #include <array>
@@ -54,6 +56,12 @@ void Plain_Pointer(Session& session, Control& control) {
 void Free_Aspect(Session& session, Control& control) {
     session.display.aspect_free = true;
     control.Set_Enabled(false);
+}
+
+void Full_Screen(Session& session, Control& /*control*/) {
+    if (!session.display.full_screen_mode) {
+        Use_Full_Screen(session);
+    }
 }
 
 void Load_Engine(Session& session, Control& /*control*/) {
@@ -123,6 +131,8 @@ constexpr auto commands = std::to_array<Command>({
     {"AligRight", Align<Alignment::Right>},
     {"MouseP", Plain_Pointer},
     {"AspectRatio", Free_Aspect},
+    {"FullScrRes", Full_Screen},
+    {"ScrRes", Run<Show_Screen_Resolution>},
     {"FontColor", Run<Choose_Graph_Font_Colour>},
     {"Grid_Color", Run<Choose_Grid_Colour>},
     {"Grid_Long", Grid_Style<Line_Style::Solid>},

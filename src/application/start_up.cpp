@@ -1,5 +1,6 @@
 #include "application/start_up.h"
 
+#include "application/full_screen.h"
 #include "base/text.h"
 #include "engine/mode_switches.h"
 #include "files/main_data_file.h"
@@ -32,15 +33,13 @@ void Handle_Switches(Session& session) {
     const auto given = [&line](std::string_view name) {
         return line.find(name) != std::string::npos;
     };
-    Engine_Screen& main = session.Main();
     if (given("/fs") || given("/fn")) {
         session.display.full_screen_mode = true;
         session.display.aspect_free = !given("/fs");
-        main.FullScrRes.Set_Enabled(false);
-        main.AspectRatio.Set_Enabled(false);
+        Use_Full_Screen(session);
     }
     if (given("/mp")) {
-        main.MouseP.Set_Enabled(false);
+        session.Main().MouseP.Set_Enabled(false);
         Set_Plain_Pointer(session);
     }
 }

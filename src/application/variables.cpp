@@ -116,6 +116,8 @@ const auto variables = std::to_array<Variable>({
     {"Full_Screen_Mode", Own<&S::display, &Display_Scale::full_screen_mode>},
     {"Aspect_Free", Own<&S::display, &Display_Scale::aspect_free>},
     {"Screen_Dpi", Own<&S::display, &Display_Scale::dpi>},
+    {"Target_Width", Own<&S::display, &Display_Scale::target_width>},
+    {"Target_Height", Own<&S::display, &Display_Scale::target_height>},
     {"Scale_X", Own<&S::display, &Display_Scale::scale_x>},
     {"Scale_Y", Own<&S::display, &Display_Scale::scale_y>},
     {"Scale_Font", Own<&S::display, &Display_Scale::scale_font>},

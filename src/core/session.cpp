@@ -2,6 +2,7 @@
 
 #include "base/run_time_error.h"
 #include "core/decimal_switch.h"
+#include "core/screen_scale.h"
 #include "screens/geometry.h"
 
 #include <algorithm>
@@ -94,12 +95,12 @@ Graph_Screen& Session::Form60() {
         form60_->caption = title_text + " -- Graph and Annotate";
         form60_->Combo1.Set_Items(Line_Widths());
         form60_->Combo1.Set_Text(numbers.Plain(settings.draw_line_width));
+        Place_On_Display(*form60_);
         form60_->Picture1.Set_Extent(
             {.width = display.canvas_x_size, .height = display.canvas_y_size});
         if (settings.logo.on && !settings.logo.file.empty()) {
             form60_->Show_Logo(settings.logo.size.value_or(Extent{}));
         }
-        Place_On_Display(*form60_);
     }
     return *form60_;
 }
@@ -208,6 +209,10 @@ void Session::Place_On_Display(Screen& screen) const {
     const Twips size = Place_In_Twips(screen);
     if (&screen != form60_.get() || Centres_Graph(surroundings.display, size)) {
         screen.place = Middle_Of(surroundings.display, size);
+    }
+    if (display.Is_Adapted()) {
+        // The factors that the session holds stay those of the graph.
+        Apply_Screen_Scale(screen, Factors_For(screen, display), surroundings.display);
     }
     screen.plain_pointer = settings.plain_pointer;
 }

@@ -45,13 +45,20 @@ struct Dialog_Answers {
 /// How the screens lie on the display.
 struct Display_Scale {
     bool full_screen_mode = false;
+    /// The graph may be stretched by two different factors.
     bool aspect_free = false;
     int dpi = 0;
+    /// Pixels that an adapted screen fills; 0 while the screens stand as they were designed.
+    double target_width = 0;
+    double target_height = 0;
+    // Factors of the graph, which its drawing goes by.
     double scale_x = 1;
     double scale_y = 1;
     double scale_font = 1;
     double canvas_x_size = 600;
     double canvas_y_size = 600;
+
+    [[nodiscard]] bool Is_Adapted() const { return target_width > 0; }
 };
 
 /// One run of the program: the screens and the variables that its routines share.
@@ -117,7 +124,7 @@ public:
     void Message(std::string_view text, Box_Icon icon = Box_Icon::None);
 
 private:
-    /// What every new screen gets besides its stored texts: its place and the pointer.
+    /// What every new screen gets besides its stored texts: its place, its scale and the pointer.
     void Place_On_Display(Screen& screen) const;
     void Dress(Screen& screen) const;
     void Copy_Look_From_Open_Sheet(Flow_Sheet& sheet) const;

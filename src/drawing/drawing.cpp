@@ -89,6 +89,21 @@ void Drawing::Text(double x, double y, std::string_view text, double size, int c
          .text = std::string(text)});
 }
 
+void Drawing::Stretch(double factor_x, double factor_y) {
+    const double smaller = std::min(factor_x, factor_y);
+    for (Draw_Operation& step : Own_Steps()) {
+        step.x1 *= factor_x;
+        step.x2 *= factor_x;
+        step.cell *= factor_x;
+        step.limit *= factor_x;
+        step.y1 *= factor_y;
+        step.y2 *= factor_y;
+        step.radius *= smaller;
+        step.width *= smaller;
+        step.size *= smaller;
+    }
+}
+
 double Canvas_Text_Width(std::string_view text, double size) {
     constexpr double width_of_character = 0.5;
     const auto characters = std::ranges::count_if(

@@ -98,6 +98,10 @@ public:
     /// Hands out and forgets what was noted.
     [[nodiscard]] std::vector<Draw_Operation> Take_Journal();
 
+    /// Stretches all that stands there, which is no drawing and is not noted. Letters and pens grow
+    /// by the smaller factor.
+    void Stretch(double factor_x, double factor_y);
+
     /// Makes room for a number of operations to come.
     void Reserve(std::size_t more) { Own_Steps().reserve(Own_Steps().size() + more); }
 

@@ -109,6 +109,21 @@ int Graph_Canvas::Text_Colour() const {
     return Swapped_Colour(session_.Form60().Picture1.Present_Look().text_colour);
 }
 
+void Stretch_Graph_Canvas(Session& session) {
+    const Display_Scale& display = session.display;
+    Graph_State& graph = Graph_Of(session);
+    graph.plot_right = static_cast<int>(std::nearbyint(display.canvas_x_size - 1));
+    graph.plot_bottom = static_cast<int>(std::nearbyint(display.canvas_y_size - 1));
+    graph.canvas.Stretch(display.scale_x, display.scale_y);
+    graph.pen_at.x *= display.scale_x;
+    graph.pen_at.y *= display.scale_y;
+    const Graph_Screen& screen = session.Form60();
+    if (session.settings.logo.on) {
+        screen.Show_Logo(session.settings.logo.size.value_or(Extent{}));
+    }
+    screen.Picture1.Repaint();
+}
+
 int Swapped_Colour(int colour) {
     constexpr unsigned byte = 0xFF;
     const auto number = static_cast<unsigned>(colour);

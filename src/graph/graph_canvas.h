@@ -60,6 +60,10 @@ private:
     Graph_State& graph_;
 };
 
+/// Carries the graph over to a canvas that an adaptation has enlarged: what is drawn there, the
+/// hand's lines included, and the logo, which is shown again at its place.
+void Stretch_Graph_Canvas(Session& session);
+
 /// The system's blue-green-red number as 0xRRGGBB, or back.
 [[nodiscard]] int Swapped_Colour(int colour);
 

@@ -22,9 +22,7 @@ void Show_Again(Session& session, Screen& screen) {
 }
 
 Screen_Shot Shot_Of(const Session& session, const Screen& screen) {
-    constexpr double twips_per_inch = 1440;
     constexpr int best = 100;
-    const double twips_per_pixel = twips_per_inch / session.surroundings.display.dpi;
     const Twips place = Place_In_Twips(screen);
     return {.screen = screen,
             .width = static_cast<int>(std::lround(place.width / twips_per_pixel)),

@@ -20,6 +20,7 @@ int Column_In_Name(std::string_view array) {
     return (array[5] - '0') * 10 + (array[6] - '0') - 1;
 }
 
+/// Design place of a control in its cell of the grid.
 Twips Cell_In_Twips(const Control& control) {
     const Place place = Place_Of(control);
     if (place.column < 0) {
@@ -29,6 +30,13 @@ Twips Cell_In_Twips(const Control& control) {
             .top = place.row * row_height,
             .width = place.columns * column_width,
             .height = place.rows * row_height};
+}
+
+Twips Scaled(const Twips& design, const Screen_Scale& scale) {
+    return {.left = design.left * scale.x,
+            .top = design.top * scale.y,
+            .width = design.width * scale.x,
+            .height = design.height * scale.y};
 }
 
 } // namespace
@@ -46,7 +54,7 @@ Place Place_Of(const Control& control) {
 
 Twips Place_In_Twips(const Control& control) {
     if (control.Entry().kind != Control_Kind::Picture) {
-        return Cell_In_Twips(control);
+        return Scaled(Cell_In_Twips(control), control.Owner().scale);
     }
     return {.left = control.Moved_To().left,
             .top = control.Moved_To().top,
@@ -55,7 +63,7 @@ Twips Place_In_Twips(const Control& control) {
 }
 
 Twips Place_In_Twips(const Screen& screen) {
-    Twips whole{.left = screen.place.left, .top = screen.place.top, .width = 0, .height = 0};
+    Twips whole;
     for (const Control& control : screen.Controls()) {
         Twips cell = Cell_In_Twips(control);
         if (control.Entry().kind == Control_Kind::Picture && cell.height > 0) {
@@ -65,6 +73,9 @@ Twips Place_In_Twips(const Screen& screen) {
         whole.width = std::max(whole.width, cell.left + cell.width);
         whole.height = std::max(whole.height, cell.top + cell.height);
     }
+    whole = Scaled(whole, screen.scale);
+    whole.left = screen.place.left;
+    whole.top = screen.place.top;
     return whole;
 }
 

@@ -19,9 +19,9 @@ struct Twips {
 /// and row in its name ("Text104(6)": fourth column, seventh row).
 [[nodiscard]] Place Place_Of(const Control& control);
 
-/// Design place of a control. A picture is measured in its own units, which are pixels.
+/// Place of a control on its screen. A picture is measured in its own units, which are pixels.
 [[nodiscard]] Twips Place_In_Twips(const Control& control);
-/// Place of a screen on the display, and its design size.
+/// Place of a screen on the display, and its size there.
 [[nodiscard]] Twips Place_In_Twips(const Screen& screen);
 
 } // namespace kestrum

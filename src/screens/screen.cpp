@@ -73,12 +73,16 @@ Screen_State Screen::Present_State() {
     return {.caption = caption,
             .visible = visible,
             .plain_pointer = plain_pointer,
+            .place = place,
+            .scale = scale,
             .controls = kept_states_};
 }
 
 void Screen::Set_State(const Screen_State& state) {
     caption = state.caption;
     plain_pointer = state.plain_pointer;
+    place = state.place;
+    scale = state.scale;
     if (state.controls == kept_states_) {
         return; // nothing has changed since
     }

@@ -41,11 +41,22 @@ private:
     std::vector<Control*> members_;
 };
 
+/// How much larger a screen stands on its display than it was designed.
+struct Screen_Scale {
+    double x = 1;
+    double y = 1;
+    double font = 1;
+
+    bool operator==(const Screen_Scale&) const = default;
+};
+
 /// All of a screen that can change. States of one screen share what has not changed between them.
 struct Screen_State {
     std::string caption;
     bool visible = false;
     bool plain_pointer = false;
+    Position place{};
+    Screen_Scale scale{};
     /// In table order.
     std::shared_ptr<const std::vector<Control_State>> controls;
 };
@@ -68,6 +79,8 @@ public:
     bool visible = false;
     /// Left and top on the display, in twips.
     Position place;
+    /// Of its size and of all places and sizes on it. The sizes of its fonts hold their factor.
+    Screen_Scale scale;
     /// Whether the mouse shows as the plain arrow everywhere on the screen.
     bool plain_pointer = false;
 
