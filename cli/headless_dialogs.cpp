@@ -34,6 +34,17 @@ bool Has_Button(Box_Buttons buttons, Box_Answer answer) {
     return false;
 }
 
+/// Takes the next answer off a queue; an empty one cancels.
+template <typename Answer>
+std::optional<Answer> Next_Of(std::deque<std::optional<Answer>>& queue) {
+    std::optional<Answer> answer;
+    if (!queue.empty()) {
+        answer = std::move(queue.front());
+        queue.pop_front();
+    }
+    return answer;
+}
+
 } // namespace
 
 Box_Answer Headless_Dialogs::Next_Answer(Box_Buttons buttons) {
@@ -59,11 +70,7 @@ Box_Answer Headless_Dialogs::Show_Box(const Box& box) {
 }
 
 std::optional<Chosen_Path> Headless_Dialogs::Choose_File(const Chooser& chooser) {
-    std::optional<std::string> path;
-    if (!files_.empty()) {
-        path = files_.front();
-        files_.pop_front();
-    }
+    std::optional<std::string> path = Next_Of(files_);
     printer_.Print({{"chooser",
                      {{"mode", chooser.mode == Chooser_Mode::Open ? "open" : "save"},
                       {"filter", chooser.filter},
@@ -77,12 +84,11 @@ std::optional<Chosen_Path> Headless_Dialogs::Choose_File(const Chooser& chooser)
 }
 
 std::optional<int> Headless_Dialogs::Choose_Colour() {
-    if (colours_.empty()) {
-        return std::nullopt;
-    }
-    const std::optional<int> colour = colours_.front();
-    colours_.pop_front();
-    return colour;
+    return Next_Of(colours_);
+}
+
+std::optional<Font> Headless_Dialogs::Choose_Font(const Font& /*shown*/) {
+    return Next_Of(fonts_);
 }
 
 void Headless_Dialogs::Beep() {
@@ -93,6 +99,7 @@ void Headless_Dialogs::Drop_Queues() {
     answers_.clear();
     files_.clear();
     colours_.clear();
+    fonts_.clear();
 }
 
 } // namespace kestrum::cli

@@ -68,6 +68,7 @@ Script_Runner::Script_Runner(Surroundings surroundings, std::ostream& out, bool 
       dialogs_(printer_),
       windows_(printer_),
       camera_(printer_),
+      shell_(printer_),
       printers_(std::move(printers)),
       keeps_rescue_(keeps_rescue) {}
 
@@ -81,6 +82,7 @@ void Script_Runner::Start(const std::string& command_line) {
     session_->painter = &painter_;
     session_->printers = &printers_;
     session_->camera = &camera_;
+    session_->shell = &shell_;
     journal_.Clear();
     Graph_Of(*session_).canvas.Keep_Journal(Will_Ask_For_Canvas());
     Start_Up(*session_);
@@ -344,8 +346,12 @@ void Script_Runner::Answer_Colour(const Words& words) {
     }
 }
 
-void Script_Runner::Answer_Font(const Words& /*words*/) {
-    // As for colours.
+void Script_Runner::Answer_Font(const Words& words) {
+    if (words.all.empty()) {
+        dialogs_.Queue_Font(std::nullopt);
+    } else {
+        dialogs_.Queue_Font(Font_From(Unescaped(words.all)));
+    }
 }
 
 void Script_Runner::Close(const Words& words) {

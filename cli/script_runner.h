@@ -6,6 +6,7 @@
 #include "cli/headless_camera.h"
 #include "cli/headless_dialogs.h"
 #include "cli/headless_printers.h"
+#include "cli/headless_shell.h"
 #include "cli/headless_windows.h"
 #include "core/session.h"
 #include "files/rescue.h"
@@ -81,6 +82,7 @@ private:
     Headless_Dialogs dialogs_;
     Headless_Windows windows_;
     Headless_Camera camera_;
+    Headless_Shell shell_;
     Headless_Printers printers_;
     Late_Painter painter_;
     std::unique_ptr<Session> session_;

@@ -4,8 +4,10 @@
 #include "cli/line_text.h"
 #include "cli/script_error.h"
 #include "cli/standard_streams.h"
+#include "core/settings.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -66,6 +68,28 @@ int Colour_From(std::string_view text) {
         throw Script_Error("not a colour: " + Quoted(text));
     }
     return value;
+}
+
+Font Font_From(std::string_view text) {
+    constexpr std::size_t part_count = 4;
+    std::array<std::string_view, part_count> parts;
+    std::string_view rest = text;
+    for (std::string_view& part : parts) {
+        part = rest.substr(0, rest.find(';'));
+        rest.remove_prefix(std::min(part.size() + 1, rest.size()));
+    }
+    const auto [name, size, bold, italic] = parts;
+    const auto is_switch = [](std::string_view part) { return part == "0" || part == "1"; };
+    if (std::ranges::count(text, ';') != part_count - 1 || name.empty() || !is_switch(bold) ||
+        !is_switch(italic)) {
+        throw Script_Error("not NAME;SIZE;BOLD;ITALIC: " + Quoted(text));
+    }
+    const auto points = Number_From<double>(size);
+    if (!Is_Font_Size(points)) {
+        throw Script_Error("not a size of a font: " + Quoted(size));
+    }
+    return {
+        .name = std::string(name), .size = points, .bold = bold == "1", .italic = italic == "1"};
 }
 
 std::string_view Without_Encoding_Mark(std::string_view line) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/font.h"
+
 #include <istream>
 #include <optional>
 #include <string>
@@ -25,6 +27,9 @@ std::string_view First_Word(std::string_view& rest);
 
 /// A blue-green-red number.
 [[nodiscard]] int Colour_From(std::string_view text);
+
+/// A font as "NAME;SIZE;BOLD;ITALIC": the size in points, bold and italic 1 or 0.
+[[nodiscard]] Font Font_From(std::string_view text);
 
 /// The number of the last line that asks for what was drawn, found by reading ahead; 0 when there
 /// is none, nothing when the script cannot be read twice, as one that is being typed. Raises

@@ -6,13 +6,16 @@
 #include "engine/port_calculators.h"
 #include "engine/unit_conversion.h"
 #include "files/company_file.h"
+#include "files/gui_file.h"
 #include "files/main_data_file.h"
 #include "files/preloads.h"
 #include "output/print_state.h"
 #include "output/printer_choice.h"
 #include "output/screen_capture.h"
 #include "presentation/alignment.h"
+#include "presentation/box_fonts.h"
 #include "presentation/graph_options.h"
+#include "presentation/links.h"
 #include "presentation/mouse_pointer.h"
 #include "presentation/screen_adaptation.h"
 #include "sheet/flow_calculation.h"
@@ -41,11 +44,23 @@ void Align(Session& session, Control& /*control*/) {
     session.numbers.align_mode = mode;
     Apply_Alignment(session);
     if (mode == Alignment::Right) {
-        // The fixed decimals of this mode change the texts.
-        for (int number = 1; number <= sheet_count; ++number) {
-            Calc_Flow_Test(session, session.Sheet(number));
-        }
+        Calc_All_Flow_Tests(session); // the fixed decimals of this mode change the texts
     }
+}
+
+/// Asks for a font, beginning with that of a box, and gives it to the boxes.
+template <auto box_of, auto apply>
+void Choose_Box_Font(Session& session, Control& /*control*/) {
+    Pick_Font(session, box_of(session).Present_Look().font);
+    apply(session, Font_Size::As_Seen);
+}
+
+const Control& Box_Of_Main(Session& session) {
+    return session.Main().Text104(3);
+}
+
+const Control& Box_Of_Sheet(Session& session) {
+    return session.Sheet(1).Text104(3);
 }
 
 void Plain_Pointer(Session& session, Control& control) {
@@ -126,6 +141,12 @@ constexpr auto commands = std::to_array<Command>({
     {"Check1", Run<Apply_Mach_Mode>},
     {"Check2", Run<Convert_Units>},
     {"Check3", Run<Apply_Rpm_Mode>},
+    {"AllFont", Choose_Box_Font<Box_Of_Main, Apply_All_Box_Main>},
+    {"EntryFont", Choose_Box_Font<Box_Of_Main, Apply_Entry_Box_Main>},
+    {"AllFont_Flow", Choose_Box_Font<Box_Of_Sheet, Apply_All_Box_Flow>},
+    {"EntryFont_Flow", Choose_Box_Font<Box_Of_Sheet, Apply_Entry_Box_Flow>},
+    {"Read_GUI", Run<Read_GUI>},
+    {"Write_GUI", Run<Write_GUI>},
     {"AligLeft", Align<Alignment::Left>},
     {"AligCenter", Align<Alignment::Center>},
     {"AligRight", Align<Alignment::Right>},
@@ -151,6 +172,10 @@ constexpr auto commands = std::to_array<Command>({
     {"Combo1", Pick_Printer},
     {"Got_Printer", Run<Put_Printer_In_Force>},
     {"Command6", Run<Capture_Engine_Screen>},
+    {"Command49", Run<Play_Wav_File>},
+    {"Command10", Run<Show_Cam_Page>},
+    {"Report_Problem", Run<Report_Problem>},
+    {"Information_Request", Run<Request_Information>},
     {"About", Show_About},
     {"Exit", Run<Exit_Program>},
 });

@@ -107,9 +107,7 @@ void Start_Up(Session& session) {
         session.Message("Program Set for Decimal Point to be >>,<< [Comma] ",
                         Box_Icon::Information);
     }
-    for (int number = 1; number <= sheet_count; ++number) {
-        Calc_Flow_Test(session, session.Sheet(number));
-    }
+    Calc_All_Flow_Tests(session);
     session.display.dpi = session.surroundings.display.dpi;
     Handle_Switches(session);
     Restore_Last_Session(session);

@@ -25,6 +25,7 @@ namespace kestrum {
 struct Painter;
 struct Printers;
 struct Screen_Camera;
+struct Shell;
 
 /// What the routines that read and write files share.
 struct File_Transfer {
@@ -34,12 +35,24 @@ struct File_Transfer {
     int records_written = 0;
 };
 
+/// What the font dialog gave, or a file in its place, before it is looked at.
+struct Font_Answer {
+    std::string name;
+    /// In points, in the session's decimal mode.
+    std::string size;
+    bool bold = false;
+    bool italic = false;
+    /// The dialog was cancelled; the rest is of the answer before.
+    bool cancelled = false;
+};
+
 /// What the user answered last.
 struct Dialog_Answers {
     /// Number of a box's answer: OK 1, Cancel 2, Yes 6, No 7.
     int box = 0;
     /// What the colour dialog gave, as decimal digits; empty after a cancel.
     std::string colour;
+    Font_Answer font;
 };
 
 /// How the screens lie on the display.
@@ -95,6 +108,8 @@ public:
     Painter* painter = nullptr;
     Printers* printers = nullptr;
     Screen_Camera* camera = nullptr;
+    /// Null where nothing can be handed to the system.
+    Shell* shell = nullptr;
 
     // Screens. Each is created when it is first asked for, and again after it was unloaded.
 

@@ -33,6 +33,12 @@ template <typename Choice>
     return static_cast<Choice>(number);
 }
 
+/// A size of letters in points that can be shown.
+[[nodiscard]] constexpr bool Is_Font_Size(double points) {
+    constexpr double largest = 2160;
+    return points > 0 && points <= largest;
+}
+
 /// The grid of the graph.
 struct Grid_Setting {
     bool on = true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/font.h"
+
 #include <optional>
 #include <string>
 
@@ -51,6 +53,10 @@ struct Dialogs {
     /// The chosen colour as a blue-green-red number, or nothing when the user cancels. A face
     /// without such a dialog cancels.
     virtual std::optional<int> Choose_Colour() { return std::nullopt; }
+
+    /// The chosen font, or nothing when the user cancels; `shown` is what the dialog begins with. A
+    /// face without such a dialog cancels.
+    virtual std::optional<Font> Choose_Font(const Font& /*shown*/) { return std::nullopt; }
 
     virtual void Beep() = 0;
 };

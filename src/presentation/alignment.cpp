@@ -1,15 +1,8 @@
 #include "presentation/alignment.h"
 
+#include "presentation/styled_boxes.h"
+
 namespace kestrum {
-
-namespace {
-
-bool Keeps_Its_Alignment(const Control& control) {
-    const std::string_view name = control.Entry().array;
-    return !control.Is_Text_Box() || name == "Text71" || name == "Text72";
-}
-
-} // namespace
 
 void Apply_Alignment(Session& session) {
     const Alignment alignment = session.numbers.align_mode;
@@ -18,7 +11,7 @@ void Apply_Alignment(Session& session) {
             return;
         }
         for (Control& control : screen.Controls()) {
-            if (!Keeps_Its_Alignment(control)) {
+            if (Is_Styled_Box(control)) {
                 Look look = control.Present_Look();
                 look.alignment = alignment;
                 control.Set_Look(look);

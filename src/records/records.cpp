@@ -59,7 +59,11 @@ std::string_view Record::Value() const {
 
 void Record_Writer::Write_Line(std::string_view key, std::string_view value) {
     text_.append(key).append(" = ");
-    std::ranges::remove_copy(value, std::back_inserter(text_), end_of_file);
+    Write_Text(value);
+}
+
+void Record_Writer::Write_Text(std::string_view line) {
+    std::ranges::remove_copy(line, std::back_inserter(text_), end_of_file);
     text_.append(cr_lf);
     Count_Record(written_);
 }

@@ -53,6 +53,9 @@ public:
     /// Character 26 is left out: it would end the file when that is read back.
     void Write_Line(std::string_view key, std::string_view value);
 
+    /// A line of no key.
+    void Write_Text(std::string_view line);
+
     [[nodiscard]] const std::string& Text() const { return text_; }
 
 private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/font.h"
 #include "base/numeric_text.h"
 #include "screens/control_entry.h"
 
@@ -10,15 +11,6 @@
 namespace kestrum {
 
 class Screen;
-
-struct Font {
-    std::string name = "Arial";
-    double size = 8.25; // points
-    bool bold = false;
-    bool italic = false;
-
-    bool operator==(const Font&) const = default;
-};
 
 /// Colours are the system's blue-green-red numbers: 0x0000FF is red.
 using Colour = int;

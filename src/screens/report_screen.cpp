@@ -76,6 +76,10 @@ constexpr auto report_table = With_Lasting_Hints(std::to_array<Control_Entry>({
 
 } // namespace
 
-Report_Screen::Report_Screen() : Screen({Screen_Kind::Report}, report_table) {}
+Report_Screen::Report_Screen() : Screen({Screen_Kind::Report}, report_table) {
+    Look look = Text38.Present_Look();
+    look.font.name = "Courier New"; // the report lines up in letters of one width
+    Text38.Set_Look(look);
+}
 
 } // namespace kestrum

@@ -52,4 +52,10 @@ void Calc_Flow_Test(Session& session, Flow_Sheet& sheet) {
     Calc_Flow(session, sheet, session.Main().Is_Metric() ? Metric_Flow_Units() : Us_Flow_Units());
 }
 
+void Calc_All_Flow_Tests(Session& session) {
+    for (int number = 1; number <= sheet_count; ++number) {
+        Calc_Flow_Test(session, session.Sheet(number));
+    }
+}
+
 } // namespace kestrum

@@ -11,4 +11,7 @@ namespace kestrum {
 /// before its handler begins.
 void Calc_Flow_Test(Session& session, Flow_Sheet& sheet);
 
+/// The same for all five sheets in turn, each created at need.
+void Calc_All_Flow_Tests(Session& session);
+
 } // namespace kestrum
