@@ -43,6 +43,9 @@ public:
     /// The captions around the field, or the lift of its row, have changed.
     virtual void Name_Anew() {}
 
+    /// The letters of the page have got another size.
+    virtual void Take_Letters() {}
+
     Control& control;
 
 protected:

@@ -24,6 +24,8 @@ namespace kestrum::desktop {
 
 namespace {
 
+constexpr int foot_height = 2;
+
 bool Is_Character(char32_t code) {
     constexpr char32_t first_printable = 32;
     constexpr char32_t deletes = 127;
@@ -41,8 +43,7 @@ QString Typed_Characters(const QKeyEvent& event) {
 Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
     setFrame(false);
-    constexpr int foot = 2;
-    setTextMargins(theme::text_padding - 2, 0, 0, foot);
+    setTextMargins(theme::text_padding - 2, 0, 0, foot_height);
     Entry_Field::Name_Anew();
     Entry_Field::Refresh();
     connect(this, &QLineEdit::textChanged, this, &Entry_Field::Take_Typed);
@@ -70,18 +71,42 @@ void Entry_Field::Show_Text() {
 
 void Entry_Field::Show_Look() {
     const Look& look = control.Present_Look();
-    // A field without a font of its own has its page's, which grows with the window.
-    const Font last_font = shown_once_ ? look_.font : Font();
-    if (look.font != last_font) {
-        setFont(theme::Font_Of(control, parentWidget()->font()));
-    }
     look_ = look;
     shown_once_ = true;
+    Show_Letters();
     setReadOnly(look_.locked || text() != To_Qt(control.Text()));
     setAlignment(Alignment_Of(control));
     Show_Ink();
     Show_Common_State(*this, control);
     update();
+}
+
+/// A field without a font of its own has its page's, which grows with the window. A large one is
+/// held to the height of its cell.
+void Entry_Field::Show_Letters() {
+    if (theme::Chosen_Font(control) == Font()) {
+        if (own_letters_) {
+            own_letters_ = false;
+            setFont(QFont());
+        }
+        return;
+    }
+    own_letters_ = true;
+    QFont letters = theme::Font_Of(control, parentWidget()->font());
+    while (letters.pixelSize() > theme::smallest_pixels &&
+           QFontMetrics(letters).ascent() > height() - foot_height) {
+        letters.setPixelSize(letters.pixelSize() - 1);
+    }
+    if (letters != font()) {
+        setFont(letters);
+    }
+}
+
+void Entry_Field::resizeEvent(QResizeEvent* event) {
+    Widget_View::resizeEvent(event);
+    if (own_letters_) {
+        Show_Letters();
+    }
 }
 
 void Entry_Field::Show_Ink() {
@@ -307,7 +332,7 @@ void Entry_Field::Paint_Frame(QPainter& painter) const {
     const theme::Cell_Colours colours = theme::Colours_Of(control);
     const Crisp crisp(painter);
     const QRect cell = Cell_Dots(crisp, rect());
-    const int foot = crisp.Dots_In(2);
+    const int foot = crisp.Dots_In(foot_height);
     const QRect foot_area(cell.left(), cell.bottom() - foot + 1, cell.width(), foot);
     if (hasFocus()) {
         crisp.Frame(cell, foot, theme::Colours().accent);

@@ -15,6 +15,8 @@ public:
     void Show_Selection(const Selection& selection) override;
     void Name_Anew() override;
 
+    void Take_Letters() override { Show_Letters(); }
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -23,6 +25,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -30,6 +33,7 @@ private:
     [[nodiscard]] QString Typed_By(const QKeyEvent& event) const;
     void Show_Look();
     void Show_Ink();
+    void Show_Letters();
     void Paint_Frame(QPainter& painter) const;
     [[nodiscard]] bool Moves_Away(const QKeyEvent& event);
     /// Whether the filter lets all pass; flashes where it does not.
@@ -44,6 +48,7 @@ private:
 
     Look look_;
     bool shown_once_ = false;
+    bool own_letters_ = false;
     bool flashes_ = false;
 };
 

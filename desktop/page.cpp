@@ -94,6 +94,9 @@ void Page::Add_View(Control& control) {
     }
     context_.made(view);
     items_.push_back({&view, place});
+    if (control.Is_Text_Box()) {
+        static_cast<void>(Takes_Font(control));
+    }
     if (isVisible()) {
         Place_Item(items_.back());
         view.Widget()->show();
@@ -116,29 +119,69 @@ void Page::Name_Rows_Anew(const std::set<int>& rows) {
     }
 }
 
-/// A column is as wide as its widest caption. Captions that stand alone in their place count only.
+bool Page::Takes_Font(const Control& field) {
+    const Font chosen = theme::Chosen_Font(field);
+    const auto known = fonts_.find(&field);
+    if (chosen == (known == fonts_.end() ? Font() : known->second)) {
+        return false;
+    }
+    fonts_[&field] = chosen;
+    return true;
+}
+
+void Page::Measure_Anew() {
+    Measure_Columns();
+    Weigh_Rows();
+    updateGeometry();
+    Set_Letters();
+    Lay_Out();
+}
+
+/// A control's letters at the theme's own size.
+QFont Page::Letters_Of(const Control& control) const {
+    return fonts_.contains(&control) ? theme::Font_Of(control, theme::Text_Font())
+                                     : theme::Text_Font();
+}
+
+/// A column is as wide as its widest caption. Captions that stand alone in their place count only,
+/// and figures in letters of their own.
 void Page::Measure_Columns() {
     widths_.assign(static_cast<std::size_t>(columns_), design_.column_width);
     // Bold letters are that much wider. To measure them would load a font that only the display at
     // its present scale needs, which takes longer than to paint the page.
     constexpr double of_bold = 1.15;
-    const QFontMetrics metrics(theme::Text_Font());
+    const QFontMetrics usual(theme::Text_Font());
     for (const Item& item : items_) {
         const Control& control = item.view->control;
-        if (control.Entry().use == Cell_Use::Caption && item.place.columns == 1) {
+        const bool own_letters = fonts_.contains(&control);
+        if (item.place.columns == 1 && (control.Entry().use == Cell_Use::Caption || own_letters)) {
             const double letters = map_.Heads_Column(control) ? of_bold : 1;
-            const int words =
-                static_cast<int>(letters * metrics.horizontalAdvance(To_Qt(control.Text())));
+            const QString text = To_Qt(control.Text());
+            const int words = own_letters
+                                  ? QFontMetrics(Letters_Of(control)).horizontalAdvance(text)
+                                  : usual.horizontalAdvance(text);
             int& width = widths_[static_cast<std::size_t>(item.place.column)];
-            width = std::max(width, words + 2 * theme::text_padding + 1);
+            width =
+                std::max(width, static_cast<int>(letters * words) + 2 * theme::text_padding + 1);
         }
     }
 }
 
-/// Lines of a heading belong together, and a row that nothing stands in is only a gap.
-void Page::Weigh_Rows() {
+/// Rows against the usual height. Lines of a heading belong together, and a row that nothing stands
+/// in is only a gap. A row is as high as its largest letters need.
+double Page::Weight_Of(const Control& control) const {
     constexpr double line_height = 16;
-    const double of_heading = line_height / design_.row_height;
+    const bool is_heading = control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
+    const double usual = is_heading ? line_height / design_.row_height : 1.0;
+    if (!fonts_.contains(&control)) {
+        return usual;
+    }
+    const double letters = QFontMetrics(Letters_Of(control)).height();
+    const double of_usual = QFontMetrics(theme::Text_Font()).height();
+    return std::max(usual, usual * letters / of_usual);
+}
+
+void Page::Weigh_Rows() {
     constexpr double of_gap = 0.4;
     std::vector<double> weights(static_cast<std::size_t>(rows_), of_gap);
     for (const Item& item : items_) {
@@ -146,24 +189,35 @@ void Page::Weigh_Rows() {
         if (control.Entry().kind == Control_Kind::Frame && control.Entry().starts_hidden) {
             continue; // floats above the rows
         }
-        const bool is_heading =
-            control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
+        const double needed = Weight_Of(control);
         for (int row = item.place.row; row < item.place.row + item.place.rows; ++row) {
             double& weight = weights[static_cast<std::size_t>(row)];
-            weight = std::max(weight, is_heading ? of_heading : 1.0);
+            weight = std::max(weight, needed);
         }
     }
     constexpr double of_options = 1.25;
     for (int row = 0; row < std::min(rows_, design_.rows_of_options); ++row) {
         weights[static_cast<std::size_t>(row)] = of_options;
     }
+    Sum_Rows_Up(weights);
+}
+
+void Page::Sum_Rows_Up(const std::vector<double>& weights) {
     constexpr double gap = 0.5;
+    row_tops_.clear();
+    row_feet_.clear();
     double foot = 0;
     for (int row = 0; row < rows_; ++row) {
         row_tops_.push_back(row > 0 && row == design_.gap_before_row ? foot + gap : foot);
         foot = row_tops_.back() + weights[static_cast<std::size_t>(row)];
         row_feet_.push_back(foot);
     }
+}
+
+Control_View* Page::View_Of(const Control& control) const {
+    const auto found = std::ranges::find_if(
+        items_, [&control](const Item& item) { return &item.view->control == &control; });
+    return found == items_.end() ? nullptr : found->view;
 }
 
 QSize Page::sizeHint() const {
@@ -201,13 +255,20 @@ void Page::Set_Letters() {
     if (is_panel_) {
         return;
     }
-    constexpr double most = 1.6;
+    // On a display that its screen was stretched to, letters grow as the cells do.
+    const Screen_Scale& stretched = context_.screen.scale;
+    const double most = 1.6 * std::max(stretched.x, stretched.y);
     // Whole dots of a letter, but never more than the columns have room for.
     const double pixels =
         std::floor(theme::text_pixels * std::min({most, Scale_Across(), Scale_Down()}) + 0.01);
     const QFont letters = theme::Text_Font(pixels / theme::text_pixels);
     if (letters.pixelSize() != font().pixelSize()) {
         setFont(letters);
+    }
+    for (const auto& [field, chosen] : fonts_) {
+        if (Control_View* const view = View_Of(*field)) {
+            view->Take_Letters();
+        }
     }
 }
 

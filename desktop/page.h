@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <map>
 #include <set>
 #include <string_view>
 #include <vector>
@@ -49,6 +50,10 @@ public:
     void Name_Fields_Anew();
     /// So have the lifts of some rows.
     void Name_Rows_Anew(const std::set<int>& rows);
+    /// Notes the font of a field; true when it is another one than before.
+    bool Takes_Font(const Control& field);
+    /// Fonts of fields have changed: columns and rows get the sizes that they need now.
+    void Measure_Anew();
 
     /// Where a place of the grid lies now.
     [[nodiscard]] QRect Area_Of(const Place& place) const;
@@ -75,8 +80,12 @@ private:
     /// Size against the usual one: of the columns, and of the rows.
     [[nodiscard]] double Scale_Across() const;
     [[nodiscard]] double Scale_Down() const;
+    [[nodiscard]] QFont Letters_Of(const Control& control) const;
     void Measure_Columns();
+    [[nodiscard]] double Weight_Of(const Control& control) const;
     void Weigh_Rows();
+    void Sum_Rows_Up(const std::vector<double>& weights);
+    [[nodiscard]] Control_View* View_Of(const Control& control) const;
     void Lay_Out();
     void Place_Item(const Item& item) const;
     void Set_Letters();
@@ -86,6 +95,8 @@ private:
     std::string_view holder_;
     const Form_Design& design_;
     Cell_Map map_;
+    /// Fonts of the fields that have one of their own.
+    std::map<const Control*, Font> fonts_;
     bool is_panel_;
     int columns_ = 1;
     int rows_ = 1;

@@ -48,16 +48,15 @@ void Picture_View::Load_Logo_Anew() {
 
 QRect Picture_View::Area_In(const QRect& cell) const {
     // As many units wide as high.
-    const double scale = std::min(static_cast<double>(cell.width()) / area::width,
-                                  static_cast<double>(cell.height()) / area::height);
-    const QSize size(static_cast<int>(area::width * scale), static_cast<int>(area::height * scale));
+    const QSizeF whole = area::Whole(facts.events.Canvas()).size();
+    const QSize size = whole.scaled(cell.size(), Qt::KeepAspectRatio).toSize();
     return {cell.topLeft() + QPoint((cell.width() - size.width()) / 2, 0), size};
 }
 
 void Picture_View::paintEvent(QPaintEvent* /*event*/) {
     // The paper ends below the last caption; the mouse may draw it longer.
     const QRectF shown = painting::Area_Of(facts.events.Canvas());
-    const double dots_in_unit = static_cast<double>(width()) / area::width;
+    const double dots_in_unit = width() / shown.width();
     const QRectF paper(0, 0, width(), std::min(shown.height() * dots_in_unit, height() * 1.0));
     try {
         QPainter painter(this);
@@ -72,8 +71,9 @@ void Picture_View::paintEvent(QPaintEvent* /*event*/) {
 }
 
 QPointF Picture_View::On_Canvas(const QPointF& place) const {
-    const double scale = static_cast<double>(area::width) / std::max(width(), 1);
-    return {place.x() * scale + area::left, place.y() * scale + area::top};
+    const QRectF whole = area::Whole(facts.events.Canvas());
+    const double scale = whole.width() / std::max(width(), 1);
+    return {place.x() * scale + whole.left(), place.y() * scale + whole.top()};
 }
 
 void Picture_View::Tell(Mouse_Action action, const QPointF& place) {

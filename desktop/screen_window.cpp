@@ -168,9 +168,44 @@ void Screen_Window::Show_Arrow(Control_View& view) {
 
 // Opening and closing
 
+QSize Screen_Window::Room() const {
+    return screen()->availableSize() - window_frame;
+}
+
 QSize Screen_Window::Usual_Size() const {
-    const QSize room = screen()->availableSize() - window_frame;
-    return (sizeHint() * Design_Of(*screen_, "").opening_scale).boundedTo(room);
+    return (sizeHint() * Design_Of(*screen_, "").opening_scale).boundedTo(Room());
+}
+
+/// A screen that was stretched to its display takes the size and the place that this gave it, as
+/// far as the free part of the display goes.
+void Screen_Window::Take_Stretched_Place() {
+    scale_ = screen_->scale;
+    const Twips place = Place_In_Twips(*screen_);
+    const QSizeF wanted(place.width / twips_per_pixel, place.height / twips_per_pixel);
+    showNormal();
+    resize(wanted.toSize().expandedTo(sizeHint()).boundedTo(Room()));
+    const QRect room = screen()->availableGeometry();
+    const QSize free = room.size() - (size() + window_frame);
+    constexpr int least_gap = 25;
+    const int above = free.height() / 2 <= least_gap ? 0 : free.height() / 4;
+    move(room.topLeft() + QPoint(free.width() / 2, above));
+}
+
+/// Larger letters get a larger window where the display has the room.
+void Screen_Window::Grow_From(const QSize& page_before) {
+    body_->Place_Pages();
+    if (!placed_ || isMaximized()) {
+        return;
+    }
+    const QSize now = body_->sizeHint();
+    const QSizeF grown(width() * (1.0 * now.width() / page_before.width()),
+                       height() * (1.0 * now.height() / page_before.height()));
+    resize(grown.toSize().expandedTo(size()).boundedTo(Room()));
+    const QRect room = screen()->availableGeometry();
+    const QPoint last = room.bottomRight() - QPoint(width(), height()) -
+                        QPoint(window_frame.width(), window_frame.height());
+    move(QPoint(std::max(room.left(), std::min(x(), last.x())),
+                std::max(room.top(), std::min(y(), last.y()))));
 }
 
 void Screen_Window::Open() {
@@ -181,6 +216,9 @@ void Screen_Window::Open() {
         const QRect room = screen()->availableGeometry();
         const QRect framed({}, size() + window_frame);
         move(room.center() - framed.center());
+        if (scale_ != screen_->scale) {
+            Take_Stretched_Place();
+        }
     } else {
         move(pos()); // a window manager would else place it anew
     }
@@ -239,22 +277,13 @@ void Screen_Window::Refresh() {
     if (screen_ == nullptr) {
         return;
     }
-    bool captions_changed = false;
-    std::set<int> rows;
-    for (Control* const control : screen_->Take_Changes()) {
+    const std::vector<Control*> changes = screen_->Take_Changes();
+    for (Control* const control : changes) {
         Show_Changed(*control);
-        captions_changed = captions_changed || control->Entry().use == Cell_Use::Caption;
-        const Page* const page = control->Is_Text_Box() ? Page_Of(*control) : nullptr;
-        if (page != nullptr && page->Is_Lift(*control)) {
-            rows.insert(Place_Of(*control).row);
-        }
     }
-    for (Page* const page : pages_) {
-        if (captions_changed) {
-            page->Name_Fields_Anew();
-        } else if (!rows.empty()) {
-            page->Name_Rows_Anew(rows);
-        }
+    Tell_Pages(changes);
+    if (scale_ != screen_->scale && placed_) {
+        Take_Stretched_Place();
     }
     if (tab_order_stale_) {
         tab_order_stale_ = false;
@@ -263,6 +292,36 @@ void Screen_Window::Refresh() {
     Set_Pointer();
     if (windowTitle() != To_Qt(screen_->caption)) {
         setWindowTitle(To_Qt(screen_->caption));
+    }
+}
+
+void Screen_Window::Tell_Pages(const std::vector<Control*>& changes) {
+    bool captions_changed = false;
+    std::set<int> rows;
+    std::set<Page*> other_fonts;
+    for (Control* const control : changes) {
+        captions_changed = captions_changed || control->Entry().use == Cell_Use::Caption;
+        Page* const page = control->Is_Text_Box() ? Page_Of(*control) : nullptr;
+        if (page != nullptr && page->Is_Lift(*control)) {
+            rows.insert(Place_Of(*control).row);
+        }
+        if (page != nullptr && page->Takes_Font(*control)) {
+            other_fonts.insert(page);
+        }
+    }
+    const QSize before = body_->sizeHint();
+    for (Page* const page : other_fonts) {
+        page->Measure_Anew();
+    }
+    if (!other_fonts.empty()) {
+        Grow_From(before);
+    }
+    for (Page* const page : pages_) {
+        if (captions_changed) {
+            page->Name_Fields_Anew();
+        } else if (!rows.empty()) {
+            page->Name_Rows_Anew(rows);
+        }
     }
 }
 

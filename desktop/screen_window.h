@@ -85,7 +85,12 @@ private:
     void Set_Pointer();
     static void Show_Arrow(Control_View& view);
     [[nodiscard]] Page* Page_Of(const Control& control) const;
+    /// Tells the pages what has changed that their layout or names hang on.
+    void Tell_Pages(const std::vector<Control*>& changes);
     [[nodiscard]] QSize Usual_Size() const;
+    [[nodiscard]] QSize Room() const;
+    void Take_Stretched_Place();
+    void Grow_From(const QSize& page_before);
 
     Session& session_;
     Gate& gate_;
@@ -103,6 +108,7 @@ private:
     bool tab_order_stale_ = false;
     bool plain_pointer_ = false;
     bool placed_ = false;
+    Screen_Scale scale_; // that the window has been given
     bool painted_ = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include "desktop/text_bridge.h"
 #include "desktop/theme_style.h"
+#include "screens/screen.h"
 
 #include <QApplication>
 
@@ -57,8 +58,18 @@ QFont Text_Font(double scale) {
     return font;
 }
 
+Font Chosen_Font(const Control& field) {
+    constexpr double nearly = 1e-6; // of what multiplying and dividing leaves
+    Font font = field.Present_Look().font;
+    font.size /= field.Owner().scale.font;
+    if (std::abs(font.size - Font().size) < nearly) {
+        font.size = Font().size;
+    }
+    return font;
+}
+
 QFont Font_Of(const Control& field, const QFont& usual) {
-    const Font& chosen = field.Present_Look().font;
+    const Font chosen = Chosen_Font(field);
     const Font stored;
     if (chosen == stored) {
         return usual;

@@ -41,7 +41,9 @@ inline constexpr int text_padding = 4;
 inline constexpr int radius = 4;
 
 [[nodiscard]] QFont Text_Font(double scale = 1);
-/// The font that the user has chosen for a field, or the theme's.
+/// The font that the user has chosen for a field, as it was before the screen was stretched.
+[[nodiscard]] Font Chosen_Font(const Control& field);
+/// The font that the user has chosen for a field, or the theme's; beside `usual` letters.
 [[nodiscard]] QFont Font_Of(const Control& field, const QFont& usual);
 
 } // namespace kestrum::desktop::theme

@@ -19,13 +19,12 @@ double Bottom_Of(const Draw_Operation& step) {
 } // namespace
 
 QRectF Area_Of(const Drawing& drawing) {
-    constexpr double border = -picture_area::top;
-    double bottom = frame_bottom;
+    QRectF area = picture_area::Whole(drawing);
+    double bottom = frame_bottom * drawing.Factor_Y();
     for (const Draw_Operation& step : drawing.Operations()) {
         bottom = std::max(bottom, Bottom_Of(step));
     }
-    QRectF area = picture_area::Whole();
-    area.setBottom(std::min(std::ceil(bottom + border), area.bottom()));
+    area.setBottom(std::min(std::ceil(bottom - area.top()), area.bottom()));
     return area;
 }
 

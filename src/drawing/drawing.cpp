@@ -90,6 +90,8 @@ void Drawing::Text(double x, double y, std::string_view text, double size, int c
 }
 
 void Drawing::Stretch(double factor_x, double factor_y) {
+    factor_x_ *= factor_x;
+    factor_y_ *= factor_y;
     const double smaller = std::min(factor_x, factor_y);
     for (Draw_Operation& step : Own_Steps()) {
         step.x1 *= factor_x;

@@ -102,6 +102,11 @@ public:
     /// by the smaller factor.
     void Stretch(double factor_x, double factor_y);
 
+    /// How much larger the surface is than it was designed.
+    [[nodiscard]] double Factor_X() const { return factor_x_; }
+
+    [[nodiscard]] double Factor_Y() const { return factor_y_; }
+
     /// Makes room for a number of operations to come.
     void Reserve(std::size_t more) { Own_Steps().reserve(Own_Steps().size() + more); }
 
@@ -113,6 +118,8 @@ private:
     std::shared_ptr<std::vector<Draw_Operation>> operations_;
     std::vector<Draw_Operation> journal_;
     bool keeps_journal_ = false;
+    double factor_x_ = 1;
+    double factor_y_ = 1;
 };
 
 /// Text on the canvas is measured by these fixed rules, so that a layout comes out the same on
