@@ -31,9 +31,18 @@ public:
         action_.setText(To_Qt(control.Text()));
         action_.setEnabled(control.Present_Look().enabled && Has_Routine(control));
         action_.setVisible(control.Present_Look().visible);
+        Show_Check();
     }
 
     QWidget* Widget() override { return nullptr; }
+
+    /// A check before the choice that is in force.
+    void Show_Check() {
+        if (const auto chosen = facts.events.Is_Chosen(control)) {
+            action_.setCheckable(true);
+            action_.setChecked(*chosen);
+        }
+    }
 
 private:
     QAction& action_;
@@ -70,7 +79,13 @@ void Fill_Menus(QMenuBar& bar, Screen& screen, View_Host& events,
         }
         QAction* const action =
             holder == menus.end() ? bar.addAction(QString()) : holder->second->addAction(QString());
-        made(*new Entry_View(control, View_Facts{.events = events}, *action));
+        auto* const entry_view = new Entry_View(control, View_Facts{.events = events}, *action);
+        made(*entry_view);
+        if (holder != menus.end()) {
+            // A file or a script may have chosen otherwise since.
+            QObject::connect(holder->second, &QMenu::aboutToShow, action,
+                             [entry_view] { entry_view->Show_Check(); });
+        }
     }
 }
 

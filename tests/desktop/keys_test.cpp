@@ -175,6 +175,16 @@ TEST(Keys, A_Pasted_Text_Goes_In_Whole_Or_Not_At_All) {
     }
 }
 
+TEST(Keys, The_Decimal_Key_Of_The_Keypad_Types_The_Separator_In_Force) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    bench.program.Its_Session().numbers.comma_mode = 1;
+    bench.Enter("Form1.Text104(6)", "2");
+    QTest::keyClick(QApplication::focusWidget(), '.', Qt::KeypadModifier);
+    bench.Type("5");
+    EXPECT_EQ(bench.Text("Form1.Text104(6)"), "2,5");
+}
+
 TEST(Keys, A_Pasted_Dot_Becomes_The_Comma_Of_The_Mode) {
     Desktop_Bench bench;
     bench.Open_Sheet();

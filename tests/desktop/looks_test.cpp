@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QMenu>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -184,6 +185,63 @@ TEST(Looks, The_Tab_Key_Reaches_All_Of_Every_Page) {
     EXPECT_EQ(bench.Focus(), "Form50.Option2(1)");
     bench.Press(Qt::Key_Down);
     EXPECT_EQ(bench.At("Form50.Option2(2)").Value(), 1);
+}
+
+TEST(Looks, The_Menus_Check_What_Is_In_Force) {
+    Desktop_Bench bench;
+    const auto entry = [&bench](const char* name) {
+        return bench.Widget("Main.Command51").window()->findChild<QAction*>(QLatin1String(name));
+    };
+    entry("Main.AligCenter")->trigger();
+    entry("Main.Grid_None")->trigger();
+    bench.program.Its_Session().settings.grid = {.on = true, .style = Line_Style::Dot};
+    for (const char* const name : {"Main.AligLeft", "Main.AligCenter", "Main.Grid_Dot"}) {
+        static_cast<void>(
+            QMetaObject::invokeMethod(entry(name)->associatedObjects().first(), "aboutToShow"));
+    }
+    EXPECT_FALSE(entry("Main.AligLeft")->isChecked());
+    EXPECT_TRUE(entry("Main.AligCenter")->isChecked());
+    EXPECT_TRUE(entry("Main.Grid_Dot")->isChecked());
+    EXPECT_FALSE(entry("Main.Grid_None")->isChecked());
+    EXPECT_FALSE(entry("Main.Preload")->isCheckable());
+}
+
+TEST(Looks, Rows_Stay_Aligned_In_Large_Letters_And_On_A_Stretched_Screen) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    const auto letters = [&bench](std::string_view address) {
+        return bench.Widget(address).font().pixelSize();
+    };
+    const int before = letters("Form1.Text101(17)");
+    bench.program.Its_Gate().Enter([&] {
+        for (const std::string_view address : {"Form1.Text101(17)", "Form1.Text106(17)"}) {
+            Look look = bench.At(address).Present_Look();
+            look.font = {.name = "DejaVu Sans", .size = 2 * Font().size, .bold = true};
+            bench.At(address).Set_Look(look);
+        }
+    });
+    QWidget& large = bench.Widget("Form1.Text101(17)");
+    EXPECT_TRUE(large.font().bold());
+    EXPECT_GT(letters("Form1.Text101(17)"), before * 3 / 2);
+    EXPECT_GE(large.height(), QFontMetrics(large.font()).height());
+    for (const char* const address :
+         {"Form1.Text106(17)", "Form1.Text107(17)", "Form1.Text112(17)"}) {
+        EXPECT_EQ(bench.Widget(address).y(), large.y());
+        EXPECT_EQ(bench.Widget(address).height(), large.height());
+    }
+    // A stretched screen keeps the chosen proportion.
+    const int width = large.window()->width();
+    bench.program.Its_Gate().Enter([&] {
+        Screen& screen = bench.At("Form1.Text101(17)").Owner();
+        screen.scale = {.x = 1.5, .y = 1.5, .font = 1.65};
+        for (Control& control : screen.Controls()) {
+            Look look = control.Present_Look();
+            look.font.size *= screen.scale.font;
+            control.Set_Look(look);
+        }
+    });
+    EXPECT_GE(large.window()->width(), width);
+    EXPECT_NEAR(1.0 * letters("Form1.Text101(17)") / letters("Form1.Text101(18)"), 2, 0.2);
 }
 
 } // namespace
