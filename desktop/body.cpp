@@ -3,7 +3,6 @@
 #include "desktop/page.h"
 
 #include <QCoreApplication>
-#include <QScrollBar>
 #include <QWheelEvent>
 
 #include <algorithm>

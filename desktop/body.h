@@ -1,12 +1,11 @@
 #pragma once
 
+#include <QScrollBar>
 #include <QSize>
 #include <QWidget>
 
 #include <array>
 #include <vector>
-
-class QScrollBar;
 
 namespace kestrum::desktop {
 

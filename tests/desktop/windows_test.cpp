@@ -195,7 +195,8 @@ TEST(Windows, Every_Field_Is_Called_What_The_Trade_Calls_It) {
     bench.Open_Sheet();
     bench.Click("Form1.NextPage");
     bench.Click("Main.Command2");
-    bench.Enter("Form2.Text101(17)", "60");
+    bench.At("Form2.Text101(17)").Set_Text("60");
+    bench.At("Form2.Text108(17)").Set_Text("60");
     bench.Click("Form2.Command1");
     bench.Click("Main.Command50");
     bench.Click("Form50.Option3(3)"); // its energies have no word for the side in their headings
