@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 
@@ -172,6 +173,23 @@ std::optional<int> Desktop_Dialogs::Choose_Colour() {
     }
     constexpr int byte = 256; // the system counts blue, green, red
     return (colour.blue() * byte + colour.green()) * byte + colour.red();
+}
+
+std::optional<Font> Desktop_Dialogs::Choose_Font(const Font& shown) {
+    QFont font(To_Qt(shown.name));
+    font.setPointSizeF(shown.size);
+    font.setBold(shown.bold);
+    font.setItalic(shown.italic);
+    bool is_chosen = false;
+    font = QFontDialog::getFont(&is_chosen, font, QApplication::activeWindow(), QString(),
+                                QFontDialog::DontUseNativeDialog);
+    if (!is_chosen) {
+        return std::nullopt;
+    }
+    return Font{.name = From_Qt(font.family()),
+                .size = font.pointSizeF(),
+                .bold = font.bold(),
+                .italic = font.italic()};
 }
 
 void Desktop_Dialogs::Beep() {

@@ -15,6 +15,7 @@ public:
     Box_Answer Show_Box(const Box& box) override;
     std::optional<Chosen_Path> Choose_File(const Chooser& chooser) override;
     std::optional<int> Choose_Colour() override;
+    std::optional<Font> Choose_Font(const Font& shown) override;
     void Beep() override;
 
 private:

@@ -23,7 +23,10 @@ public:
             action_.setShortcut(QKeySequence(To_Qt(its_control.Entry().shortcut)));
         }
         Entry_View::Refresh();
-        connect(&action_, &QAction::triggered, this, [this] { facts.events.Clicked(control); });
+        connect(&action_, &QAction::triggered, this, [this] {
+            facts.events.Clicked(control);
+            Entry_View::Refresh(); // the toolkit has turned the mark by itself
+        });
         connect(&action_, &QAction::hovered, this, [this] { facts.events.Hovered(control); });
     }
 
@@ -31,18 +34,11 @@ public:
         action_.setText(To_Qt(control.Text()));
         action_.setEnabled(control.Present_Look().enabled && Has_Routine(control));
         action_.setVisible(control.Present_Look().visible);
-        Show_Check();
+        action_.setCheckable(control.Value() != 0);
+        action_.setChecked(control.Value() != 0);
     }
 
     QWidget* Widget() override { return nullptr; }
-
-    /// A check before the choice that is in force.
-    void Show_Check() {
-        if (const auto chosen = facts.events.Is_Chosen(control)) {
-            action_.setCheckable(true);
-            action_.setChecked(*chosen);
-        }
-    }
 
 private:
     QAction& action_;
@@ -79,13 +75,7 @@ void Fill_Menus(QMenuBar& bar, Screen& screen, View_Host& events,
         }
         QAction* const action =
             holder == menus.end() ? bar.addAction(QString()) : holder->second->addAction(QString());
-        auto* const entry_view = new Entry_View(control, View_Facts{.events = events}, *action);
-        made(*entry_view);
-        if (holder != menus.end()) {
-            // A file or a script may have chosen otherwise since.
-            QObject::connect(holder->second, &QMenu::aboutToShow, action,
-                             [entry_view] { entry_view->Show_Check(); });
-        }
+        made(*new Entry_View(control, View_Facts{.events = events}, *action));
     }
 }
 

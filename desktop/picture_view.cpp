@@ -9,8 +9,6 @@
 
 namespace kestrum::desktop {
 
-namespace area = painting::picture_area;
-
 Picture_View::Picture_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
     setMouseTracking(true);
@@ -48,15 +46,17 @@ void Picture_View::Load_Logo_Anew() {
 
 QRect Picture_View::Area_In(const QRect& cell) const {
     // As many units wide as high.
-    const QSizeF whole = area::Whole(facts.events.Canvas()).size();
-    const QSize size = whole.scaled(cell.size(), Qt::KeepAspectRatio).toSize();
+    const QSizeF whole = painting::Whole_Area_Of(facts.events.Canvas()).size();
+    const double scale = std::min(cell.width() / whole.width(), cell.height() / whole.height());
+    const QSize size(static_cast<int>(whole.width() * scale),
+                     static_cast<int>(whole.height() * scale));
     return {cell.topLeft() + QPoint((cell.width() - size.width()) / 2, 0), size};
 }
 
 void Picture_View::paintEvent(QPaintEvent* /*event*/) {
     // The paper ends below the last caption; the mouse may draw it longer.
     const QRectF shown = painting::Area_Of(facts.events.Canvas());
-    const double dots_in_unit = width() / shown.width();
+    const double dots_in_unit = width() / painting::Whole_Area_Of(facts.events.Canvas()).width();
     const QRectF paper(0, 0, width(), std::min(shown.height() * dots_in_unit, height() * 1.0));
     try {
         QPainter painter(this);
@@ -71,9 +71,8 @@ void Picture_View::paintEvent(QPaintEvent* /*event*/) {
 }
 
 QPointF Picture_View::On_Canvas(const QPointF& place) const {
-    const QRectF whole = area::Whole(facts.events.Canvas());
-    const double scale = whole.width() / std::max(width(), 1);
-    return {place.x() * scale + whole.left(), place.y() * scale + whole.top()};
+    const QRectF whole = painting::Whole_Area_Of(facts.events.Canvas());
+    return whole.topLeft() + place * (whole.width() / std::max(width(), 1));
 }
 
 void Picture_View::Tell(Mouse_Action action, const QPointF& place) {

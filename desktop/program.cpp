@@ -26,6 +26,7 @@ Program::Program(Dialogs& dialogs, const Surroundings& surroundings)
     session_.painter = &painter_;
     session_.printers = &printers_;
     session_.camera = &camera_;
+    session_.shell = &shell_;
     printers_.show_preview = Show_Print_Preview;
     printers_.say = [this](const QString& words) { windows_.Say(words); };
     QObject::connect(&rescue_clock_, &QTimer::timeout, &rescue_clock_, [this] {

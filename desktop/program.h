@@ -3,6 +3,7 @@
 #include "core/session.h"
 #include "desktop/desktop_camera.h"
 #include "desktop/desktop_printers.h"
+#include "desktop/desktop_shell.h"
 #include "desktop/desktop_windows.h"
 #include "desktop/end_signals.h"
 #include "desktop/gate.h"
@@ -62,6 +63,7 @@ private:
     painting::Qt_Painter painter_;
     Desktop_Printers printers_;
     Desktop_Camera camera_;
+    Desktop_Shell shell_;
     Desktop_Windows windows_; // goes first, since its windows show the session
 };
 

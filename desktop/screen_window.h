@@ -56,7 +56,6 @@ private:
     // What the views ask and tell.
     [[nodiscard]] QString Words_Of(const Control& field) const override;
     [[nodiscard]] QChar Decimal_Mark() const override;
-    [[nodiscard]] std::optional<bool> Is_Chosen(const Control& entry) const override;
     void Clicked(Control& control) override;
     void Picked(Control& combo, const std::string& text) override;
     void Typed(Control& field, const std::string& text) override;

@@ -9,7 +9,6 @@
 #include "desktop/text_bridge.h"
 #include "graph/graph_state.h"
 #include "output/graph_saving.h"
-#include "presentation/alignment.h"
 
 namespace kestrum::desktop {
 
@@ -26,10 +25,6 @@ bool Is_Return_Of_Focus(Qt::FocusReason reason) {
 QString Screen_Window::Words_Of(const Control& field) const {
     const Page* const page = Page_Of(field);
     return page == nullptr ? QString() : page->Words_Of(field);
-}
-
-std::optional<bool> Screen_Window::Is_Chosen(const Control& entry) const {
-    return Is_In_Force(session_, entry.Entry().array);
 }
 
 QChar Screen_Window::Decimal_Mark() const {

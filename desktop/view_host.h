@@ -30,9 +30,6 @@ struct View_Host {
     /// What separates the decimals of a number.
     [[nodiscard]] virtual QChar Decimal_Mark() const = 0;
 
-    /// Whether a menu entry names what is in force; nothing for one that names no choice.
-    [[nodiscard]] virtual std::optional<bool> Is_Chosen(const Control& entry) const = 0;
-
     virtual void Clicked(Control& control) = 0;
     virtual void Picked(Control& combo, const std::string& text) = 0;
     virtual void Typed(Control& field, const std::string& text) = 0;

@@ -10,6 +10,7 @@ namespace kestrum::painting {
 namespace {
 
 constexpr int white = 0xFFFFFF;
+constexpr double design_width = 600;
 
 /// Half as strong.
 int Lighter(int colour) {
@@ -55,7 +56,7 @@ void Paint_Mark(const Draw_Operation& mark, Step_Painter& painter) {
 
 } // namespace
 
-Layers::Layers(const Drawing& drawing) {
+Layers::Layers(const Drawing& drawing) : frame_right_(design_width * drawing.Stretched_By().x) {
     Figure steps = drawing.Operations();
     while (!steps.empty()) {
         const std::size_t lines = Joined_Lines(steps);
@@ -79,7 +80,7 @@ void Layers::Paint_Graph(Step_Painter& painter) const {
     for (const Figure& mark : marks_) {
         Paint_Mark(mark.front(), painter);
     }
-    const Text_Layout layout = Lay_Out_Texts(texts_);
+    const Text_Layout layout = Lay_Out_Texts(texts_, frame_right_);
     for (const QRectF& panel : layout.panels) {
         painter.Panel(panel);
     }

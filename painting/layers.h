@@ -55,6 +55,7 @@ private:
     using Figure = std::span<const Draw_Operation>;
 
     std::vector<Figure> lines_;
+    double frame_right_;
     std::vector<Figure> frame_;
     std::vector<Figure> marks_;
     std::vector<Figure> by_hand_;

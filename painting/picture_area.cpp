@@ -18,13 +18,20 @@ double Bottom_Of(const Draw_Operation& step) {
 
 } // namespace
 
+QRectF Whole_Area_Of(const Drawing& drawing) {
+    using namespace picture_area;
+    const Stretch_Factors& by = drawing.Stretched_By();
+    return {left, top, (width + 2 * left) * by.x - 2 * left, (height + top) * by.y - top};
+}
+
 QRectF Area_Of(const Drawing& drawing) {
-    QRectF area = picture_area::Whole(drawing);
-    double bottom = frame_bottom * drawing.Factor_Y();
+    constexpr double border = -picture_area::top;
+    double bottom = frame_bottom * drawing.Stretched_By().y;
     for (const Draw_Operation& step : drawing.Operations()) {
         bottom = std::max(bottom, Bottom_Of(step));
     }
-    area.setBottom(std::min(std::ceil(bottom - area.top()), area.bottom()));
+    QRectF area = Whole_Area_Of(drawing);
+    area.setBottom(std::min(std::ceil(bottom + border), area.bottom()));
     return area;
 }
 

@@ -1,7 +1,5 @@
 #include "painting/text_layout.h"
 
-#include "painting/picture_area.h"
-
 #include <algorithm>
 #include <optional>
 
@@ -9,9 +7,8 @@ namespace kestrum::painting {
 
 namespace {
 
-/// Texts keep clear of the frame's sides.
+/// Texts keep clear of the frame's sides; this is of the left one.
 constexpr double least_left = 4;
-constexpr double most_right = picture_area::left + picture_area::width - 12;
 
 /// At these heights the letters of the usual font are about as wide as the fixed measure, and the
 /// two captions, whose rows overlap, are clear of each other.
@@ -24,7 +21,7 @@ Letters Letters_For(double size) {
             .line_height = Canvas_Text_Height(size)};
 }
 
-Set_Text Set_On_Canvas(Draw_Operation step) {
+Set_Text Set_On_Canvas(Draw_Operation step, double most_right) {
     constexpr double halo_to_height = 0.25;
     if (step.anchor == Text_Anchor::Left) {
         step.cell = std::max(step.cell, least_left);
@@ -52,8 +49,8 @@ double Free_Left(const std::vector<QRectF>& taken, QRectF box) {
 }
 
 /// A text where it lies over no other one. Where too little room is left for that it stays.
-Set_Text Placed(const Draw_Operation& step, const std::vector<QRectF>& taken) {
-    Set_Text set = Set_On_Canvas(step);
+Set_Text Placed(const Draw_Operation& step, const std::vector<QRectF>& taken, double most_right) {
+    Set_Text set = Set_On_Canvas(step, most_right);
     const double left = Free_Left(taken, set.Box());
     if (step.anchor == Text_Anchor::Right || left <= set.left ||
         most_right - left <= set.width / 2) {
@@ -62,7 +59,7 @@ Set_Text Placed(const Draw_Operation& step, const std::vector<QRectF>& taken) {
     Draw_Operation moved = step;
     moved.anchor = Text_Anchor::Left;
     moved.cell = left;
-    return Set_On_Canvas(moved);
+    return Set_On_Canvas(moved, most_right);
 }
 
 bool Keeps_Its_Place(const Draw_Operation& step) {
@@ -139,14 +136,17 @@ void Add_Panels(Text_Layout& layout, std::span<const Draw_Operation* const> text
 
 } // namespace
 
-Text_Layout Lay_Out_Texts(std::span<const Draw_Operation* const> texts) {
+Text_Layout Lay_Out_Texts(std::span<const Draw_Operation* const> texts, double frame_right) {
+    constexpr double clear = 4;
+    const double most_right = frame_right - clear;
     Text_Layout layout;
     layout.texts.resize(texts.size());
     std::vector<QRectF> taken;
     for (const bool keeping : {true, false}) {
         for (std::size_t at = 0; at < texts.size(); ++at) {
             if (Keeps_Its_Place(*texts[at]) == keeping) {
-                layout.texts[at] = keeping ? Set_On_Canvas(*texts[at]) : Placed(*texts[at], taken);
+                layout.texts[at] = keeping ? Set_On_Canvas(*texts[at], most_right)
+                                           : Placed(*texts[at], taken, most_right);
                 taken.push_back(layout.texts[at].Box());
             }
         }

@@ -24,7 +24,8 @@ struct Text_Layout {
 
 /// Sets the texts of a drawing. One that would lie over another moves to its
 /// right, and one that would leave the frame is set smaller. Legends and headings keep their
-/// places.
-[[nodiscard]] Text_Layout Lay_Out_Texts(std::span<const Draw_Operation* const> texts);
+/// places. The right side of the frame stands at `frame_right`.
+[[nodiscard]] Text_Layout Lay_Out_Texts(std::span<const Draw_Operation* const> texts,
+                                        double frame_right);
 
 } // namespace kestrum::painting

@@ -48,7 +48,7 @@ Text_Layout Painting::Laid_Out() const {
             texts.push_back(&step);
         }
     }
-    return Lay_Out_Texts(texts);
+    return Lay_Out_Texts(texts, 600);
 }
 
 } // namespace kestrum::painting

@@ -73,6 +73,9 @@ TEST_F(Painting, A_Picture_Ends_Below_What_Stands_In_It) {
     drawing_.Text(100, 620, "Bench 2", 24, 0);
     EXPECT_EQ(height(), 664);
     EXPECT_EQ(Area_Of(drawing_).top(), -8);
+    drawing_.Stretch(1.5, 1.25);
+    EXPECT_EQ(Area_Of(drawing_).width(), 916);
+    EXPECT_EQ(height(), 827) << "620 * 1.25, a line of 36, and the borders";
 }
 
 TEST_F(Painting, Puts_Lines_Where_The_Drawing_Has_Them) {

@@ -32,6 +32,7 @@ Surroundings Around(const Bench_Options& options, const Temp_Folder& folder) {
     Surroundings around;
     around.folder = folder.Path();
     around.command_line = options.command_line;
+    around.display = options.display;
     around.decimal_point = options.point;
     around.version = "5.0.0";
     if (!options.now.empty()) {

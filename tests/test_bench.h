@@ -37,9 +37,16 @@ public:
     /// What the next colour dialog gives; a cancel without it.
     std::optional<int> colour;
 
+    /// What the next font dialog gives; a cancel without it.
+    std::optional<Font> font;
+
     Box_Answer Show_Box(const Box& box) override;
 
     std::optional<int> Choose_Colour() override { return std::exchange(colour, std::nullopt); }
+
+    std::optional<Font> Choose_Font(const Font& /*shown*/) override {
+        return std::exchange(font, std::nullopt);
+    }
 
     std::optional<Chosen_Path> Choose_File(const Chooser& chooser) override;
     void Beep() override;
@@ -60,6 +67,7 @@ struct Bench_Options {
     std::string command_line{};
     /// Where the clock stands still, as "2026-11-16T09:05:03"; empty: it goes.
     std::string now{};
+    Display display{};
 };
 
 /// A running session in a folder of its own, and the hands of its user.

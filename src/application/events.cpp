@@ -5,6 +5,7 @@
 #include "core/field_handlers.h"
 #include "graph/graph_state.h"
 #include "output/text_report.h"
+#include "presentation/menu_marks.h"
 
 #include <algorithm>
 
@@ -106,6 +107,9 @@ void Click(Session& session, Control& control) {
         Set_Option(control);
     }
     Run_Routine(session, control);
+    if (session.Is_Loaded(Screen_Id{Screen_Kind::Engine})) { // it was no exit
+        Mark_Choices(session);
+    }
 }
 
 void Select(Session& session, Control& combo, std::string_view text) {

@@ -6,6 +6,7 @@
 #include "files/main_data_file.h"
 #include "platform/file_moves.h"
 #include "platform/file_store.h"
+#include "presentation/menu_marks.h"
 #include "presentation/mouse_pointer.h"
 #include "sheet/flow_calculation.h"
 
@@ -111,6 +112,7 @@ void Start_Up(Session& session) {
     session.display.dpi = session.surroundings.display.dpi;
     Handle_Switches(session);
     Restore_Last_Session(session);
+    Mark_Choices(session);
     session.Show(session.Main());
 }
 

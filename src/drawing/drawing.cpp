@@ -90,9 +90,9 @@ void Drawing::Text(double x, double y, std::string_view text, double size, int c
 }
 
 void Drawing::Stretch(double factor_x, double factor_y) {
-    factor_x_ *= factor_x;
-    factor_y_ *= factor_y;
     const double smaller = std::min(factor_x, factor_y);
+    stretched_by_.x *= factor_x;
+    stretched_by_.y *= factor_y;
     for (Draw_Operation& step : Own_Steps()) {
         step.x1 *= factor_x;
         step.x2 *= factor_x;

@@ -64,6 +64,12 @@ struct Draw_Operation {
     std::string text{}; // also the file of a picture
 };
 
+/// How much larger a surface is than it was designed.
+struct Stretch_Factors {
+    double x = 1;
+    double y = 1;
+};
+
 /// A display list. It is painted by replaying it, at any pixel density and on any device. A copy
 /// shares its steps with the original until one of the two draws.
 class Drawing {
@@ -102,10 +108,8 @@ public:
     /// by the smaller factor.
     void Stretch(double factor_x, double factor_y);
 
-    /// How much larger the surface is than it was designed.
-    [[nodiscard]] double Factor_X() const { return factor_x_; }
-
-    [[nodiscard]] double Factor_Y() const { return factor_y_; }
+    /// By how much the surface has been stretched since the beginning.
+    [[nodiscard]] const Stretch_Factors& Stretched_By() const { return stretched_by_; }
 
     /// Makes room for a number of operations to come.
     void Reserve(std::size_t more) { Own_Steps().reserve(Own_Steps().size() + more); }
@@ -118,8 +122,7 @@ private:
     std::shared_ptr<std::vector<Draw_Operation>> operations_;
     std::vector<Draw_Operation> journal_;
     bool keeps_journal_ = false;
-    double factor_x_ = 1;
-    double factor_y_ = 1;
+    Stretch_Factors stretched_by_;
 };
 
 /// Text on the canvas is measured by these fixed rules, so that a layout comes out the same on

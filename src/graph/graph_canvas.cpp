@@ -114,10 +114,9 @@ void Stretch_Graph_Canvas(Session& session) {
     Graph_State& graph = Graph_Of(session);
     graph.plot_right = static_cast<int>(std::nearbyint(display.canvas_x_size - 1));
     graph.plot_bottom = static_cast<int>(std::nearbyint(display.canvas_y_size - 1));
-    if (Graph_Canvas(session).Has_Scale()) { // an overlay goes by the axes of the graph that stands
-        graph.x_per_unit = (graph.x_high - graph.x_low) / display.canvas_x_size;
-        graph.y_per_unit = (graph.y_high - graph.y_low) / display.canvas_y_size;
-    }
+    // An overlay goes by the axes of the graph that stands.
+    graph.x_per_unit /= display.scale_x;
+    graph.y_per_unit /= display.scale_y;
     graph.canvas.Stretch(display.scale_x, display.scale_y);
     graph.pen_at.x *= display.scale_x;
     graph.pen_at.y *= display.scale_y;

@@ -1,4 +1,5 @@
 #include "desktop/desktop_dialogs.h"
+#include "desktop/desktop_shell.h"
 #include "desktop/file_filters.h"
 #include "desktop/start_options.h"
 #include "desktop/text_bridge.h"
@@ -8,6 +9,7 @@
 #include <QFileDialog>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -74,6 +76,50 @@ TEST(Dialogs, A_Box_Shows_The_Text_To_The_Letter_And_Cuts_What_No_Display_Holds)
     EXPECT_LT(shown.size(), 1000);
     EXPECT_TRUE(shown.startsWith(QStringLiteral("Invalid\nxxx")));
     EXPECT_TRUE(shown.endsWith(QChar(0x2026)));
+}
+
+TEST(Dialogs, A_Font_Comes_Back_As_It_Was_Shown_Or_Not_At_All) {
+    const Font shown{.name = "DejaVu Sans", .size = 12, .bold = true};
+    Desktop_Dialogs dialogs;
+    for (const bool takes : {true, false}) {
+        QTimer::singleShot(0, [takes] {
+            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            takes ? dialog->accept() : dialog->reject();
+        });
+        EXPECT_EQ(dialogs.Choose_Font(shown), takes ? std::optional(shown) : std::nullopt);
+    }
+}
+
+TEST(Sounds, Are_Played_By_A_Program_Of_Their_Own_And_Only_If_They_Are_Sounds) {
+    const QTemporaryDir folder;
+    const auto path = [&folder](const char* name) {
+        return folder.filePath(QString::fromLatin1(name));
+    };
+    const auto write = [&path](const char* name, const QByteArray& bytes) {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    };
+    write("a b.wav", QByteArray("RIFF\x04\0\0\0WAVE", 12));
+    write("text.wav", "no sound");
+    Desktop_Shell shell;
+    const auto plays = [&](const char* name) { return shell.Play(From_Qt(path(name))); };
+    const QByteArray usual_path = qgetenv("PATH");
+    qputenv("PATH", folder.path().toLocal8Bit());
+    EXPECT_FALSE(plays("a b.wav")) << "no player";
+    write("aplay", "#!/bin/sh\necho \"$1 $2\" > \"" + path("part").toLocal8Bit() +
+                       "\"; /bin/mv \"" + path("part").toLocal8Bit() + "\" \"" +
+                       path("played").toLocal8Bit() + "\"\nexec /bin/sleep 1\n");
+    QFile::setPermissions(path("aplay"), QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_FALSE(plays("text.wav"));
+    EXPECT_FALSE(plays("gone.wav"));
+    EXPECT_TRUE(plays("a b.wav"));
+    qputenv("PATH", usual_path);
+    QFile played(path("played"));
+    EXPECT_TRUE(QTest::qWaitFor([&played] { return played.exists(); }));
+    ASSERT_TRUE(played.open(QIODevice::ReadOnly));
+    EXPECT_EQ(played.readAll().trimmed(), "-q " + path("a b.wav").toLocal8Bit());
 }
 
 TEST(Arguments, What_Is_No_Option_Goes_To_The_Session) {

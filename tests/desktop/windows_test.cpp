@@ -61,17 +61,23 @@ TEST(Windows, A_Calculation_Paints_Only_The_Cells_That_Changed) {
     EXPECT_EQ(watch.painted, expected);
 }
 
-TEST(Windows, What_Has_No_Routine_Yet_Is_Disabled) {
+TEST(Windows, Every_Menu_Entry_Works_And_The_Choice_In_Force_Is_Marked) {
     Desktop_Bench bench;
-    EXPECT_FALSE(bench.Widget("Main.Command49").isEnabled());
-    EXPECT_TRUE(bench.Widget("Main.Command51").isEnabled());
     QWidget* const main = bench.Widget("Main.Command51").window();
-    const auto enabled = [main](const char* name) {
-        const auto* const action = main->findChild<QAction*>(QString::fromLatin1(name));
-        return action != nullptr && action->isEnabled();
+    const auto entry = [main](const char* name) -> QAction& {
+        return *main->findChild<QAction*>(QString::fromLatin1(name));
     };
-    EXPECT_TRUE(enabled("Main.About"));
-    EXPECT_FALSE(enabled("Main.Report_Problem"));
+    for (const QAction* const action : main->findChildren<QAction*>()) {
+        if (action->objectName().startsWith(QStringLiteral("Main."))) {
+            EXPECT_TRUE(action->isEnabled()) << action->objectName().toStdString();
+        }
+    }
+    EXPECT_TRUE(entry("Main.AligLeft").isChecked());
+    for (int time = 0; time < 2; ++time) {
+        entry("Main.AligCenter").trigger();
+        EXPECT_TRUE(entry("Main.AligCenter").isChecked()) << "also when it is chosen again";
+        EXPECT_FALSE(entry("Main.AligLeft").isChecked());
+    }
 }
 
 TEST(Windows, Choices_That_Are_Pure_State_Work) {

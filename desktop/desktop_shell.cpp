@@ -1,0 +1,73 @@
+#include "desktop/desktop_shell.h"
+
+#include "base/run_time_error.h"
+#include "desktop/text_bridge.h"
+#include "platform/open_file.h"
+
+#include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <array>
+
+namespace kestrum::desktop {
+
+namespace {
+
+struct Player {
+    const char* program;
+    const char* option; // empty for none
+};
+
+constexpr std::array<Player, 5> players{
+    {{"pw-play", ""}, {"paplay", ""}, {"aplay", "-q"}, {"play", "-q"}, {"afplay", ""}}};
+
+bool Is_Wave_File(const std::string& path) {
+    constexpr std::size_t kind_at = 8;
+    constexpr std::size_t head_size = 12;
+    try {
+        const std::string head = Open_To_Read(path).Piece(0, head_size);
+        return head.starts_with("RIFF") && head.substr(kind_at) == "WAVE";
+    } catch (const Run_Time_Error&) {
+        return false;
+    }
+}
+
+bool Start(const Player& player, const QString& path) {
+    const QString program = QStandardPaths::findExecutable(QString::fromLatin1(player.program));
+    if (program.isEmpty()) {
+        return false;
+    }
+    QProcess process;
+    process.setProgram(program);
+    QStringList arguments(path);
+    if (*player.option != '\0') {
+        arguments.prepend(QString::fromLatin1(player.option));
+    }
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached();
+}
+
+} // namespace
+
+bool Desktop_Shell::Open(const std::string& address) {
+    return QDesktopServices::openUrl(QUrl(To_Qt(address), QUrl::TolerantMode));
+}
+
+bool Desktop_Shell::Play(const std::string& path) {
+    if (!Is_Wave_File(path)) {
+        return false;
+    }
+    for (const Player& player : players) {
+        if (Start(player, To_Qt(path))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace kestrum::desktop
