@@ -197,7 +197,10 @@ QString Cell_Map::Lift_Beside(const Place& place) const {
     for (int distance = 1; distance < columns_; ++distance) {
         for (const int column : {place.column - distance, place.column + distance}) {
             if (Is_Lift_At(column, place.row)) {
-                return To_Qt(At(column, place.row)->Text()).trimmed();
+                // Behind the lifts of both tests a figure belongs to either, or to both.
+                const bool behind_both = column < place.column && Is_Lift_At(0, place.row) &&
+                                         At(0, place.row)->Text() != At(column, place.row)->Text();
+                return behind_both ? QString() : To_Qt(At(column, place.row)->Text()).trimmed();
             }
         }
     }

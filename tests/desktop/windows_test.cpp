@@ -194,8 +194,8 @@ TEST(Windows, Every_Field_Is_Called_What_The_Trade_Calls_It) {
         {"Main.Text33", "Name of test"},
         {"Form50.Text102(17)", "Test 1 - E7TE, Mean Port Vel In., lift 50"},
         {"Form50.Text105(17)", "Test 2 - E7TE, Mean Port Vel Ex., lift 60"},
-        {"Form50.Text107(17)", "Test 1 - E7TE, Intake, lift 50"},
-        {"Form50.Text110(17)", "Test 2 - E7TE, Ft-lbs, Exhaust, lift 60"},
+        {"Form50.Text107(17)", "Test 1 - E7TE, Intake, line 2"},
+        {"Form50.Text110(17)", "Test 2 - E7TE, Ft-lbs, Exhaust, line 2"},
     };
     Desktop_Bench bench;
     bench.Open_Sheet();
