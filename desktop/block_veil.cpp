@@ -52,10 +52,10 @@ void Block_Veil::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.translate(-pos());
     painter.setClipRegion(QRegion(whole) - clear);
-    painter.fillRect(whole, QColor::fromRgba(theme::block_veil));
+    painter.fillRect(whole, QColor::fromRgba(theme::Colours().block_veil));
     painter.setClipping(false);
-    painter.setPen(QPen(QColor::fromRgb(theme::accent), thickness, Qt::SolidLine, Qt::SquareCap,
-                        Qt::MiterJoin));
+    painter.setPen(QPen(QColor::fromRgb(theme::Colours().accent), thickness, Qt::SolidLine,
+                        Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(whole);
 }
 

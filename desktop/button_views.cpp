@@ -1,10 +1,15 @@
 #include "desktop/button_views.h"
 
+#include "desktop/crisp.h"
 #include "desktop/text_bridge.h"
+#include "desktop/text_views.h"
+#include "screens/screen.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace kestrum::desktop {
 
@@ -73,41 +78,48 @@ void Button_View::keyPressEvent(QKeyEvent* event) {
 
 QRgb Button_View::Back() const {
     if (!isEnabled()) {
-        return theme::window;
+        return theme::Colours().window;
     }
     if (is_primary_) {
-        return isDown() || !underMouse() ? theme::accent : theme::accent_hover;
+        return isDown() || !underMouse() ? theme::Colours().accent : theme::Colours().accent_hover;
     }
     if (isDown()) {
-        return theme::line;
+        return theme::Colours().line;
     }
-    return underMouse() ? theme::accent_soft : theme::card;
+    return underMouse() ? theme::Colours().accent_soft : theme::Colours().card;
+}
+
+QRgb Button_View::Ink() const {
+    const Colour_Scheme& colours = theme::Colours();
+    return !isEnabled() ? colours.faint_ink : is_primary_ ? colours.on_accent : colours.ink;
 }
 
 void Button_View::paintEvent(QPaintEvent* /*event*/) {
+    const Colour_Scheme& colours = theme::Colours();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    const Crisp crisp(painter);
     const bool has_focus = hasFocus();
-    painter.setPen(QColor::fromRgb(has_focus || (is_primary_ && isEnabled()) ? theme::accent
-                                   : isEnabled()                             ? theme::line
-                                                                             : theme::card_line));
-    painter.setBrush(QColor::fromRgb(Back()));
-    const QRectF outline = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.drawRoundedRect(outline, theme::radius, theme::radius);
+    const bool is_strong = has_focus || (is_primary_ && isEnabled());
+    crisp.Card(rect(), theme::radius,
+               is_strong     ? colours.accent
+               : isEnabled() ? colours.line
+                             : colours.card_line,
+               Back());
     if (has_focus) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QColor::fromRgb(is_primary_ ? theme::card : theme::accent));
-        painter.drawRoundedRect(outline.adjusted(2, 2, -2, -2), theme::radius - 2,
-                                theme::radius - 2);
+        crisp.Card(rect().adjusted(2, 2, -2, -2), theme::radius - 2,
+                   is_primary_ ? colours.on_accent : colours.accent, qRgba(0, 0, 0, 0));
     }
-    painter.setPen(QColor::fromRgb(!isEnabled()  ? theme::faint_ink
-                                   : is_primary_ ? theme::card
-                                                 : theme::ink));
+    Paint_Caption(painter);
+}
+
+void Button_View::Paint_Caption(QPainter& painter) const {
     QFont letters = font();
     letters.setBold(is_primary_);
     painter.setFont(letters);
-    painter.drawText(rect().adjusted(4, 1, -4, -1),
-                     Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, text());
+    painter.setPen(QColor::fromRgb(Ink()));
+    Paint_Wrapped(painter, rect().adjusted(4, 1, -4, -1),
+                  static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextShowMnemonic),
+                  text());
 }
 
 Check_View::Check_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
@@ -135,8 +147,17 @@ Option_View::Option_View(Control& its_control, const View_Facts& its_facts, QWid
     });
 }
 
+/// The Tab key comes to the option that is chosen, and the arrow keys choose another.
 void Option_View::Refresh() {
     Show_Value(*this, control);
+    const bool other_is_chosen =
+        control.Value() == 0 &&
+        std::ranges::any_of(control.Owner().Controls(), [this](const Control& other) {
+            return other.Entry().array == control.Entry().array && other.Value() != 0;
+        });
+    if (other_is_chosen) {
+        setFocusPolicy(Qt::ClickFocus);
+    }
 }
 
 QRect Option_View::Area_In(const QRect& cell) const {

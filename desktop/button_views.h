@@ -24,6 +24,8 @@ protected:
 
 private:
     [[nodiscard]] QRgb Back() const;
+    [[nodiscard]] QRgb Ink() const;
+    void Paint_Caption(QPainter& painter) const;
 
     bool is_primary_;
 };

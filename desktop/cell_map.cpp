@@ -59,6 +59,9 @@ Cell_Map::Cell_Map(const Screen& screen, std::string_view holder) {
             rows_ = std::max(rows_, Place_Of(control).row + 1);
         }
     }
+    if (!holder.empty() && screen.Kind() == Screen_Kind::Sheet) {
+        front_ = std::make_unique<const Cell_Map>(screen, "");
+    }
     cells_.resize(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_));
     for (const Control& control : screen.Controls()) {
         if (belongs(control) && control.Entry().use != Cell_Use::Blank) {
@@ -173,24 +176,48 @@ QString Cell_Map::Spoken_Name_Of(const Control& field) const {
     return words.isEmpty() ? To_Qt(field.Address()) : words;
 }
 
+bool Cell_Map::Is_Lift_At(int column, int row) const {
+    if (!Is_Figure(column, row)) {
+        return false;
+    }
+    const int first = First_Figure_Row(column, row);
+    return Is_Caption(column, first - 1) && Is_Caption(column, first - 2) &&
+           At(column, first - 1)->Text().starts_with("Lift") &&
+           At(column, first - 2)->Text().ends_with("Valve");
+}
+
+bool Cell_Map::Is_Lift(const Control& field) const {
+    return Is_Lift_At(Place_Of(field).column, Place_Of(field).row);
+}
+
 QString Cell_Map::Lift_Beside(const Place& place) const {
-    for (int column = 0; column < place.column; ++column) {
-        if (Is_Figure(column, place.row) &&
-            Captions_Above(column, First_Figure_Row(column, place.row))
-                .contains(QLatin1String("Lift"))) {
-            return To_Qt(At(column, place.row)->Text()).trimmed();
+    if (Is_Lift_At(place.column, place.row)) {
+        return {};
+    }
+    for (int distance = 1; distance < columns_; ++distance) {
+        for (const int column : {place.column - distance, place.column + distance}) {
+            if (Is_Lift_At(column, place.row)) {
+                // Behind the lifts of both tests a figure belongs to either, or to both.
+                const bool behind_both = column < place.column && Is_Lift_At(0, place.row) &&
+                                         At(0, place.row)->Text() != At(column, place.row)->Text();
+                return behind_both ? QString() : To_Qt(At(column, place.row)->Text()).trimmed();
+            }
         }
     }
-    return {};
+    return front_ == nullptr ? QString() : front_->Lift_Beside({.column = 1, .row = place.row});
 }
 
 QString Cell_Map::Words_With_Lift(const Control& field) const {
     const Place place = Place_Of(field);
+    QString words = Spoken_Name_Of(field);
+    if (!words.endsWith(Row_Words(place.row))) {
+        return words;
+    }
     const QString lift = Lift_Beside(place);
     const int line = place.row - First_Figure_Row(place.column, place.row) + 1;
-    return Spoken_Name_Of(field).replace(Row_Words(place.row),
-                                         lift.isEmpty() ? QLatin1String(", line ") + Digits_Of(line)
-                                                        : QLatin1String(", lift ") + lift);
+    return words.replace(Row_Words(place.row), lift.isEmpty()
+                                                   ? QLatin1String(", line ") + Digits_Of(line)
+                                                   : QLatin1String(", lift ") + lift);
 }
 
 bool Cell_Map::Heads_Column(const Control& caption) const {

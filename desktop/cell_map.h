@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -15,11 +16,11 @@ public:
     /// Takes the cells that one frame of a screen holds, or those on the bare form.
     Cell_Map(const Screen& screen, std::string_view holder);
 
-    /// Words of the trade for a field: "Throat dia Ex", "Observed Flow Intake, row 17".
-    [[nodiscard]] QString Spoken_Name_Of(const Control& field) const;
-    /// The same with the lift that stands in the row: "Observed Flow Intake, lift 100". A row
-    /// without one is counted from the top of its column.
+    /// Words of the trade for a field, with the lift that stands in its row: "Throat dia Ex",
+    /// "Observed Flow Intake, lift 100". A row without one is counted from the top of its column.
     [[nodiscard]] QString Words_With_Lift(const Control& field) const;
+    /// Whether a field holds the valve lift that its row is named by.
+    [[nodiscard]] bool Is_Lift(const Control& field) const;
     /// Whether a caption heads a column; if not, it stands before its figure.
     [[nodiscard]] bool Heads_Column(const Control& caption) const;
     /// Whether a field belongs to a table, under a heading.
@@ -48,9 +49,15 @@ private:
     /// Row of the topmost of the figures that stand above a cell without a gap, or its own.
     [[nodiscard]] int First_Figure_Row(int column, int row) const;
     [[nodiscard]] QString Words_Of_Cell(int column, int row, Side side) const;
-    /// The lift in the row of a field, empty where there is none or it is the field itself.
+    /// Words of the trade for a field: "Throat dia Ex", "Observed Flow Intake, row 17".
+    [[nodiscard]] QString Spoken_Name_Of(const Control& field) const;
+    /// Whether a figure is a valve lift.
+    [[nodiscard]] bool Is_Lift_At(int column, int row) const;
+    /// The nearest lift in the row of a field, empty where there is none or it is the field itself.
     [[nodiscard]] QString Lift_Beside(const Place& place) const;
 
+    /// Of the page before this one, whose rows have the same lifts.
+    std::unique_ptr<const Cell_Map> front_;
     int columns_ = 0;
     int rows_ = 0;
     std::vector<const Control*> cells_;

@@ -1,7 +1,9 @@
 #include "desktop/control_view.h"
 
 #include "application/events.h"
+#include "desktop/form_design.h"
 #include "desktop/text_bridge.h"
+#include "screens/screen.h"
 
 namespace kestrum::desktop {
 
@@ -52,10 +54,34 @@ Qt::Alignment Alignment_Of(const Control& control) {
 
 void Give_Name(QWidget& widget, const Control& control) {
     widget.setObjectName(To_Qt(control.Address()));
+    const Own_Words* const own = control.Is_Text_Box() ? nullptr : Own_Words_Of(control);
+    if (own != nullptr && own->place.column < 0) {
+        widget.setAccessibleName(To_Qt(own->words));
+    }
 }
 
-void Give_Description(QWidget& widget) {
-    widget.setAccessibleDescription(widget.objectName());
+bool Shows_Addresses() {
+    return qEnvironmentVariableIntValue("KESTRUM_ADDRESSES") == 1;
+}
+
+QString Description_Of(const Control& control) {
+    if (Shows_Addresses()) {
+        return To_Qt(control.Address());
+    }
+    const Control_Entry& entry = control.Entry();
+    if (!entry.tip.empty()) {
+        return Lines_To_Qt(entry.tip).simplified();
+    }
+    if (entry.kind == Control_Kind::Option_Button && !entry.parent.empty()) {
+        return To_Qt(control.Owner().Find(entry.parent, std::nullopt)->Text());
+    }
+    return {};
+}
+
+void Give_Description(QWidget& widget, const Control& control) {
+    if (const QString words = Description_Of(control); !words.isEmpty()) {
+        widget.setAccessibleDescription(words);
+    }
 }
 
 } // namespace kestrum::desktop

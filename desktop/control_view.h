@@ -16,8 +16,6 @@ struct View_Facts {
     View_Host& events;
     /// Stands at the head of a column, not before a figure.
     bool heads_column = false;
-    /// Words of the trade, taken from the captions around the field.
-    QString words{};
 };
 
 /// Shows one control of a screen.
@@ -42,8 +40,11 @@ public:
     /// Selects what the control's focus rule says.
     virtual void Show_Selection(const Selection& /*selection*/) {}
 
-    /// The captions around the field have changed.
-    virtual void Take_Words(const QString& words) { facts.words = words; }
+    /// The captions around the field, or the lift of its row, have changed.
+    virtual void Name_Anew() {}
+
+    /// The letters of the page have got another size.
+    virtual void Take_Letters() {}
 
     Control& control;
 
@@ -57,9 +58,14 @@ void Show_Common_State(QWidget& widget, const Control& control);
 [[nodiscard]] Qt::Alignment Alignment_Of(const Control& control);
 /// The control's address as object name.
 void Give_Name(QWidget& widget, const Control& control);
-/// And as description. Qt makes its object for assistive technology at that moment, so the widget
-/// must be complete.
-void Give_Description(QWidget& widget);
+/// What is told of a control besides its name: its help text, or the group that an option belongs
+/// to. With KESTRUM_ADDRESSES=1 in the environment it is the address, by which a tool finds it.
+[[nodiscard]] QString Description_Of(const Control& control);
+/// Gives a widget its description. Qt makes its object for assistive technology at that moment, so
+/// the widget must be complete.
+void Give_Description(QWidget& widget, const Control& control);
+/// Whether the environment asks for addresses.
+[[nodiscard]] bool Shows_Addresses();
 
 /// A widget of Qt as a view: hands focus, mouse and hovering on.
 template <typename Base>

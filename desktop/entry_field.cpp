@@ -1,5 +1,6 @@
 #include "desktop/entry_field.h"
 
+#include "desktop/crisp.h"
 #include "desktop/text_bridge.h"
 #include "desktop/text_views.h"
 #include "desktop/typed_keys.h"
@@ -23,6 +24,8 @@ namespace kestrum::desktop {
 
 namespace {
 
+constexpr int foot_height = 2;
+
 bool Is_Character(char32_t code) {
     constexpr char32_t first_printable = 32;
     constexpr char32_t deletes = 127;
@@ -40,8 +43,8 @@ QString Typed_Characters(const QKeyEvent& event) {
 Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent) {
     setFrame(false);
-    setTextMargins(theme::text_padding - 2, 0, 0, 0);
-    Entry_Field::Take_Words(facts.words);
+    setTextMargins(theme::text_padding - 2, 0, 0, foot_height);
+    Entry_Field::Name_Anew();
     Entry_Field::Refresh();
     connect(this, &QLineEdit::textChanged, this, &Entry_Field::Take_Typed);
 }
@@ -68,32 +71,54 @@ void Entry_Field::Show_Text() {
 
 void Entry_Field::Show_Look() {
     const Look& look = control.Present_Look();
-    // A field without a font of its own has its page's, which grows with the window.
-    const Font last_font = shown_once_ ? look_.font : Font();
-    if (look.font != last_font) {
-        setFont(theme::Font_Of(control, parentWidget()->font()));
-    }
     look_ = look;
     shown_once_ = true;
+    Show_Letters();
     setReadOnly(look_.locked || text() != To_Qt(control.Text()));
     setAlignment(Alignment_Of(control));
-    theme::Cell_Colours colours = theme::Colours_Of(control);
-    if (control.Entry().use == Cell_Use::Caption) {
-        colours.text = theme::Caption_Ink(look_.side); // a caption with a field's handlers
-    }
-    if (palette().color(QPalette::Base).rgb() != colours.back ||
-        palette().color(QPalette::Text).rgb() != colours.text) {
-        QPalette own = palette();
-        own.setColor(QPalette::Base, QColor::fromRgb(colours.back));
-        own.setColor(QPalette::Text, QColor::fromRgb(colours.text));
-        setPalette(own);
-    }
+    Show_Ink();
     Show_Common_State(*this, control);
     update();
 }
 
-QRect Entry_Field::Area_In(const QRect& cell) const {
-    return cell.adjusted(0, 0, -1, -1);
+/// A field without a font of its own has its page's, which grows with the window. A large one is
+/// held to the height of its cell.
+void Entry_Field::Show_Letters() {
+    if (theme::Chosen_Font(control) == Font()) {
+        if (own_letters_) {
+            own_letters_ = false;
+            setFont(QFont());
+        }
+        return;
+    }
+    own_letters_ = true;
+    QFont letters = theme::Font_Of(control, parentWidget()->font());
+    while (letters.pixelSize() > theme::smallest_pixels &&
+           QFontMetrics(letters).ascent() > height() - foot_height) {
+        letters.setPixelSize(letters.pixelSize() - 1);
+    }
+    if (letters != font()) {
+        setFont(letters);
+    }
+}
+
+void Entry_Field::resizeEvent(QResizeEvent* event) {
+    Widget_View::resizeEvent(event);
+    if (own_letters_) {
+        Show_Letters();
+    }
+}
+
+void Entry_Field::Show_Ink() {
+    theme::Cell_Colours colours = theme::Colours_Of(control);
+    if (control.Entry().use == Cell_Use::Caption) {
+        colours.text = theme::Caption_Ink(look_.side); // a caption with a field's handlers
+    }
+    if (palette().color(QPalette::Text).rgb() != colours.text) {
+        QPalette own = palette();
+        own.setColor(QPalette::Text, QColor::fromRgb(colours.text));
+        setPalette(own);
+    }
 }
 
 void Entry_Field::Show_Selection(const Selection& selection) {
@@ -105,9 +130,8 @@ void Entry_Field::Show_Selection(const Selection& selection) {
     }
 }
 
-void Entry_Field::Take_Words(const QString& words) {
-    Control_View::Take_Words(words);
-    setAccessibleName(words);
+void Entry_Field::Name_Anew() {
+    setAccessibleName(facts.events.Words_Of(control));
 }
 
 void Entry_Field::Take_Typed(const QString& text) {
@@ -165,6 +189,17 @@ bool Entry_Field::Moves_Away(const QKeyEvent& event) {
     }
 }
 
+/// The keypad of a keyboard has one key for the decimals, whatever its layout calls it.
+QString Entry_Field::Typed_By(const QKeyEvent& event) const {
+    const QString typed = Typed_Characters(event);
+    const bool is_decimal_key = event.modifiers().testFlag(Qt::KeypadModifier) &&
+                                (typed == QLatin1String(".") || typed == QLatin1String(","));
+    if (!is_decimal_key || control.Entry().filter == Key_Filter::Every_Key) {
+        return typed;
+    }
+    return facts.events.Decimal_Mark();
+}
+
 void Entry_Field::keyPressEvent(QKeyEvent* event) {
     if (Moves_Away(*event)) {
         event->accept();
@@ -180,9 +215,14 @@ void Entry_Field::keyPressEvent(QKeyEvent* event) {
         event->setAccepted(bare.isAccepted());
         return;
     }
-    const QString typed = Typed_Characters(*event);
+    const QString typed = Typed_By(*event);
     if (!typed.isEmpty() && (!All_Pass(typed) || isReadOnly())) {
         event->accept(); // and does nothing
+        return;
+    }
+    if (typed != event->text() && !typed.isEmpty()) {
+        QKeyEvent other(event->type(), event->key(), event->modifiers(), typed);
+        Widget_View::keyPressEvent(&other);
         return;
     }
     Widget_View::keyPressEvent(event);
@@ -266,27 +306,51 @@ void Entry_Field::focusInEvent(QFocusEvent* event) {
     update();
 }
 
-void Entry_Field::paintEvent(QPaintEvent* event) {
-    QLineEdit::paintEvent(event);
-    if (control.Entry().use == Cell_Use::Caption && !hasFocus()) {
-        return;
+void Entry_Field::changeEvent(QEvent* event) {
+    Widget_View::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && shown_once_) {
+        Show_Ink(); // the desktop has changed its colours
     }
+}
+
+void Entry_Field::paintEvent(QPaintEvent* event) {
+    const bool is_plain = control.Entry().use == Cell_Use::Caption && !hasFocus();
+    if (!is_plain) {
+        QPainter painter(this);
+        const Crisp crisp(painter);
+        crisp.Fill(Cell_Dots(crisp, rect()), theme::Colours_Of(control).back);
+    }
+    QLineEdit::paintEvent(event);
+    if (!is_plain) {
+        QPainter painter(this);
+        Paint_Frame(painter);
+    }
+}
+
+/// The focus is a frame of double width, not only another colour.
+void Entry_Field::Paint_Frame(QPainter& painter) const {
     const theme::Cell_Colours colours = theme::Colours_Of(control);
-    QPainter painter(this);
-    const bool has_focus = hasFocus();
-    painter.setPen(QColor::fromRgb(has_focus ? theme::accent : colours.line));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const Crisp crisp(painter);
+    const QRect cell = Cell_Dots(crisp, rect());
+    const int foot = crisp.Dots_In(foot_height);
+    const QRect foot_area(cell.left(), cell.bottom() - foot + 1, cell.width(), foot);
+    if (hasFocus()) {
+        crisp.Frame(cell, foot, theme::Colours().accent);
+    } else {
+        crisp.Frame(cell, crisp.Dots_In(1), colours.line);
+        if (colours.dashed) {
+            crisp.Fill(foot_area, colours.back);
+        }
+        crisp.Mark(foot_area, colours.foot, colours.dashed);
+    }
     if (flashes_) {
-        QColor veil = QColor::fromRgb(theme::failure);
-        painter.setPen(QPen(veil, 2));
+        QColor veil = QColor::fromRgb(theme::Colours().failure);
         veil.setAlphaF(0.2F);
         painter.fillRect(rect(), veil);
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+        crisp.Frame(cell, foot, theme::Colours().failure);
     }
-    const QRect foot(0, height() - 2, width(), 2);
-    painter.fillRect(foot, QColor::fromRgb(has_focus ? theme::accent : colours.foot));
     if (control.Entry().hover == Hover::Shows) {
-        Paint_Information_Mark(painter, rect());
+        Paint_Information_Mark(painter, rect().adjusted(0, 0, -1, 0));
     }
 }
 

@@ -12,9 +12,10 @@ public:
     Entry_Field(Control& its_control, const View_Facts& its_facts, QWidget* parent);
 
     void Refresh() override;
-    [[nodiscard]] QRect Area_In(const QRect& cell) const override;
     void Show_Selection(const Selection& selection) override;
-    void Take_Words(const QString& words) override;
+    void Name_Anew() override;
+
+    void Take_Letters() override { Show_Letters(); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -23,11 +24,17 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void Show_Text();
+    [[nodiscard]] QString Typed_By(const QKeyEvent& event) const;
     void Show_Look();
+    void Show_Ink();
+    void Show_Letters();
+    void Paint_Frame(QPainter& painter) const;
     [[nodiscard]] bool Moves_Away(const QKeyEvent& event);
     /// Whether the filter lets all pass; flashes where it does not.
     [[nodiscard]] bool All_Pass(const QString& typed);
@@ -41,6 +48,7 @@ private:
 
     Look look_;
     bool shown_once_ = false;
+    bool own_letters_ = false;
     bool flashes_ = false;
 };
 

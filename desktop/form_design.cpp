@@ -23,7 +23,7 @@ constexpr std::array page_2_cards{
 constexpr std::array compare_cards{
     Place{0, 10, 3, 21}, // the From test
     Place{3, 10, 3, 21}, // the To test
-    Place{6, 10, 4, 21}, Place{10, 7, 4, 4}, Place{10, 12, 4, 4},
+    Place{6, 10, 4, 21}, Place{10, 7, 4, 4}, Place{10, 12, 4, 4}, Place{10, 17, 4, 2},
 };
 constexpr std::array graph_cards{
     Place{10, 0, 4, 5},
@@ -35,9 +35,15 @@ constexpr Form_Design main_design{.column_width = 104,
                                   .opening_scale = 1, // painting it is what a start waits for
                                   .cards = main_cards,
                                   .information_sample = Place{6, 22, 1, 1}};
-constexpr Form_Design sheet_design{.column_width = 66, .row_height = 20, .cards = sheet_cards};
-constexpr Form_Design page_2_design{.column_width = 90, .row_height = 20, .cards = page_2_cards};
-constexpr Form_Design compare_design{.column_width = 88, .row_height = 20, .cards = compare_cards};
+constexpr Form_Design sheet_design{
+    .column_width = 66, .row_height = 20, .gap_before_row = 12, .cards = sheet_cards};
+constexpr Form_Design page_2_design{
+    .column_width = 90, .row_height = 20, .gap_before_row = 13, .cards = page_2_cards};
+constexpr Form_Design compare_design{.column_width = 88,
+                                     .row_height = 20,
+
+                                     .rows_of_options = 11,
+                                     .cards = compare_cards};
 constexpr Form_Design graph_design{.column_width = 66, .row_height = 22, .cards = graph_cards};
 constexpr Form_Design report_design{.column_width = 88, .row_height = 28};
 constexpr Form_Design panel_design{.column_width = 60, .row_height = 26};
@@ -45,6 +51,9 @@ constexpr Form_Design panel_design{.column_width = 60, .row_height = 26};
 constexpr auto own_words = std::to_array<Own_Words>({
     {Screen_Kind::Engine, "", "Text33", no_index, "Name of test", {}},
     {Screen_Kind::Engine, "", "Text38", no_index, "Comments", {}},
+    {Screen_Kind::Engine, "", "Check1", no_index, "User Mach #", {}},
+    {Screen_Kind::Engine, "", "Check3", no_index, "User Peak HP RPM", {}},
+    {Screen_Kind::Engine, "", "Combo1", no_index, "Printer", {}},
     {Screen_Kind::Engine, "", "Option4", 0, "Company on prints", {6, 17, 2, 1}},
     {Screen_Kind::Engine, "Frame4", "Text1", 0, "Flow Test #1", {0, 0, 1, 1}},
     {Screen_Kind::Engine, "Frame4", "Text1", 1, "Flow Test #2", {0, 1, 1, 1}},
@@ -62,6 +71,9 @@ constexpr auto own_words = std::to_array<Own_Words>({
     {Screen_Kind::Compare, "", "Text4", no_index, "Valve Lift 2", {}},
     {Screen_Kind::Compare, "", "Text71", no_index, "Graph Caption Line 1", {}},
     {Screen_Kind::Compare, "", "Text72", no_index, "Graph Caption Line 2", {}},
+    {Screen_Kind::Graph, "", "Combo1", no_index, "Draw Line Width", {}},
+    {Screen_Kind::Graph, "", "Picture1", no_index, "Graph", {}},
+    {Screen_Kind::Sheet, "", "Text39", no_index, "File", {}},
     {Screen_Kind::Sheet, "Frame1", "Text38", no_index, "Comments", {}},
     {Screen_Kind::Report, "", "Text38", no_index, "Text Report", {}},
 });

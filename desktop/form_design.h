@@ -16,6 +16,10 @@ struct Form_Design {
     int row_height = 20;
     /// How much larger the window opens where the display has the room.
     double opening_scale = 1.2;
+    /// Before this row there is a gap, so that the line between two cards touches no cell.
+    int gap_before_row = 0;
+    /// That many rows at the top hold frames with options, which need more height than cells.
+    int rows_of_options = 0;
     /// Parts of the grid that belong together and lie on a card.
     std::span<const Place> cards{};
     /// Stands beside the legend of the fields with a help text.
@@ -24,7 +28,7 @@ struct Form_Design {
 
 [[nodiscard]] const Form_Design& Design_Of(const Screen& screen, std::string_view holder);
 
-/// Words for a field that has no caption cell beside it.
+/// Words for a control that has no caption cell beside it, or whose own caption tells too little.
 struct Own_Words {
     Screen_Kind screen;
     std::string_view holder;

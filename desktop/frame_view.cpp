@@ -1,5 +1,6 @@
 #include "desktop/frame_view.h"
 
+#include "desktop/crisp.h"
 #include "desktop/text_bridge.h"
 #include "desktop/text_views.h"
 
@@ -10,7 +11,7 @@ namespace kestrum::desktop {
 
 namespace {
 
-constexpr int caption_gap = 6;
+constexpr int caption_gap = 4;
 
 } // namespace
 
@@ -95,11 +96,9 @@ void Frame_View::changeEvent(QEvent* event) {
 
 void Frame_View::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor::fromRgb(floats_ ? theme::accent : theme::card_line));
-    painter.setBrush(QColor::fromRgb(theme::card));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::radius,
-                            theme::radius);
+    Crisp(painter).Card(rect(), theme::radius,
+                        floats_ ? theme::Colours().accent : theme::Colours().card_line,
+                        theme::Colours().card);
     painter.setFont(Caption_Font());
     painter.setPen(QColor::fromRgb(theme::Caption_Ink(Side::Both)));
     const int padding = floats_ ? 3 * theme::card_padding : theme::card_padding;

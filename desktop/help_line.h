@@ -4,8 +4,8 @@
 
 namespace kestrum::desktop {
 
-/// The line at the foot of every window that explains what the mouse is over. It keeps its height,
-/// so that nothing jumps when a text comes or goes.
+/// The line at the foot of every window that explains what the mouse is over. It takes one line
+/// and lies over the page while a text needs more, so that nothing jumps.
 class Help_Line : public QWidget {
 public:
     explicit Help_Line(QWidget* parent);
@@ -16,15 +16,19 @@ public:
 
     void Forget() { Tell(QString()); }
 
-    [[nodiscard]] QSize sizeHint() const override;
+    /// What the window keeps free for it.
+    [[nodiscard]] int Least_Height() const;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     [[nodiscard]] const QString& Present() const { return refusal_.isEmpty() ? words_ : refusal_; }
 
     void Show_Present();
+    void Take_Place();
 
     QString words_;
     QString refusal_;

@@ -21,7 +21,7 @@ Notes_Field::Notes_Field(Control& its_control, const View_Facts& its_facts, QWid
     : Widget_View(its_control, its_facts, parent) {
     setTabChangesFocus(true);
     document()->setDocumentMargin(theme::text_padding);
-    Notes_Field::Take_Words(facts.words);
+    Notes_Field::Name_Anew();
     Notes_Field::Refresh();
     connect(this, &QPlainTextEdit::textChanged, this, &Notes_Field::Take_Typed);
 }
@@ -51,9 +51,8 @@ void Notes_Field::Show_Selection(const Selection& selection) {
     }
 }
 
-void Notes_Field::Take_Words(const QString& words) {
-    Control_View::Take_Words(words);
-    setAccessibleName(words);
+void Notes_Field::Name_Anew() {
+    setAccessibleName(facts.events.Words_Of(control));
 }
 
 QRect Notes_Field::Area_In(const QRect& cell) const {

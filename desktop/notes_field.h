@@ -13,7 +13,7 @@ public:
 
     void Refresh() override;
     void Show_Selection(const Selection& selection) override;
-    void Take_Words(const QString& words) override;
+    void Name_Anew() override;
     [[nodiscard]] QRect Area_In(const QRect& cell) const override;
 
 protected:

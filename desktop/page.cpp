@@ -1,5 +1,6 @@
 #include "desktop/page.h"
 
+#include "desktop/crisp.h"
 #include "desktop/frame_view.h"
 #include "desktop/make_view.h"
 #include "desktop/text_bridge.h"
@@ -11,6 +12,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <tuple>
 
@@ -68,7 +70,6 @@ Page::Page(const Page_Context& context, std::string_view holder, QWidget* parent
 View_Facts Page::Facts_Of(const Control& control) const {
     View_Facts facts{.events = context_.events};
     if (control.Is_Text_Box()) {
-        facts.words = map_.Spoken_Name_Of(control);
         facts.heads_column = control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
     }
     return facts;
@@ -80,7 +81,7 @@ void Page::Add_View(Control& control) {
             return; // the window has it beside this page
         }
         auto* const frame = new Frame_View(context_, control, Facts_Of(control), this);
-        Give_Description(*frame);
+        Give_Description(*frame, control);
         context_.made(*frame);
         items_.push_back({frame, Place_Of(control)});
         return;
@@ -89,10 +90,13 @@ void Page::Add_View(Control& control) {
     Control_View& view =
         Make_View(control, Facts_Of(control), this, map_.Has_Cell(place.column, place.row));
     if (dynamic_cast<const Text_View*>(&view) == nullptr) {
-        Give_Description(*view.Widget()); // light cells tell it when they are asked
+        Give_Description(*view.Widget(), control); // light cells tell it when they are asked
     }
     context_.made(view);
     items_.push_back({&view, place});
+    if (control.Is_Text_Box()) {
+        static_cast<void>(Takes_Font(control));
+    }
     if (isVisible()) {
         Place_Item(items_.back());
         view.Widget()->show();
@@ -102,34 +106,82 @@ void Page::Add_View(Control& control) {
 void Page::Name_Fields_Anew() {
     for (const Item& item : items_) {
         if (item.view->control.Is_Text_Box()) {
-            item.view->Take_Words(map_.Spoken_Name_Of(item.view->control));
+            item.view->Name_Anew();
         }
     }
 }
 
-/// A column is as wide as its widest caption. Captions that stand alone in their place count only.
+void Page::Name_Rows_Anew(const std::set<int>& rows) {
+    for (const Item& item : items_) {
+        if (rows.contains(item.place.row)) {
+            item.view->Name_Anew();
+        }
+    }
+}
+
+bool Page::Takes_Font(const Control& field) {
+    const Font chosen = theme::Chosen_Font(field);
+    const auto known = fonts_.find(&field);
+    if (chosen == (known == fonts_.end() ? Font() : known->second)) {
+        return false;
+    }
+    fonts_[&field] = chosen;
+    return true;
+}
+
+void Page::Measure_Anew() {
+    Measure_Columns();
+    Weigh_Rows();
+    updateGeometry();
+    Set_Letters();
+    Lay_Out();
+}
+
+/// A control's letters at the theme's own size.
+QFont Page::Letters_Of(const Control& control) const {
+    return fonts_.contains(&control) ? theme::Font_Of(control, theme::Text_Font())
+                                     : theme::Text_Font();
+}
+
+/// A column is as wide as its widest caption. Captions that stand alone in their place count only,
+/// and figures in letters of their own.
 void Page::Measure_Columns() {
     widths_.assign(static_cast<std::size_t>(columns_), design_.column_width);
     // Bold letters are that much wider. To measure them would load a font that only the display at
     // its present scale needs, which takes longer than to paint the page.
     constexpr double of_bold = 1.15;
-    const QFontMetrics metrics(theme::Text_Font());
+    const QFontMetrics usual(theme::Text_Font());
     for (const Item& item : items_) {
         const Control& control = item.view->control;
-        if (control.Entry().use == Cell_Use::Caption && item.place.columns == 1) {
+        const bool own_letters = fonts_.contains(&control);
+        if (item.place.columns == 1 && (control.Entry().use == Cell_Use::Caption || own_letters)) {
             const double letters = map_.Heads_Column(control) ? of_bold : 1;
-            const int words =
-                static_cast<int>(letters * metrics.horizontalAdvance(To_Qt(control.Text())));
+            const QString text = To_Qt(control.Text());
+            const int words = own_letters
+                                  ? QFontMetrics(Letters_Of(control)).horizontalAdvance(text)
+                                  : usual.horizontalAdvance(text);
             int& width = widths_[static_cast<std::size_t>(item.place.column)];
-            width = std::max(width, words + 2 * theme::text_padding + 1);
+            width =
+                std::max(width, static_cast<int>(letters * words) + 2 * theme::text_padding + 1);
         }
     }
 }
 
-/// Lines of a heading belong together, and a row that nothing stands in is only a gap.
-void Page::Weigh_Rows() {
+/// Rows against the usual height. Lines of a heading belong together, and a row that nothing stands
+/// in is only a gap. A row is as high as its largest letters need.
+double Page::Weight_Of(const Control& control) const {
     constexpr double line_height = 16;
-    const double of_heading = line_height / design_.row_height;
+    const bool is_heading = control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
+    const double usual = is_heading ? line_height / design_.row_height : 1.0;
+    if (!fonts_.contains(&control)) {
+        return usual;
+    }
+    const double letters = QFontMetrics(Letters_Of(control)).height();
+    const double of_usual = QFontMetrics(theme::Text_Font()).height();
+    return std::max(usual, usual * letters / of_usual);
+}
+
+void Page::Weigh_Rows() {
     constexpr double of_gap = 0.4;
     std::vector<double> weights(static_cast<std::size_t>(rows_), of_gap);
     for (const Item& item : items_) {
@@ -137,15 +189,35 @@ void Page::Weigh_Rows() {
         if (control.Entry().kind == Control_Kind::Frame && control.Entry().starts_hidden) {
             continue; // floats above the rows
         }
-        const bool is_heading =
-            control.Entry().use == Cell_Use::Caption && map_.Heads_Column(control);
+        const double needed = Weight_Of(control);
         for (int row = item.place.row; row < item.place.row + item.place.rows; ++row) {
             double& weight = weights[static_cast<std::size_t>(row)];
-            weight = std::max(weight, is_heading ? of_heading : 1.0);
+            weight = std::max(weight, needed);
         }
     }
-    row_feet_.resize(weights.size());
-    std::partial_sum(weights.begin(), weights.end(), row_feet_.begin());
+    constexpr double of_options = 1.25;
+    for (int row = 0; row < std::min(rows_, design_.rows_of_options); ++row) {
+        weights[static_cast<std::size_t>(row)] = of_options;
+    }
+    Sum_Rows_Up(weights);
+}
+
+void Page::Sum_Rows_Up(const std::vector<double>& weights) {
+    constexpr double gap = 0.5;
+    row_tops_.clear();
+    row_feet_.clear();
+    double foot = 0;
+    for (int row = 0; row < rows_; ++row) {
+        row_tops_.push_back(row > 0 && row == design_.gap_before_row ? foot + gap : foot);
+        foot = row_tops_.back() + weights[static_cast<std::size_t>(row)];
+        row_feet_.push_back(foot);
+    }
+}
+
+Control_View* Page::View_Of(const Control& control) const {
+    const auto found = std::ranges::find_if(
+        items_, [&control](const Item& item) { return &item.view->control == &control; });
+    return found == items_.end() ? nullptr : found->view;
 }
 
 QSize Page::sizeHint() const {
@@ -154,10 +226,12 @@ QSize Page::sizeHint() const {
     return {width + margins, static_cast<int>(row_feet_.back() * design_.row_height) + margins};
 }
 
+/// Smaller, even the smallest letters would be cut.
 QSize Page::minimumSizeHint() const {
-    constexpr double least = 0.8;
-    return {static_cast<int>(sizeHint().width() * least),
-            static_cast<int>(sizeHint().height() * least)};
+    constexpr double least_across = 0.7;
+    constexpr double least_down = 0.62;
+    return {static_cast<int>(sizeHint().width() * least_across),
+            static_cast<int>(sizeHint().height() * least_down)};
 }
 
 void Page::resizeEvent(QResizeEvent* /*event*/) {
@@ -165,34 +239,46 @@ void Page::resizeEvent(QResizeEvent* /*event*/) {
     Lay_Out();
 }
 
-/// Letters grow with the window; those of a panel are those of the form that it lies on.
+double Page::Scale_Across() const {
+    const int margins = is_panel_ ? 0 : 2 * theme::page_margin;
+    return static_cast<double>(width() - margins) / (sizeHint().width() - margins);
+}
+
+double Page::Scale_Down() const {
+    const int margins = is_panel_ ? 0 : 2 * theme::page_margin;
+    return static_cast<double>(height() - margins) / (sizeHint().height() - margins);
+}
+
+/// Letters grow with the window, all of a page alike; those of a panel are those of the form that
+/// it lies on.
 void Page::Set_Letters() {
     if (is_panel_) {
         return;
     }
-    constexpr double most = 1.6;
-    const QSize usual = sizeHint();
-    const double scale = std::min({most, static_cast<double>(width()) / usual.width(),
-                                   static_cast<double>(height()) / usual.height()});
-    const QFont letters = theme::Text_Font(scale);
+    // On a display that its screen was stretched to, letters grow as the cells do.
+    const Screen_Scale& stretched = context_.screen.scale;
+    const double most = 1.6 * std::max(stretched.x, stretched.y);
+    // Whole dots of a letter, but never more than the columns have room for.
+    const double pixels =
+        std::floor(theme::text_pixels * std::min({most, Scale_Across(), Scale_Down()}) + 0.01);
+    const QFont letters = theme::Text_Font(pixels / theme::text_pixels);
     if (letters.pixelSize() != font().pixelSize()) {
         setFont(letters);
+    }
+    for (const auto& [field, chosen] : fonts_) {
+        if (Control_View* const view = View_Of(*field)) {
+            view->Take_Letters();
+        }
     }
 }
 
 void Page::Lay_Out() {
     const int margin = is_panel_ ? 0 : theme::page_margin;
-    const int needed = std::accumulate(widths_.begin(), widths_.end(), 0);
-    const int given = width() - 2 * margin;
     edges_.assign(1, margin);
     int sum = 0;
-    for (std::size_t column = 0; column < widths_.size(); ++column) {
-        sum += widths_[column];
-        const int count = static_cast<int>(column) + 1;
-        // What is over goes to all columns alike; what is missing, each gives by its width.
-        const int edge = given >= needed ? sum + (given - needed) * count / columns_
-                                         : sum * given / std::max(needed, 1);
-        edges_.push_back(margin + edge);
+    for (const int width : widths_) {
+        sum += width;
+        edges_.push_back(margin + static_cast<int>(sum * Scale_Across()));
     }
     for (const Item& item : items_) {
         Place_Item(item);
@@ -206,29 +292,27 @@ void Page::Place_Item(const Item& item) const {
 QRect Page::Area_Of(const Place& place) const {
     const int margin = is_panel_ ? 0 : theme::page_margin;
     const int height_given = height() - 2 * margin;
-    const auto edge_of_row = [&](int row) {
-        const double above = row == 0 ? 0 : row_feet_[static_cast<std::size_t>(row - 1)];
+    const auto edge_of_row = [&](const std::vector<double>& edges, int row) {
+        const double above = edges[static_cast<std::size_t>(std::clamp(row, 0, rows_ - 1))];
         return margin + static_cast<int>(above * height_given / row_feet_.back());
     };
     const auto edge_of_column = [&](int column) {
         return edges_[static_cast<std::size_t>(std::clamp(column, 0, columns_))];
     };
-    const QPoint corner(edge_of_column(place.column), edge_of_row(place.row));
+    const QPoint corner(edge_of_column(place.column), edge_of_row(row_tops_, place.row));
     return {corner, QPoint(edge_of_column(place.column + place.columns) - 1,
-                           edge_of_row(place.row + place.rows) - 1)};
+                           edge_of_row(row_feet_, place.row + place.rows - 1) - 1)};
 }
 
 void Page::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor::fromRgb(theme::card_line));
-    painter.setBrush(QColor::fromRgb(theme::card));
+    const Crisp crisp(painter);
     for (const Place& place : design_.cards) {
         const bool at_left = place.column == 0;
         const bool at_right = place.column + place.columns == columns_;
-        const QRectF card = QRectF(Area_Of(place))
-                                .adjusted(at_left ? -3.5 : -0.5, -2.5, at_right ? 1.5 : -0.5, 1.5);
-        painter.drawRoundedRect(card, theme::radius, theme::radius);
+        const QRectF card =
+            QRectF(Area_Of(place)).adjusted(at_left ? -4 : -1, -3, at_right ? 3 : 0, 3);
+        crisp.Card(card, theme::radius, theme::Colours().card_line, theme::Colours().card);
     }
     Paint_Captions(painter);
     if (holder_.empty() && design_.information_sample) {

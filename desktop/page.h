@@ -8,6 +8,8 @@
 #include <QWidget>
 
 #include <functional>
+#include <map>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -36,8 +38,22 @@ public:
 
     /// Makes the view of a control that had none, as of a blank cell that gets a text.
     void Add_View(Control& control);
+
+    /// Words of the trade for a field of the page.
+    [[nodiscard]] QString Words_Of(const Control& field) const {
+        return map_.Words_With_Lift(field);
+    }
+
+    [[nodiscard]] bool Is_Lift(const Control& field) const { return map_.Is_Lift(field); }
+
     /// The captions of the page have changed.
     void Name_Fields_Anew();
+    /// So have the lifts of some rows.
+    void Name_Rows_Anew(const std::set<int>& rows);
+    /// Notes the font of a field; true when it is another one than before.
+    bool Takes_Font(const Control& field);
+    /// Fonts of fields have changed: columns and rows get the sizes that they need now.
+    void Measure_Anew();
 
     /// Where a place of the grid lies now.
     [[nodiscard]] QRect Area_Of(const Place& place) const;
@@ -61,8 +77,15 @@ private:
     };
 
     [[nodiscard]] View_Facts Facts_Of(const Control& control) const;
+    /// Size against the usual one: of the columns, and of the rows.
+    [[nodiscard]] double Scale_Across() const;
+    [[nodiscard]] double Scale_Down() const;
+    [[nodiscard]] QFont Letters_Of(const Control& control) const;
     void Measure_Columns();
+    [[nodiscard]] double Weight_Of(const Control& control) const;
     void Weigh_Rows();
+    void Sum_Rows_Up(const std::vector<double>& weights);
+    [[nodiscard]] Control_View* View_Of(const Control& control) const;
     void Lay_Out();
     void Place_Item(const Item& item) const;
     void Set_Letters();
@@ -72,6 +95,8 @@ private:
     std::string_view holder_;
     const Form_Design& design_;
     Cell_Map map_;
+    /// Fonts of the fields that have one of their own.
+    std::map<const Control*, Font> fonts_;
     bool is_panel_;
     int columns_ = 1;
     int rows_ = 1;
@@ -79,7 +104,8 @@ private:
     /// Least widths of the columns at the theme's own letter size, and their left edges now.
     std::vector<int> widths_;
     std::vector<int> edges_;
-    /// Heights of the rows against each other, summed up: the foot of each row.
+    /// Heights of the rows against each other, summed up: the top and the foot of each row.
+    std::vector<double> row_tops_;
     std::vector<double> row_feet_;
 };
 

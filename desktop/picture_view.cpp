@@ -66,7 +66,7 @@ void Picture_View::paintEvent(QPaintEvent* /*event*/) {
         throw;
     }
     QPainter painter(this);
-    painter.setPen(QColor::fromRgb(theme::card_line));
+    painter.setPen(QColor::fromRgb(theme::Colours().card_line));
     painter.drawRect(paper.toAlignedRect().adjusted(0, 0, -1, -1));
 }
 

@@ -1,7 +1,5 @@
 #include "desktop/program_icon.h"
 
-#include "desktop/theme.h"
-
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -9,6 +7,10 @@
 namespace kestrum::desktop {
 
 namespace {
+
+constexpr QRgb accent = 0xFF17696A;
+constexpr QRgb soft = 0xFFD7EAEA;
+constexpr QRgb paper = 0xFFFFFFFF;
 
 constexpr double units = 64; // side of the drawing
 
@@ -41,13 +43,13 @@ QPixmap Drawn(int size) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size / units, size / units);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgb(theme::accent));
+    painter.setBrush(QColor::fromRgb(accent));
     constexpr double corner = 13;
     painter.drawRoundedRect(QRectF(1, 1, units - 2, units - 2), corner, corner);
-    painter.setBrush(QColor::fromRgb(theme::card));
+    painter.setBrush(QColor::fromRgb(paper));
     painter.drawPath(Valve());
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor::fromRgb(theme::accent_soft), 3.5, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(QColor::fromRgb(soft), 3.5, Qt::SolidLine, Qt::RoundCap));
     painter.drawPath(Flow());
     painter.translate(units, 0);
     painter.scale(-1, 1);

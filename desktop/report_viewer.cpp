@@ -48,15 +48,13 @@ Report_Viewer::Report_Viewer(Control& its_control, const View_Facts& its_facts, 
     hint_->setText(QStringLiteral(
         "Any key that types closes the report; with \".\" it is saved to a file first.  Arrow and "
         "page keys scroll.  Ctrl+A selects all, Ctrl+C copies."));
-    QPalette colours = hint_->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(theme::quiet_ink));
-    colours.setColor(QPalette::Window, QColor::fromRgb(theme::accent_soft));
-    hint_->setPalette(colours);
+    hint_->setForegroundRole(QPalette::ToolTipText);
+    hint_->setBackgroundRole(QPalette::ToolTipBase);
     hint_->setAutoFillBackground(true); // nobody else paints the margin of the text
     hint_->setFont(theme::Text_Font());
     hint_->setMargin(theme::text_padding);
     setViewportMargins(0, hint_->sizeHint().height(), 0, 0);
-    Report_Viewer::Take_Words(facts.words);
+    Report_Viewer::Name_Anew();
     Report_Viewer::Refresh();
 }
 
@@ -95,9 +93,8 @@ void Report_Viewer::Give_Focus_Back() {
     }
 }
 
-void Report_Viewer::Take_Words(const QString& words) {
-    Control_View::Take_Words(words);
-    setAccessibleName(words);
+void Report_Viewer::Name_Anew() {
+    setAccessibleName(facts.events.Words_Of(control));
 }
 
 QRect Report_Viewer::Area_In(const QRect& /*cell*/) const {

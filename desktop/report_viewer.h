@@ -15,7 +15,7 @@ public:
     Report_Viewer(Control& its_control, const View_Facts& its_facts, QWidget* parent);
 
     void Refresh() override;
-    void Take_Words(const QString& words) override;
+    void Name_Anew() override;
     [[nodiscard]] QRect Area_In(const QRect& cell) const override;
 
 protected:

@@ -2,6 +2,7 @@
 
 #include "application/events.h"
 #include "core/field_handlers.h"
+#include "desktop/body.h"
 #include "desktop/frame_view.h"
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
@@ -17,36 +18,11 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <set>
 
 namespace kestrum::desktop {
 
 namespace {
-
-/// Keeps pages as large as itself.
-class Body : public QWidget {
-public:
-    using QWidget::QWidget;
-
-    [[nodiscard]] QSize sizeHint() const override {
-        QSize size;
-        for (const QObject* const child : children()) {
-            size = size.expandedTo(static_cast<const QWidget*>(child)->sizeHint());
-        }
-        return size;
-    }
-
-    [[nodiscard]] QSize minimumSizeHint() const override {
-        const auto* const page = static_cast<const QWidget*>(children().value(0));
-        return page == nullptr ? QSize() : page->minimumSizeHint();
-    }
-
-protected:
-    void resizeEvent(QResizeEvent* /*event*/) override {
-        for (QObject* const child : children()) {
-            static_cast<QWidget*>(child)->setGeometry(rect());
-        }
-    }
-};
 
 /// About what a window manager puts around a window.
 constexpr QSize window_frame(8, 32);
@@ -65,8 +41,8 @@ public:
             page_ = new Page(window_.Context(), control.Entry().array, window_.body_,
                              window_.front_->Rows());
             Give_Name(*page_, control);
-            Give_Description(*page_);
-            page_->setGeometry(window_.body_->rect());
+            Give_Description(*page_, control);
+            window_.body_->Place_Pages();
         }
         QWidget* const holder = window_.focusWidget();
         const QWidget* const goes = shows ? window_.front_ : page_;
@@ -91,7 +67,9 @@ private:
 Screen_Window::Screen_Window(Session& session, Gate& gate, Screen& screen)
     : session_(session), gate_(gate), screen_(&screen), keeper_(session) {
     setObjectName(To_Qt(screen.Name()));
-    setAccessibleDescription(objectName());
+    if (Shows_Addresses()) {
+        setAccessibleDescription(objectName());
+    }
     views_.resize(screen.Controls().size());
     static_cast<void>(screen.Take_Changes()); // the views are made from the present state
     Make_Content();
@@ -101,9 +79,9 @@ Screen_Window::Screen_Window(Session& session, Gate& gate, Screen& screen)
 
 void Screen_Window::Make_Content() {
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
     layout->setSpacing(0);
     help_ = new Help_Line(this);
+    layout->setContentsMargins(0, 0, 0, help_->Least_Height());
     block_ = std::make_unique<Block_Selection>(session_, gate_, keeper_, *help_);
     auto* const bar = new QMenuBar(this);
     Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
@@ -119,7 +97,6 @@ void Screen_Window::Make_Content() {
     body_ = new Body(this);
     front_ = new Page(Context(), "", body_);
     layout->addWidget(body_, 1);
-    layout->addWidget(help_);
     if (Control* const label = screen_->Find("Label7", std::nullopt)) {
         own_views_.push_back(
             std::make_unique<Help_Label_View>(*label, View_Facts{.events = *this}, *help_));
@@ -199,9 +176,44 @@ void Screen_Window::Show_Arrow(Control_View& view) {
 
 // Opening and closing
 
+QSize Screen_Window::Room() const {
+    return screen()->availableSize() - window_frame;
+}
+
 QSize Screen_Window::Usual_Size() const {
-    const QSize room = screen()->availableSize() - window_frame;
-    return (sizeHint() * Design_Of(*screen_, "").opening_scale).boundedTo(room);
+    return (sizeHint() * Design_Of(*screen_, "").opening_scale).boundedTo(Room());
+}
+
+/// A screen that was stretched to its display takes the size and the place that this gave it, as
+/// far as the free part of the display goes.
+void Screen_Window::Take_Stretched_Place() {
+    scale_ = screen_->scale;
+    const Twips place = Place_In_Twips(*screen_);
+    const QSizeF wanted(place.width / twips_per_pixel, place.height / twips_per_pixel);
+    showNormal();
+    resize(wanted.toSize().expandedTo(sizeHint()).boundedTo(Room()));
+    const QRect room = screen()->availableGeometry();
+    const QSize free = room.size() - (size() + window_frame);
+    constexpr int least_gap = 25;
+    const int above = free.height() / 2 <= least_gap ? 0 : free.height() / 4;
+    move(room.topLeft() + QPoint(free.width() / 2, above));
+}
+
+/// Larger letters get a larger window where the display has the room.
+void Screen_Window::Grow_From(const QSize& page_before) {
+    body_->Place_Pages();
+    if (!placed_ || isMaximized()) {
+        return;
+    }
+    const QSize now = body_->sizeHint();
+    const QSizeF grown(width() * (1.0 * now.width() / page_before.width()),
+                       height() * (1.0 * now.height() / page_before.height()));
+    resize(grown.toSize().expandedTo(size()).boundedTo(Room()));
+    const QRect room = screen()->availableGeometry();
+    const QPoint last = room.bottomRight() - QPoint(width(), height()) -
+                        QPoint(window_frame.width(), window_frame.height());
+    move(QPoint(std::max(room.left(), std::min(x(), last.x())),
+                std::max(room.top(), std::min(y(), last.y()))));
 }
 
 void Screen_Window::Open() {
@@ -212,6 +224,9 @@ void Screen_Window::Open() {
         const QRect room = screen()->availableGeometry();
         const QRect framed({}, size() + window_frame);
         move(room.center() - framed.center());
+        if (scale_ != screen_->scale) {
+            Take_Stretched_Place();
+        }
     } else {
         move(pos()); // a window manager would else place it anew
     }
@@ -290,15 +305,13 @@ void Screen_Window::Refresh() {
     if (screen_ == nullptr) {
         return;
     }
-    bool captions_changed = false;
-    for (Control* const control : screen_->Take_Changes()) {
+    const std::vector<Control*> changes = screen_->Take_Changes();
+    for (Control* const control : changes) {
         Show_Changed(*control);
-        captions_changed = captions_changed || control->Entry().use == Cell_Use::Caption;
     }
-    if (captions_changed) {
-        for (Page* const page : pages_) {
-            page->Name_Fields_Anew();
-        }
+    Tell_Pages(changes);
+    if (scale_ != screen_->scale && placed_) {
+        Take_Stretched_Place();
     }
     if (tab_order_stale_) {
         tab_order_stale_ = false;
@@ -310,18 +323,51 @@ void Screen_Window::Refresh() {
     }
 }
 
+void Screen_Window::Tell_Pages(const std::vector<Control*>& changes) {
+    bool captions_changed = false;
+    std::set<int> rows;
+    std::set<Page*> other_fonts;
+    for (Control* const control : changes) {
+        captions_changed = captions_changed || control->Entry().use == Cell_Use::Caption;
+        Page* const page = control->Is_Text_Box() ? Page_Of(*control) : nullptr;
+        if (page != nullptr && page->Is_Lift(*control)) {
+            rows.insert(Place_Of(*control).row);
+        }
+        if (page != nullptr && page->Takes_Font(*control)) {
+            other_fonts.insert(page);
+        }
+    }
+    const QSize before = body_->sizeHint();
+    for (Page* const page : other_fonts) {
+        page->Measure_Anew();
+    }
+    if (!other_fonts.empty()) {
+        Grow_From(before);
+    }
+    for (Page* const page : pages_) {
+        if (captions_changed) {
+            page->Name_Fields_Anew();
+        } else if (!rows.empty()) {
+            page->Name_Rows_Anew(rows);
+        }
+    }
+}
+
 void Screen_Window::Show_Changed(Control& control) {
     if (Control_View* const view = View_Of(control)) {
         view->Refresh();
         return;
     }
     // A blank cell has no view until a text comes into it.
-    const auto page = std::ranges::find_if(pages_, [&control](const Page* other) {
-        return other->Holder() == control.Entry().parent;
-    });
-    if (page != pages_.end() && control.Is_Text_Box() && !control.Text().empty()) {
-        (*page)->Add_View(control);
+    Page* const page = Page_Of(control);
+    if (page != nullptr && control.Is_Text_Box() && !control.Text().empty()) {
+        page->Add_View(control);
     }
+}
+
+Page* Screen_Window::Page_Of(const Control& control) const {
+    const auto page = std::ranges::find(pages_, control.Entry().parent, &Page::Holder);
+    return page == pages_.end() ? nullptr : *page;
 }
 
 void Screen_Window::Take_Focus(Control& control) {

@@ -15,6 +15,7 @@
 
 namespace kestrum::desktop {
 
+class Body;
 class Help_Line;
 
 /// The window of one screen. It is made from the screen's table and decides nothing: what the user
@@ -53,7 +54,9 @@ protected:
 private:
     class Cover;
 
-    // What the views tell.
+    // What the views ask and tell.
+    [[nodiscard]] QString Words_Of(const Control& field) const override;
+    [[nodiscard]] QChar Decimal_Mark() const override;
     void Clicked(Control& control) override;
     void Picked(Control& combo, const std::string& text) override;
     void Typed(Control& field, const std::string& text) override;
@@ -85,7 +88,13 @@ private:
     void Set_Tab_Order() const;
     void Set_Pointer();
     static void Show_Arrow(Control_View& view);
+    [[nodiscard]] Page* Page_Of(const Control& control) const;
+    /// Tells the pages what has changed that their layout or names hang on.
+    void Tell_Pages(const std::vector<Control*>& changes);
     [[nodiscard]] QSize Usual_Size() const;
+    [[nodiscard]] QSize Room() const;
+    void Take_Stretched_Place();
+    void Grow_From(const QSize& page_before);
 
     Session& session_;
     Gate& gate_;
@@ -94,7 +103,7 @@ private:
     std::unique_ptr<Block_Selection> block_;
     Edit_Menu* edit_menu_ = nullptr;
     std::vector<Control_View*> views_; // by the control's place in the screen
-    QWidget* body_ = nullptr;
+    Body* body_ = nullptr;
     std::vector<Page*> pages_;
     /// Views that are no widgets; those are owned by their parents.
     std::vector<std::unique_ptr<Control_View>> own_views_;
@@ -104,6 +113,7 @@ private:
     bool tab_order_stale_ = false;
     bool plain_pointer_ = false;
     bool placed_ = false;
+    Screen_Scale scale_; // that the window has been given
     bool painted_ = false;
 };
 

@@ -4,6 +4,7 @@
 #include "application/undo_history.h"
 #include "core/field_handlers.h"
 #include "core/pasted_text.h"
+#include "desktop/body.h"
 #include "desktop/cell_words.h"
 #include "desktop/help_line.h"
 #include "desktop/screen_window.h"
@@ -22,6 +23,15 @@ bool Is_Return_Of_Focus(Qt::FocusReason reason) {
 }
 
 } // namespace
+
+QString Screen_Window::Words_Of(const Control& field) const {
+    const Page* const page = Page_Of(field);
+    return page == nullptr ? QString() : page->Words_Of(field);
+}
+
+QChar Screen_Window::Decimal_Mark() const {
+    return QLatin1Char(session_.numbers.Point());
+}
 
 void Screen_Window::Clicked(Control& control) {
     const bool let_in =
@@ -81,6 +91,7 @@ void Screen_Window::Focus_Came(Control_View& view, Qt::FocusReason reason) {
     if (reason == Qt::MouseFocusReason && view.control.Is_Text_Box()) {
         session_.mouse_down = true;
     }
+    body_->Reveal(*view.Widget());
     // A window that shows for the first time gets the focus without a move of the user's, too.
     const bool returns = Is_Return_Of_Focus(reason) && keeper_.Is_At(view.control);
     if (!keeper_.Is_At(view.control)) {
@@ -146,13 +157,9 @@ void Screen_Window::Hovered_Form() {
 }
 
 void Screen_Window::Move_Focus(const Control_View& from, Direction direction) {
-    for (const Page* const page : pages_) {
-        if (page->Holder() == from.control.Entry().parent) {
-            if (QWidget* const next = page->Neighbour_Of(from, direction)) {
-                next->setFocus(Qt::OtherFocusReason);
-            }
-            return;
-        }
+    const Page* const page = Page_Of(from.control);
+    if (QWidget* const next = page == nullptr ? nullptr : page->Neighbour_Of(from, direction)) {
+        next->setFocus(Qt::OtherFocusReason);
     }
 }
 

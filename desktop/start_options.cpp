@@ -88,9 +88,12 @@ Surroundings Present_Surroundings(const Start_Options& options, const std::strin
     facts.decimal_point = QLocale::system().decimalPoint() == QLatin1String(",") ? "," : ".";
     facts.version = Program_Version();
     if (const QScreen* const screen = QGuiApplication::primaryScreen()) {
-        facts.display = {.width = screen->size().width(),
-                         .height = screen->size().height(),
-                         .dpi = static_cast<int>(std::lround(screen->logicalDotsPerInch()))};
+        // In dots of the device; the desktop's scale is told by their number in an inch.
+        constexpr double dots_in_inch = 96;
+        const double scale = screen->devicePixelRatio();
+        facts.display = {.width = static_cast<int>(std::lround(screen->size().width() * scale)),
+                         .height = static_cast<int>(std::lround(screen->size().height() * scale)),
+                         .dpi = static_cast<int>(std::lround(dots_in_inch * scale))};
     }
     return facts;
 }

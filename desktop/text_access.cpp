@@ -29,7 +29,7 @@ public:
         case QAccessible::Name:
             return view_.Spoken_Name();
         case QAccessible::Description:
-            return view_.objectName();
+            return Description_Of(view_.control);
         case QAccessible::Value:
             return view_.Shown_Text();
         default:

@@ -1,5 +1,7 @@
 #include "desktop/text_views.h"
 
+#include "desktop/crisp.h"
+#include "desktop/form_design.h"
 #include "desktop/text_bridge.h"
 #include "screens/geometry.h"
 
@@ -30,7 +32,8 @@ void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
     const QFont usual = painter.font();
     QFont font = usual;
     while (font.pixelSize() > theme::smallest_pixels &&
-           painter.fontMetrics().horizontalAdvance(line) > area.width()) {
+           (painter.fontMetrics().horizontalAdvance(line) > area.width() ||
+            painter.fontMetrics().ascent() > area.height())) {
         font.setPixelSize(font.pixelSize() - 1);
         painter.setFont(font);
     }
@@ -41,13 +44,32 @@ void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
     painter.setFont(usual);
 }
 
+void Paint_Wrapped(QPainter& painter, const QRect& area, int flags, const QString& text) {
+    const QString words = text.left(longest_line);
+    const QFont usual = painter.font();
+    QFont font = usual;
+    flags |= Qt::TextWordWrap;
+    while (font.pixelSize() > theme::smallest_pixels &&
+           !area.contains(painter.boundingRect(area, flags, words))) {
+        font.setPixelSize(font.pixelSize() - 1);
+        painter.setFont(font);
+    }
+    painter.drawText(area, flags, words);
+    painter.setFont(usual);
+}
+
 void Paint_Information_Mark(QPainter& painter, const QRect& cell) {
     constexpr int size = 6;
     const QPointF corner(cell.right() + 1, cell.top());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgb(theme::information));
+    painter.setBrush(QColor::fromRgb(theme::Colours().information));
     painter.drawPolygon(QPolygonF{corner, corner - QPointF(size, 0), corner + QPointF(0, size)});
+}
+
+QRect Cell_Dots(const Crisp& crisp, const QRectF& area) {
+    const int gap = crisp.Dots_In(1);
+    return crisp.Dots_Of(area).adjusted(0, 0, -gap, -gap);
 }
 
 Text_View::Text_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
@@ -85,16 +107,12 @@ Cell_View::Cell_View(Control& its_control, const View_Facts& its_facts, QWidget*
     setAttribute(Qt::WA_OpaquePaintEvent, is_result_);
 }
 
-void Cell_View::Refresh() {
-    Text_View::Refresh();
-}
-
-QRect Cell_View::Area_In(const QRect& cell) const {
-    return cell.adjusted(0, 0, -1, -1);
-}
-
 QString Cell_View::Spoken_Name() const {
-    return is_result_ ? facts.words : Shown_Text();
+    if (is_result_) {
+        return facts.events.Words_Of(control);
+    }
+    const Own_Words* const own = Own_Words_Of(control);
+    return own == nullptr ? Shown_Text() : To_Qt(own->words) + QLatin1String(": ") + Shown_Text();
 }
 
 QRect Cell_View::Text_Area() const {
@@ -108,12 +126,7 @@ QRgb Cell_View::Ink() const {
 
 void Cell_View::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    if (is_result_) {
-        painter.fillRect(rect(), QColor::fromRgb(theme::Colours_Of(control).back));
-    }
-    if (hasFocus()) {
-        painter.fillRect(rect(), QColor::fromRgb(theme::accent_soft));
-    }
+    Paint_Back(painter);
     QFont usual = font();
     if (facts.heads_column) {
         usual.setBold(true);
@@ -123,6 +136,28 @@ void Cell_View::paintEvent(QPaintEvent* /*event*/) {
     Paint_Fitted(painter, Text_Area(), Alignment_Of(control) | Qt::AlignVCenter, Shown_Text());
     if (control.Entry().hover == Hover::Shows) {
         Paint_Information_Mark(painter, rect());
+    }
+}
+
+/// A result fills its cell but for the gap to the next one; the focus shows as a frame as well, not
+/// by a tint alone.
+void Cell_View::Paint_Back(QPainter& painter) const {
+    if (!is_result_ && !hasFocus()) {
+        return;
+    }
+    const Crisp crisp(painter);
+    const QRect cell = Cell_Dots(crisp, rect());
+    const theme::Cell_Colours colours = theme::Colours_Of(control);
+    if (is_result_) {
+        crisp.Fill(crisp.Dots_Of(rect()).adjusted(0, 0, 1, 1), theme::Colours().card);
+    }
+    crisp.Fill(cell, hasFocus() ? theme::Colours().accent_soft : colours.back);
+    if (is_result_ && colours.stripe != 0) {
+        crisp.Mark({cell.topLeft(), QSize(crisp.Dots_In(2), cell.height())}, colours.stripe,
+                   colours.dashed);
+    }
+    if (hasFocus()) {
+        crisp.Frame(cell, crisp.Dots_In(1), theme::Colours().accent);
     }
 }
 
@@ -167,13 +202,15 @@ void Label_View::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const bool is_note = Place_Of(control).rows > 1;
     painter.setFont(font());
-    painter.setPen(QColor::fromRgb(isEnabled() ? theme::quiet_ink : theme::faint_ink));
+    painter.setPen(
+        QColor::fromRgb(isEnabled() ? theme::Colours().quiet_ink : theme::Colours().faint_ink));
     const QRect area = rect().adjusted(theme::text_padding, is_note ? theme::text_padding : 0,
                                        -theme::text_padding, 0);
-    painter.drawText(area,
-                     static_cast<int>(is_note ? Qt::AlignTop : Qt::AlignVCenter) | Qt::AlignLeft |
-                         Qt::TextWordWrap,
-                     Shown_Text().left(longest_line));
+    if (is_note) {
+        Paint_Wrapped(painter, area, Qt::AlignLeft | Qt::AlignTop, Shown_Text());
+    } else {
+        Paint_Fitted(painter, area, Qt::AlignLeft | Qt::AlignVCenter, Shown_Text());
+    }
 }
 
 Marker_View::Marker_View(Control& its_control, const View_Facts& its_facts, QWidget* parent,

@@ -6,6 +6,8 @@
 
 namespace kestrum::desktop {
 
+class Crisp;
+
 /// A light widget that paints one text and can be read by assistive technology.
 class Text_View : public Widget_View<QWidget> {
 public:
@@ -34,9 +36,6 @@ class Cell_View : public Text_View {
 public:
     Cell_View(Control& its_control, const View_Facts& its_facts, QWidget* parent);
 
-    void Refresh() override;
-    [[nodiscard]] QRect Area_In(const QRect& cell) const override;
-
     [[nodiscard]] QString Spoken_Name() const override;
 
     [[nodiscard]] bool Is_Figure() const override { return is_result_; }
@@ -49,6 +48,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void Paint_Back(QPainter& painter) const;
     [[nodiscard]] QRect Text_Area() const;
     [[nodiscard]] QRgb Ink() const;
     void Copy() const;
@@ -83,6 +83,12 @@ private:
 /// Paints one line, in smaller letters when it does not fit.
 void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
                   const QString& text);
+
+/// Paints words in as many lines as they need, in smaller letters when they do not fit.
+void Paint_Wrapped(QPainter& painter, const QRect& area, int flags, const QString& text);
+
+/// The dots of a cell without the gap to its neighbours.
+[[nodiscard]] QRect Cell_Dots(const Crisp& crisp, const QRectF& area);
 
 /// The small corner that says: the mouse over this shows additional information.
 void Paint_Information_Mark(QPainter& painter, const QRect& cell);

@@ -1,97 +1,75 @@
 #include "desktop/theme.h"
 
 #include "desktop/text_bridge.h"
+#include "desktop/theme_style.h"
+#include "screens/screen.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include <algorithm>
 #include <cmath>
 
 namespace kestrum::desktop::theme {
 
-namespace {
-
-struct Side_Colours {
-    QRgb result_back;
-    QRgb result_text;
-    QRgb caption;
-    QRgb foot;
-};
-
-const Side_Colours& Of(Side side) {
-    static constexpr Side_Colours neutral{0xFFEDF3F1, 0xFF0E4F4A, 0xFF35414E, marker};
-    static constexpr Side_Colours intake{0xFFEAF2FB, 0xFF15498A, 0xFF1D4F8C, 0xFF6FA3DF};
-    static constexpr Side_Colours exhaust{0xFFFBF1E7, 0xFF8A3F0B, 0xFF8F4716, 0xFFE2A369};
-    switch (side) {
-    case Side::Intake:
-        return intake;
-    case Side::Exhaust:
-        return exhaust;
-    case Side::Both:
-        break;
+const Colour_Scheme& Colours() {
+    if (const auto* const style = dynamic_cast<const Theme_Style*>(QApplication::style())) {
+        return style->Scheme();
     }
-    return neutral;
+    static const Colour_Scheme usual = Scheme_For(QPalette()); // a window without the theme
+    return usual;
 }
-
-} // namespace
 
 Cell_Colours Colours_Of(const Control& field) {
     const Look& look = field.Present_Look();
-    Cell_Colours colours;
-    colours.foot = Of(look.side).foot;
+    const Side_Colours& side = Colours().Of(look.side);
+    Cell_Colours colours{.back = Colours().card,
+                         .text = Colours().ink,
+                         .line = Colours().line,
+                         .foot = side.mark,
+                         .stripe = 0,
+                         .dashed = look.side == Side::Exhaust};
     if (look.back_colour == result_back || look.text_colour == result_text) {
-        colours.back = Of(look.side).result_back;
-        colours.text = Of(look.side).result_text;
+        colours.back = side.result_back;
+        colours.text = side.result_text;
         colours.line = colours.back;
         colours.foot = colours.back;
+        colours.stripe = look.side == Side::Both ? 0 : side.mark;
     } else if (look.locked) {
         colours.foot = colours.line;
+        colours.dashed = false;
     }
     return colours;
 }
 
 QRgb Caption_Ink(Side side) {
-    return Of(side).caption;
+    return Colours().Of(side).caption;
 }
 
 QColor Marker_Colour(const Control& marker_label) {
     constexpr Colour put_out = 0xFFFFFF;
     return marker_label.Present_Look().back_colour == put_out ? QColor(Qt::transparent)
-                                                              : QColor::fromRgb(marker);
-}
-
-QPalette Palette() {
-    QPalette palette;
-    const auto set = [&palette](QPalette::ColorRole role, QRgb colour, QRgb when_disabled) {
-        palette.setColor(role, QColor::fromRgb(colour));
-        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(when_disabled));
-    };
-    set(QPalette::Window, window, window);
-    set(QPalette::WindowText, ink, faint_ink);
-    set(QPalette::Base, card, card);
-    set(QPalette::AlternateBase, window, window);
-    set(QPalette::Text, ink, faint_ink);
-    set(QPalette::PlaceholderText, faint_ink, faint_ink);
-    set(QPalette::Button, card, window);
-    set(QPalette::ButtonText, ink, faint_ink);
-    set(QPalette::Highlight, accent, faint_ink);
-    set(QPalette::HighlightedText, card, card);
-    set(QPalette::Link, accent, faint_ink);
-    set(QPalette::Light, card, card);
-    set(QPalette::Mid, line, line);
-    set(QPalette::Dark, faint_ink, faint_ink);
-    return palette;
+                                                              : QColor::fromRgb(Colours().marker);
 }
 
 QFont Text_Font(double scale) {
-    QFont font = QGuiApplication::font();
+    QFont font = QApplication::font();
     font.setPixelSize(
         std::max(smallest_pixels, static_cast<int>(std::lround(text_pixels * scale))));
     return font;
 }
 
+Font Chosen_Font(const Control& field) {
+    constexpr double nearly = 1e-6; // of what multiplying and dividing leaves
+    Font font = field.Present_Look().font;
+    font.size /= field.Owner().scale.font;
+    if (std::abs(font.size - Font().size) < nearly) {
+        font.size = Font().size;
+    }
+    return font;
+}
+
 QFont Font_Of(const Control& field, const QFont& usual) {
-    const Font& chosen = field.Present_Look().font;
+    const Font chosen = Chosen_Font(field);
     const Font stored;
     if (chosen == stored) {
         return usual;

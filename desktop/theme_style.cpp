@@ -1,5 +1,6 @@
 #include "desktop/theme_style.h"
 
+#include "desktop/control_view.h"
 #include "desktop/theme.h"
 
 #include <QApplication>
@@ -8,11 +9,21 @@
 #include <QPolygonF>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace kestrum::desktop {
 
 namespace {
 
-constexpr int indicator_size = 14;
+/// Of a check box or an option: it grows with the letters beside it, and stays in its widget.
+int Indicator_Size(const QWidget* widget) {
+    constexpr int smallest = 8;
+    const int of_letters = widget == nullptr ? -1 : widget->font().pixelSize();
+    if (of_letters <= 0) {
+        return theme::text_pixels + 2;
+    }
+    return std::max(smallest, std::min(of_letters + 2, widget->height()));
+}
 
 struct Indicator {
     QRectF area;
@@ -31,16 +42,17 @@ Indicator Indicator_Of(const QStyleOption& option) {
 
 void Set_Colours(QPainter& painter, const Indicator& indicator) {
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRgb fill = !indicator.enabled ? theme::window
-                      : indicator.on     ? theme::accent
-                                         : theme::card;
+    const QRgb fill = !indicator.enabled ? theme::Colours().window
+                      : indicator.on     ? theme::Colours().accent
+                                         : theme::Colours().card;
     const bool strong = indicator.enabled && (indicator.on || indicator.marked);
     painter.setBrush(QColor::fromRgb(fill));
-    painter.setPen(QColor::fromRgb(strong ? theme::accent : theme::line));
+    painter.setPen(QColor::fromRgb(strong ? theme::Colours().accent : theme::Colours().line));
 }
 
 QColor Mark_Colour(const Indicator& indicator) {
-    return QColor::fromRgb(indicator.enabled ? theme::card : theme::faint_ink);
+    return QColor::fromRgb(indicator.enabled ? theme::Colours().on_accent
+                                             : theme::Colours().faint_ink);
 }
 
 void Paint_Check_Box(QPainter& painter, const Indicator& indicator) {
@@ -84,7 +96,7 @@ QIcon Sign(QRgb colour, QChar letter) {
         bold.setBold(true);
         bold.setPixelSize(size * 5 / 8);
         painter.setFont(bold);
-        painter.setPen(QColor::fromRgb(theme::card));
+        painter.setPen(QColor::fromRgb(theme::Colours().on_accent));
         painter.drawText(picture.rect(), Qt::AlignCenter, letter);
         painter.end();
         icon.addPixmap(picture);
@@ -94,10 +106,20 @@ QIcon Sign(QRgb colour, QChar letter) {
 
 } // namespace
 
-Theme_Style::Theme_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+Theme_Style::Theme_Style()
+    : QProxyStyle(QStringLiteral("Fusion")), scheme_(Scheme_For(QPalette())) {}
+
+/// Comes with the desktop's colours, at the start and whenever they change.
+void Theme_Style::polish(QPalette& palette) {
+    scheme_ = Scheme_For(palette);
+    palette = Palette_Of(scheme_);
+}
 
 void Theme_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
+    if (element == PE_PanelLineEdit && dynamic_cast<const Control_View*>(widget) != nullptr) {
+        return; // a cell paints its own back
+    }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
@@ -118,7 +140,7 @@ int Theme_Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return indicator_size;
+        return Indicator_Size(widget);
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -139,13 +161,13 @@ QIcon Theme_Style::standardIcon(StandardPixmap picture, const QStyleOption* opti
                                 const QWidget* widget) const {
     switch (picture) {
     case SP_MessageBoxInformation:
-        return Sign(theme::accent, QLatin1Char('i'));
+        return Sign(theme::Colours().accent, QLatin1Char('i'));
     case SP_MessageBoxQuestion:
-        return Sign(theme::accent, QLatin1Char('?'));
+        return Sign(theme::Colours().accent, QLatin1Char('?'));
     case SP_MessageBoxWarning:
-        return Sign(theme::warning, QLatin1Char('!'));
+        return Sign(theme::Colours().warning, QLatin1Char('!'));
     case SP_MessageBoxCritical:
-        return Sign(theme::failure, QLatin1Char('!'));
+        return Sign(theme::Colours().failure, QLatin1Char('!'));
     default:
         return QProxyStyle::standardIcon(picture, option, widget);
     }
@@ -153,7 +175,6 @@ QIcon Theme_Style::standardIcon(StandardPixmap picture, const QStyleOption* opti
 
 void Apply_Theme() {
     QApplication::setStyle(new Theme_Style);
-    QApplication::setPalette(theme::Palette());
     QApplication::setFont(theme::Text_Font());
 }
 

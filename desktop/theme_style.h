@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/colour_scheme.h"
+
 #include <QIcon>
 #include <QProxyStyle>
 
@@ -10,6 +12,11 @@ class Theme_Style : public QProxyStyle {
 public:
     Theme_Style();
 
+    using QProxyStyle::polish;
+    void polish(QPalette& palette) override;
+
+    [[nodiscard]] const Colour_Scheme& Scheme() const { return scheme_; }
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -18,6 +25,9 @@ public:
                                 QStyleHintReturn* details) const override;
     [[nodiscard]] QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                                      const QWidget* widget) const override;
+
+private:
+    Colour_Scheme scheme_;
 };
 
 /// Gives the application its style, colours and letters.

@@ -25,6 +25,11 @@ struct View_Host {
     View_Host& operator=(const View_Host&) = delete;
     virtual ~View_Host() = default;
 
+    /// Words of the trade for a field, with the lift of its row as it is now.
+    [[nodiscard]] virtual QString Words_Of(const Control& field) const = 0;
+    /// What separates the decimals of a number.
+    [[nodiscard]] virtual QChar Decimal_Mark() const = 0;
+
     virtual void Clicked(Control& control) = 0;
     virtual void Picked(Control& combo, const std::string& text) = 0;
     virtual void Typed(Control& field, const std::string& text) = 0;

@@ -110,7 +110,7 @@ TEST(Keys, A_Refused_Key_Is_Told_In_The_Help_Line_Until_The_Next_One) {
 /// Whether anything but the text's own ink is painted in the colour of failures.
 bool Flashes(QWidget& cell) {
     const QImage picture = cell.grab().toImage();
-    return picture.pixelColor(0, picture.height() / 2) == QColor::fromRgb(theme::failure);
+    return picture.pixelColor(0, picture.height() / 2) == QColor::fromRgb(theme::Colours().failure);
 }
 
 TEST(Keys, A_Refused_Key_Lets_The_Cell_Flash_For_A_Moment) {
@@ -204,6 +204,16 @@ TEST(Keys, A_Pasted_Text_Goes_In_Whole_Or_Not_At_All) {
         EXPECT_EQ(bench.Help("Form1").empty(), line.text != nullptr);
         EXPECT_EQ(bench.Take_Events(), line.text == nullptr ? Events{"beep"} : Events{});
     }
+}
+
+TEST(Keys, The_Decimal_Key_Of_The_Keypad_Types_The_Separator_In_Force) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    bench.program.Its_Session().numbers.comma_mode = 1;
+    bench.Enter("Form1.Text104(6)", "2");
+    QTest::keyClick(QApplication::focusWidget(), '.', Qt::KeypadModifier);
+    bench.Type("5");
+    EXPECT_EQ(bench.Text("Form1.Text104(6)"), "2,5");
 }
 
 TEST(Keys, A_Pasted_Dot_Becomes_The_Comma_Of_The_Mode) {

@@ -177,23 +177,33 @@ struct Named {
 TEST(Windows, Every_Field_Is_Called_What_The_Trade_Calls_It) {
     const std::vector<Named> cases{
         {"Form1.Text104(6)", "Throat dia Ex"},
-        {"Form1.Text106(17)", "Observed Flow Intake, row 17"},
+        {"Form1.Text106(17)", "Observed Flow Intake, lift 50"},
         {"Form1.Text102(4)", "Stem Dia, Intake"},
         {"Form1.Text104(2)", "Mean area, Exhaust"},
         {"Form1.Text103(9)", "0.25D In./Ex, Exhaust"},
         {"Form1.Text107(4)", "Area Ratio Intake"},
         {"Form1.Text108(7)", "Test Pressure"},
         {"Form1.Text113(12)", "Existing In/Ex Rat 2"},
+        {"Form1.Text101(18)", "Actual Valve Lift Inch, line 3"},
+        {"Form1.Text207(18)", "Swirl, lift 100"},
+        {"Form1.Text39", "File: "},
+        {"Main.Check1", "User Mach #"},
+        {"Main.Check3", "User Peak HP RPM"},
         {"Main.Text103(8)", "CFM @ Peak Lift"},
         {"Main.Text102(9)", "Port cc's"},
         {"Main.Text33", "Name of test"},
-        {"Form50.Text102(17)", "Test 1 - E7TE, Mean Port Vel In., row 17"},
-        {"Form50.Text105(17)", "Test 2 - E7TE, Mean Port Vel Ex., row 17"},
-        {"Form50.Text107(17)", "Test 1 - E7TE, Intake, row 17"},
-        {"Form50.Text110(17)", "Test 2 - E7TE, Ft-lbs, Exhaust, row 17"},
+        {"Form50.Text102(17)", "Test 1 - E7TE, Mean Port Vel In., lift 50"},
+        {"Form50.Text105(17)", "Test 2 - E7TE, Mean Port Vel Ex., lift 60"},
+        {"Form50.Text107(17)", "Test 1 - E7TE, Intake, line 2"},
+        {"Form50.Text110(17)", "Test 2 - E7TE, Ft-lbs, Exhaust, line 2"},
     };
     Desktop_Bench bench;
     bench.Open_Sheet();
+    bench.Click("Form1.NextPage");
+    bench.Click("Main.Command2");
+    bench.At("Form2.Text101(17)").Set_Text("60");
+    bench.At("Form2.Text108(17)").Set_Text("60");
+    bench.Click("Form2.Command1");
     bench.Click("Main.Command50");
     bench.Click("Form50.Option3(3)"); // its energies have no word for the side in their headings
     bench.Click("Form50.Command1");
@@ -202,8 +212,10 @@ TEST(Windows, Every_Field_Is_Called_What_The_Trade_Calls_It) {
             QAccessible::queryAccessibleInterface(&bench.Widget(line.address));
         ASSERT_NE(field, nullptr) << line.address;
         EXPECT_EQ(From_Qt(field->text(QAccessible::Name)), line.words);
-        EXPECT_EQ(From_Qt(field->text(QAccessible::Description)), line.address);
-        EXPECT_EQ(From_Qt(field->text(QAccessible::Value)), bench.Text(line.address));
+        EXPECT_EQ(From_Qt(field->text(QAccessible::Description)).find("Form"), std::string::npos);
+        if (bench.At(line.address).Is_Text_Box()) {
+            EXPECT_EQ(From_Qt(field->text(QAccessible::Value)), bench.Text(line.address));
+        }
     }
 }
 
