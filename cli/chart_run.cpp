@@ -1,11 +1,13 @@
 #include "cli/chart_run.h"
 
 #include "base/run_time_error.h"
+#include "chart/chart_page.h"
 #include "cli/chart_output.h"
 #include "cli/line_text.h"
 #include "cli/standard_streams.h"
 #include "cli/usage_error.h"
 #include "library/test_reader.h"
+#include "platform/file_store.h"
 
 namespace kestrum::cli {
 
@@ -31,11 +33,26 @@ Chart Laid_Out(const std::vector<Chart_Test>& tests, const Chart_Request& reques
     }
 }
 
+bool Save(const Chart& chart, const Chart_Options& options, Painter& painter,
+          std::ostream& errors) {
+    try {
+        const Figure page = Chart_Page(chart, {});
+        // SVG is letters: the painting, which takes its time to start, has no part in it.
+        Write_Whole_File(options.output, options.picture == Picture_Format::Svg
+                                             ? Figure_Svg(page)
+                                             : painter.Picture_Of(page, options.picture));
+    } catch (const Run_Time_Error& failure) {
+        errors << Escaped(options.output) + ": the chart has not been saved -- " +
+                      failure.Description() + "\n";
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 int Run_Chart(const Chart_Options& options, Painter& painter, std::ostream& out,
               std::ostream& errors) {
-    static_cast<void>(painter);
     Test_Reader reader(options.metric_files);
     std::vector<Chart_Test> tests;
     for (const std::string& file : options.files) {
@@ -53,7 +70,9 @@ int Run_Chart(const Chart_Options& options, Painter& painter, std::ostream& out,
         out << (spells ? Escaped(text, "\n") : text);
         Finish(out, "chart: the figures cannot be written");
     }
-    return tests.size() == options.files.size() ? 0 : 1;
+    const bool saved =
+        options.output.empty() || tests.empty() || Save(chart, options, painter, errors);
+    return saved && tests.size() == options.files.size() ? 0 : 1;
 }
 
 } // namespace kestrum::cli
