@@ -92,7 +92,8 @@ void Chart_Frame::Draw_Value_Axis(const std::string& title) const {
                             .upwards = true});
 }
 
-void Chart_Frame::Draw_Marker(double lift, const std::string& label) const {
+void Chart_Frame::Draw_Marker(double lift, const std::string& label,
+                              Text_Anchor anchor) const {
     if (lift < lifts_.low || lift > lifts_.high) {
         return;
     }
@@ -104,7 +105,7 @@ void Chart_Frame::Draw_Marker(double lift, const std::string& label) const {
                             .text = label,
                             .size = number_size - 1,
                             .colour = colours_.quiet,
-                            .anchor = Text_Anchor::Centre});
+                            .anchor = anchor});
 }
 
 void Spread(std::vector<End_Label>& labels, double line_height, double top, double bottom) {

@@ -31,7 +31,7 @@ public:
     void Draw_Axes(const std::string& value_title, const std::string& lift_title) const;
 
     /// A line at a lift, its label above the frame.
-    void Draw_Marker(double lift, const std::string& label) const;
+    void Draw_Marker(double lift, const std::string& label, Text_Anchor anchor) const;
 
 private:
     void Draw_Lift_Axis(const std::string& title) const;

@@ -33,23 +33,24 @@ public:
         Page_Table table;
         table.title = "Whole curve" + Range_Words();
         const bool event = chart_.request.cam_lift.has_value();
-        std::vector<std::string> titles{"Test"};
+        std::vector<Wide_Title> titles{{"Test", name_share}};
         for (const Chart_Side side : Sides()) {
             const std::string name = side == Chart_Side::Intake ? "intake" : "exhaust";
-            titles.push_back("Peak " + name);
-            titles.push_back("Mean " + name);
-            titles.push_back("gain");
+            titles.push_back({"Peak " + name, peak_share});
+            titles.push_back({"Mean", figure_share});
+            titles.push_back({"gain", figure_share});
             if (event) {
-                titles.push_back("Event " + name);
-                titles.push_back("gain");
+                titles.push_back({"Event", figure_share});
+                titles.push_back({"gain", figure_share});
             }
         }
-        titles.emplace_back("Ex / In");
-        Place_Columns(table, titles, name_share);
-        for (std::size_t place = 0; place < chart_.tests.size(); ++place) {
-            table.rows.push_back(Summary_Row(place, table.columns[1].right - page_.left - 54));
-        }
+        titles.push_back({"Ex / In", figure_share});
         table.text_size = titles.size() > wide_table ? 7 : 8;
+        Place_Columns(table, titles);
+        const double name_room = table.columns[1].right - page_.left - peak_letters * table.text_size;
+        for (std::size_t place = 0; place < chart_.tests.size(); ++place) {
+            table.rows.push_back(Summary_Row(place, table.text_size, name_room));
+        }
         return table;
     }
 
@@ -60,20 +61,23 @@ public:
         const std::size_t in_test = shows_percent ? 3 : 2;
         table.title = side == Chart_Side::Intake ? "Intake at equal lifts" : "Exhaust at equal lifts";
         table.text_size = tests > most_with_percent + 2 ? 6.2 : 8;
-        std::vector<std::string> titles{"Lift [" + std::string(chart_.request.Lift_Unit()) + "]"};
-        const double columns = static_cast<double>(1 + (tests - 1) * in_test);
-        const double room = page_.Width() * (1 - lift_share) / columns;
+        std::vector<Wide_Title> titles{
+            {"Lift [" + std::string(chart_.request.Lift_Unit()) + "]", figure_share}};
+        const double columns = static_cast<double>(2 + (tests - 1) * in_test);
+        const double room = page_.Width() / columns;
         for (std::size_t place = 0; place < tests; ++place) {
-            titles.push_back(Fitted_Text(chart_.tests[place].name, table.text_size - 1, false,
-                                         place == 0 ? room : room * 1.4));
+            constexpr double gap = 9;
+            titles.push_back({Fitted_Text(Numbered_Name(chart_, place), table.text_size - 1, false,
+                                          room - gap),
+                              figure_share});
             if (place > 0) {
-                titles.emplace_back("gain");
+                titles.push_back({"gain", figure_share});
                 if (shows_percent) {
-                    titles.emplace_back("");
+                    titles.push_back({"", figure_share});
                 }
             }
         }
-        Place_Columns(table, titles, lift_share);
+        Place_Columns(table, titles);
         for (const Chart_Row& row : chart_.table) {
             table.rows.push_back(Lift_Row(row, side, shows_percent));
         }
@@ -94,8 +98,15 @@ public:
     }
 
 private:
-    static constexpr double name_share = 0.24;
-    static constexpr double lift_share = 0.1;
+    struct Wide_Title {
+        std::string text;
+        double share = 1;
+    };
+
+    static constexpr double name_share = 2;
+    static constexpr double peak_share = 2;
+    static constexpr double figure_share = 1;
+    static constexpr double peak_letters = 9; // width of a peak, in heights of its letters
     static constexpr std::size_t wide_table = 9;
     static constexpr std::size_t most_with_percent = 4;
 
@@ -118,26 +129,28 @@ private:
         return words;
     }
 
-    /// The first column takes its share, the others what is left in equal parts.
-    void Place_Columns(Page_Table& table, const std::vector<std::string>& titles,
-                       double first_share) const {
-        const double first = page_.Width() * first_share;
-        const double room = (page_.Width() - first) / static_cast<double>(titles.size() - 1);
-        for (std::size_t at = 0; at < titles.size(); ++at) {
-            table.columns.push_back(
-                {.title = titles[at],
-                 .right = page_.left + first + static_cast<double>(at) * room});
+    /// Columns take the width in the proportion of their shares.
+    void Place_Columns(Page_Table& table, const std::vector<Wide_Title>& titles) const {
+        double all = 0;
+        for (const Wide_Title& title : titles) {
+            all += title.share;
+        }
+        double right = page_.left;
+        for (const Wide_Title& title : titles) {
+            right += page_.Width() * title.share / all;
+            table.columns.push_back({.title = title.text, .right = right});
         }
     }
 
-    [[nodiscard]] std::vector<Table_Cell> Summary_Row(std::size_t place, double name_room) const {
+    [[nodiscard]] std::vector<Table_Cell> Summary_Row(std::size_t place, double text_size,
+                                                      double name_room) const {
         const Chart_Entry& test = chart_.tests[place];
         const Chart_Entry& baseline = chart_.tests.front();
         const int decimals = chart_.request.Decimals();
         const auto gain = [&](std::optional<double> own, std::optional<double> base) {
             return Signed_Text(place == 0 ? std::nullopt : Compared(own, base).gain, decimals);
         };
-        std::vector<Table_Cell> row{{.text = Fitted_Text(test.name, 8, true, name_room),
+        std::vector<Table_Cell> row{{.text = Fitted_Text(Numbered_Name(chart_, place), text_size, true, name_room),
                                      .colour = Look_Of_Curve(place).colour,
                                      .bold = true}};
         for (const Chart_Side side : Sides()) {
@@ -253,9 +266,11 @@ private:
         std::string under = chart_.tests.empty() ? "No test could be read"
                                                  : "Baseline: " + chart_.tests.front().name;
         if (chart_.request.shows.intake && chart_.request.shows.exhaust) {
-            under += "  \xC2\xB7  thick lines intake, thin lines exhaust";
+            under += " \xC2\xB7 thick lines intake, thin lines exhaust";
         }
-        Put_Quiet(page_.left, margin + 29, Fitted_Text(under, line_size, false, 380), line_size,
+        const double under_room =
+            page_.Width() - Figure_Text_Width(head_.shop_line, line_size, false);
+        Put_Quiet(page_.left, margin + 29, Fitted_Text(under, line_size, false, under_room), line_size,
                   Text_Anchor::Left);
         Put_Quiet(page_.right, margin + 29, Fitted_Text(head_.shop_line, 8, false, 165), 8,
                   Text_Anchor::Right);

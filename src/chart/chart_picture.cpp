@@ -11,7 +11,7 @@ namespace kestrum {
 namespace {
 
 constexpr double axis_room = 44;   // left of the frames
-constexpr double label_room = 132; // right of them
+constexpr double label_room = 150; // right of them
 constexpr double marker_room = 14; // above
 constexpr double title_room = 30;  // below
 constexpr double band_gap = 16;
@@ -133,7 +133,7 @@ private:
     }
 
     void Draw_Main(const Figure_Box& box, const std::string& lift_title) {
-        constexpr double points_in_step = 45;
+        constexpr double points_in_step = 36;
         const int steps = std::max(2, static_cast<int>(box.Height() / points_in_step));
         const Chart_Frame frame(figure_, box, Lift_Scale(), Round_Scale(low_, high_, steps),
                                 colours_);
@@ -152,16 +152,27 @@ private:
 
     void Draw_Markers(const Chart_Frame& frame) const {
         constexpr double quarter = 0.25;
+        struct Marker {
+            std::optional<double> lift;
+            std::string label;
+        };
+
         const auto diameter =
             chart_.tests.empty() ? std::nullopt
                                  : chart_.tests.front().valve_diameter[Leading_Side(chart_)];
-        if (diameter) {
-            frame.Draw_Marker(*diameter * quarter, "L/D 0.25");
-        }
-        const bool apart = !diameter || !request_.cam_lift ||
-                           std::abs(frame.X(*diameter * quarter) - frame.X(*request_.cam_lift)) > 40;
-        if (request_.cam_lift) {
-            frame.Draw_Marker(*request_.cam_lift, apart ? "cam lift" : "");
+        std::array markers{
+            Marker{diameter ? std::optional(*diameter * quarter) : std::nullopt, "L/D 0.25"},
+            Marker{request_.cam_lift, "cam lift"}};
+        std::ranges::sort(markers, {}, &Marker::lift);
+        // Two labels hold away from each other.
+        const bool has_both = markers.front().lift.has_value();
+        for (const Marker& marker : markers) {
+            if (marker.lift) {
+                frame.Draw_Marker(*marker.lift, marker.label,
+                                  !has_both                        ? Text_Anchor::Centre
+                                  : &marker == &markers.front() ? Text_Anchor::Right
+                                                                   : Text_Anchor::Left);
+            }
         }
     }
 
@@ -210,7 +221,7 @@ private:
         }
         constexpr double sample_room = 24;
         const double room = label_room - sample_room - Figure_Text_Width(figure, label_size, bold);
-        return Fitted_Text(test.name, label_size, bold, room) + figure;
+        return Fitted_Text(Numbered_Name(chart_, place), label_size, bold, room) + figure;
     }
 
     /// Beside the frame, with a piece of the line and its mark, and a leader where they had to move.
@@ -264,7 +275,7 @@ private:
             figure_.Add(std::move(path));
             labels.push_back(
                 {.wanted = frame.Y(gain.points.back().value),
-                 .text = Fitted_Text(chart_.tests[gain.test].name, label_size, true, 72) + "  " +
+                 .text = Fitted_Text(Numbered_Name(chart_, gain.test), label_size, true, 84) + "  " +
                          Signed_Text(gain.points.back().value, request_.Decimals()),
                  .test = gain.test,
                  .bold = true,
@@ -311,6 +322,10 @@ private:
 void Draw_Chart(Figure& figure, const Figure_Box& box, const Chart& chart,
                 const Chart_Colours& colours) {
     Chart_Drawing(figure, box, chart, colours).Draw();
+}
+
+std::string Numbered_Name(const Chart& chart, std::size_t test) {
+    return Bare_Text(static_cast<double>(test + 1), 0) + " " + chart.tests[test].name;
 }
 
 Chart_Side Leading_Side(const Chart& chart) {

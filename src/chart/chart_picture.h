@@ -11,6 +11,9 @@ namespace kestrum {
 void Draw_Chart(Figure& figure, const Figure_Box& box, const Chart& chart,
                 const Chart_Colours& colours);
 
+/// A test's name with its number in the chart, which tells names apart that have to be cut.
+[[nodiscard]] std::string Numbered_Name(const Chart& chart, std::size_t test);
+
 /// The side whose gain the band shows and whose table comes first.
 [[nodiscard]] Chart_Side Leading_Side(const Chart& chart);
 
