@@ -235,8 +235,8 @@ std::string Chart_Text(const Chart& chart) {
     const std::vector<Chart_Side> sides = Shown_Sides(request);
     std::string out(entry.title);
     out += request.Unit().empty() ? "" : " [" + std::string(request.Unit()) + "]";
-    out += " at " + Bare_Text(request.pressure, 4) + " in. H2O, lifts in " +
-           std::string(request.Lift_Unit()) + ", the first test is the baseline\n";
+    out += " at " + Bare_Text(request.pressure, 4) + " in. H2O, lifts [" +
+           std::string(request.Lift_Unit()) + "], the first test is the baseline\n";
     for (const Chart_Entry& test : chart.tests) {
         out += One_Line(test.name);
         for (const Chart_Side side : sides) {

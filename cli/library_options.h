@@ -1,13 +1,10 @@
 #pragma once
 
 #include "cli/output_format.h"
+#include "library/library_columns.h"
 
 #include <span>
 #include <string>
-
-namespace kestrum {
-struct Library_Column;
-}
 
 namespace kestrum::cli {
 
