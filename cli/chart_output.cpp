@@ -221,8 +221,8 @@ std::string Curve_Words(const Chart_Curve& curve, const Chart_Request& request) 
 std::string Cell_Words(const Chart_Cell& cell, int decimals) {
     std::string words = Or_Dash(Fixed_Text(cell.value, decimals));
     if (cell.gain) {
-        words += " (" + Signed_Text(cell.gain, decimals) + ", " + Signed_Text(cell.percent, 1) +
-                 " %)";
+        words +=
+            " (" + Signed_Text(cell.gain, decimals) + ", " + Signed_Text(cell.percent, 1) + " %)";
     }
     return words;
 }

@@ -23,10 +23,10 @@ int Run_Library(const Library_Options& options, std::ostream& out, std::ostream&
                                                        .jobs = options.jobs,
                                                        .goes_on = {}},
                                                       std::move(walk.tests));
-    const bool all_read = walk.problems.empty() &&
-                          std::ranges::none_of(entries, [](const Library_Entry& entry) {
-                              return entry.problem.has_value();
-                          });
+    const bool all_read =
+        walk.problems.empty() && std::ranges::none_of(entries, [](const Library_Entry& entry) {
+            return entry.problem.has_value();
+        });
     if (!options.where.empty()) {
         std::erase_if(entries, [&](const Library_Entry& entry) {
             return !Holds_Words(entry, options.where);

@@ -79,8 +79,7 @@ void Paint_Step(const Figure_Text& text, QPainter& painter) {
 std::string Png_Of(const Figure& figure, int dots_in_inch) {
     constexpr double inches_in_metre = 1 / 0.0254;
     const double scale = static_cast<double>(dots_in_inch) / points_in_inch;
-    QImage image(qRound(figure.width * scale), qRound(figure.height * scale),
-                 QImage::Format_RGB32);
+    QImage image(qRound(figure.width * scale), qRound(figure.height * scale), QImage::Format_RGB32);
     if (image.isNull()) {
         Fail(error::path_or_file_access);
     }

@@ -1,13 +1,15 @@
+#include "chart/chart_frame.h"
 #include "cli/chart_run.h"
 #include "cli/library_run.h"
 #include "cli/usage_error.h"
-#include "chart/chart_frame.h"
 #include "tests/test_bench.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <vector>
 
@@ -20,8 +22,17 @@ using nlohmann::json;
 /// The published flow of two heads, and one with a dip. Expected numbers are those of SciPy's
 /// `PchipInterpolator`, its `integrate`, and numpy's trapezoid rule.
 constexpr std::string_view ford = "lift,intake\n.1,55\n.2,110\n.3,142\n.4,160\n.5,157\n";
-constexpr std::string_view jeep = "lift,intake,exhaust\n.1,66,50\n.2,122,88\n.3,168,114\n.4,186,130\n"
-                                  ".5,189,134\n.6,192,138\n";
+constexpr std::string_view jeep =
+    "lift,intake,exhaust\n.1,66,50\n.2,122,88\n.3,168,114\n.4,186,130\n"
+    ".5,189,134\n.6,192,138\n";
+
+/// SVG is written without one.
+struct No_Painter : Painter {
+    std::string Picture_Of(const Drawing& /*drawing*/, Picture_Format /*format*/,
+                           const std::optional<Placed_Logo>& /*logo*/) override {
+        Fail(error::invalid_picture);
+    }
+};
 
 class Chart_Verb : public ::testing::Test {
 protected:
@@ -43,15 +54,12 @@ protected:
         for (const std::string& word : words) {
             arguments.push_back(word.c_str());
         }
-        return Json_Of([this](const Chart_Options& options) {
-            struct No_Painter : Painter {
-                std::string Picture_Of(const Drawing& /*drawing*/, Picture_Format /*format*/,
-                                       const std::optional<Placed_Logo>& /*logo*/) override {
-                    Fail(error::invalid_picture);
-                }
-            } painter;
-            return Run_Chart(options, painter, out_, errors_);
-        }, Chart_Options_From(arguments));
+        return Json_Of(
+            [this](const Chart_Options& options) {
+                No_Painter painter;
+                return Run_Chart(options, painter, out_, errors_);
+            },
+            Chart_Options_From(arguments));
     }
 
     /// Lines of the library.
@@ -75,8 +83,8 @@ protected:
 };
 
 TEST_F(Chart_Verb, Means_Gains_And_Events_Are_Those_Of_The_Exact_Curve) {
-    const json chart = Chart_With({Write("ford.csv", ford), Write("jeep.csv", jeep), "--cam", ".45",
-                                   "--step", "0.25"});
+    const json chart = Chart_With(
+        {Write("ford.csv", ford), Write("jeep.csv", jeep), "--cam", ".45", "--step", "0.25"});
     EXPECT_EQ(status_, 0);
     const json& first = chart["tests"][0]["intake"];
     const json& second = chart["tests"][1]["intake"];
@@ -111,6 +119,7 @@ TEST_F(Chart_Verb, A_Range_That_A_Test_Does_Not_Cover_Has_No_Mean) {
 /// A dip and a rise: the curve turns at its points and nowhere else, ends included.
 TEST(Monotone_Curve, Follows_A_Dip_Without_Overshooting) {
     const Monotone_Curve curve({{.1, 3}, {.25, 1}, {.3, 4}, {.55, 1}, {.6, 5}});
+
     struct Value {
         double lift;
         double value;
@@ -172,8 +181,12 @@ TEST_F(Chart_Verb, The_Files_That_Can_Be_Read_Make_The_Chart) {
 
 TEST_F(Chart_Verb, Wrong_Calls_Are_Refused) {
     const std::vector<std::vector<const char*>> calls{
-        {"a.dat", "--at", "0"},     {"a.dat", "--to", "inf"},       {"a.dat", "--csv", "--json"},
-        {"a.dat", "-o", "x.gif"},   {"a.dat", "--quantity", "hp"},  {},
+        {"a.dat", "--at", "0"},
+        {"a.dat", "--to", "inf"},
+        {"a.dat", "--csv", "--json"},
+        {"a.dat", "-o", "x.gif"},
+        {"a.dat", "--quantity", "hp"},
+        {},
         {"1", "2", "3", "4", "5", "6", "7", "8", "9"}};
     for (const std::vector<const char*>& call : calls) {
         EXPECT_THROW(static_cast<void>(Chart_Options_From(call)), Usage_Error);
@@ -206,8 +219,8 @@ TEST_F(Chart_Verb, The_Library_Lists_What_It_Finds_And_Why_Not) {
         EXPECT_TRUE(entries[1]["pressure"].is_null());
         EXPECT_NEAR(entries[1]["intake_mean"], 110.16666666666666, 1e-9);
         EXPECT_EQ(entries[1]["intake_peak_lift"], 0.4);
-        EXPECT_EQ(entries[2], json({{"file", "lost.dat"}, {"format", "dat"},
-                                    {"problem", "File not found"}}));
+        EXPECT_EQ(entries[2],
+                  json({{"file", "lost.dat"}, {"format", "dat"}, {"problem", "File not found"}}));
         EXPECT_EQ(entries[3]["file"], "sub/Jeep.CSV");
         EXPECT_EQ(entries[3]["points"], 6);
         EXPECT_TRUE(entries[4]["intake_valve"].is_null()); // an empty value names nothing
@@ -230,6 +243,38 @@ TEST_F(Chart_Verb, A_Picture_Names_Its_Tests_As_Text) {
     EXPECT_NE(svg.find(">2 jeep.csv  ex  138<"), std::string::npos);
 }
 
+/// What stands behind a call in the document.
+std::string Worked_Example(std::string_view call) {
+    std::ifstream document(KESTRUM_SOURCE "/docs/automation.md");
+    std::string printed;
+    bool inside = false;
+    for (std::string line; std::getline(document, line);) {
+        inside = inside ? line.starts_with("    ") : line.starts_with(call);
+        if (inside && !line.starts_with("    $ ") && !line.starts_with("        ex")) {
+            printed += line.substr(4) + "\n";
+        }
+    }
+    return printed;
+}
+
+TEST_F(Chart_Verb, Prints_The_Worked_Examples_Of_The_Document) {
+    std::filesystem::current_path(KESTRUM_SOURCE);
+    const std::array call{"examples/jeep_4l_stock_table_1.dat",
+                          "examples/jeep_4l_stock_table_2.dat",
+                          "examples/jeep_4l_stock_table_3.dat",
+                          "--side",
+                          "intake",
+                          "--cam",
+                          ".5"};
+    No_Painter painter;
+    EXPECT_EQ(Run_Chart(Chart_Options_From(call), painter, out_, errors_), 0);
+    EXPECT_EQ(out_.str(), Worked_Example("    $ kestrum-cli chart"));
+    out_.str("");
+    const std::array folder{"examples"};
+    EXPECT_EQ(Run_Library(Library_Options_From(folder), out_, errors_), 0);
+    EXPECT_EQ(out_.str(), Worked_Example("    $ kestrum-cli library"));
+}
+
 /// Labels keep their order, stay within the frame and never touch.
 TEST(End_Labels, Find_Places_Beside_Each_Other) {
     std::vector<End_Label> labels(4);
@@ -250,9 +295,9 @@ TEST(Axis_Scale, Ends_At_Round_Numbers) {
         int decimals;
     };
 
-    for (const Case& range : {Case{0, 238, 50, 0, 250, 0}, Case{0, .6, .1, 0, .6, 1},
-                              Case{-3.2, 24, 10, -10, 30, 0}, Case{0, 1.1, .2, 0, 1.2, 1},
-                              Case{5, 5, .5, 5, 7.5, 1}}) {
+    for (const Case& range :
+         {Case{0, 238, 50, 0, 250, 0}, Case{0, .6, .1, 0, .6, 1}, Case{-3.2, 24, 10, -10, 30, 0},
+          Case{0, 1.1, .2, 0, 1.2, 1}, Case{5, 5, .5, 5, 7.5, 1}}) {
         const Axis_Scale scale = Round_Scale(range.low, range.high, range.step == 10 ? 3 : 6);
         EXPECT_NEAR(scale.step, range.step, 1e-12) << range.high;
         EXPECT_NEAR(scale.low, range.first, 1e-12) << range.high;

@@ -53,6 +53,7 @@ struct Chart_Request {
     }
 
     [[nodiscard]] std::string_view Lift_Unit() const { return metric ? "mm" : "in"; }
+
     /// What a lift in inches is multiplied by.
     [[nodiscard]] double Lift_Factor() const;
 };
@@ -71,7 +72,7 @@ struct Chart_Entry {
     std::string name;
     double pressure = full_flow_pressure; // of the test
     Of_Sides<Chart_Curve> sides;
-    std::optional<double> ratio; // exhaust mean by intake mean, of flow alone
+    std::optional<double> ratio;                    // exhaust mean by intake mean, of flow alone
     Of_Sides<std::optional<double>> valve_diameter; // in the unit of the lifts
     std::string comment;
 };

@@ -92,8 +92,7 @@ void Chart_Frame::Draw_Value_Axis(const std::string& title) const {
                             .upwards = true});
 }
 
-void Chart_Frame::Draw_Marker(double lift, const std::string& label,
-                              Text_Anchor anchor) const {
+void Chart_Frame::Draw_Marker(double lift, const std::string& label, Text_Anchor anchor) const {
     if (lift < lifts_.low || lift > lifts_.high) {
         return;
     }
@@ -110,6 +109,7 @@ void Chart_Frame::Draw_Marker(double lift, const std::string& label,
 
 void Spread(std::vector<End_Label>& labels, double line_height, double top, double bottom) {
     std::ranges::stable_sort(labels, {}, &End_Label::wanted);
+
     // Groups of touching labels; a group stands with its middle where its members want theirs.
     struct Group {
         double sum = 0; // of the places that the members want for the first of them

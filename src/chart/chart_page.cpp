@@ -47,7 +47,8 @@ public:
         titles.push_back({"Ex / In", figure_share});
         table.text_size = titles.size() > wide_table ? 7 : 8;
         Place_Columns(table, titles);
-        const double name_room = table.columns[1].right - page_.left - peak_letters * table.text_size;
+        const double name_room =
+            table.columns[1].right - page_.left - peak_letters * table.text_size;
         for (std::size_t place = 0; place < chart_.tests.size(); ++place) {
             table.rows.push_back(Summary_Row(place, table.text_size, name_room));
         }
@@ -59,7 +60,8 @@ public:
         const std::size_t tests = chart_.tests.size();
         const bool shows_percent = tests <= most_with_percent;
         const std::size_t in_test = shows_percent ? 3 : 2;
-        table.title = side == Chart_Side::Intake ? "Intake at equal lifts" : "Exhaust at equal lifts";
+        table.title =
+            side == Chart_Side::Intake ? "Intake at equal lifts" : "Exhaust at equal lifts";
         table.text_size = tests > most_with_percent + 2 ? 6.2 : 8;
         std::vector<Wide_Title> titles{
             {"Lift [" + std::string(chart_.request.Lift_Unit()) + "]", figure_share}};
@@ -67,9 +69,9 @@ public:
         const double room = page_.Width() / columns;
         for (std::size_t place = 0; place < tests; ++place) {
             constexpr double gap = 9;
-            titles.push_back({Fitted_Text(Numbered_Name(chart_, place), table.text_size - 1, false,
-                                          room - gap),
-                              figure_share});
+            titles.push_back(
+                {Fitted_Name(Numbered_Name(chart_, place), table.text_size - 1, false, room - gap),
+                 figure_share});
             if (place > 0) {
                 titles.push_back({"gain", figure_share});
                 if (shows_percent) {
@@ -150,9 +152,10 @@ private:
         const auto gain = [&](std::optional<double> own, std::optional<double> base) {
             return Signed_Text(place == 0 ? std::nullopt : Compared(own, base).gain, decimals);
         };
-        std::vector<Table_Cell> row{{.text = Fitted_Text(Numbered_Name(chart_, place), text_size, true, name_room),
-                                     .colour = Look_Of_Curve(place).colour,
-                                     .bold = true}};
+        std::vector<Table_Cell> row{
+            {.text = Fitted_Name(Numbered_Name(chart_, place), text_size, true, name_room),
+             .colour = Look_Of_Curve(place).colour,
+             .bold = true}};
         for (const Chart_Side side : Sides()) {
             const Chart_Curve& own = test.sides[side];
             const Chart_Curve& base = baseline.sides[side];
@@ -198,12 +201,10 @@ public:
     Page_Maker(const Chart& chart, const Chart_Head& head) : chart_(chart), head_(head) {}
 
     [[nodiscard]] Figure Make() {
-        figure_.Add(Figure_Path{.points = {{0, 0},
-                                           {page_width, 0},
-                                           {page_width, page_height},
-                                           {0, page_height}},
-                                .closed = true,
-                                .fill = colours_.ground});
+        figure_.Add(Figure_Path{
+            .points = {{0, 0}, {page_width, 0}, {page_width, page_height}, {0, page_height}},
+            .closed = true,
+            .fill = colours_.ground});
         Draw_Head();
         Draw_Foot();
         std::vector<Page_Table> tables;
@@ -216,8 +217,8 @@ public:
         }
         constexpr double most_chart = 470;
         const double comments = Comment_Height();
-        const double chart_bottom = std::min(
-            page_.top + most_chart, page_.bottom - height - comments);
+        const double chart_bottom =
+            std::min(page_.top + most_chart, page_.bottom - height - comments);
         Draw_Chart(figure_, {page_.left, page_.top, page_.right, chart_bottom}, chart_, colours_);
         double top = chart_bottom + 8;
         for (const Page_Table& table : tables) {
@@ -270,8 +271,8 @@ private:
         }
         const double under_room =
             page_.Width() - Figure_Text_Width(head_.shop_line, line_size, false);
-        Put_Quiet(page_.left, margin + 29, Fitted_Text(under, line_size, false, under_room), line_size,
-                  Text_Anchor::Left);
+        Put_Quiet(page_.left, margin + 29, Fitted_Text(under, line_size, false, under_room),
+                  line_size, Text_Anchor::Left);
         Put_Quiet(page_.right, margin + 29, Fitted_Text(head_.shop_line, 8, false, 165), 8,
                   Text_Anchor::Right);
         figure_.Line({page_.left, margin + 37}, {page_.right, margin + 37}, colours_.ink, 1);

@@ -30,7 +30,8 @@ std::string With_Unit(std::string_view title, std::string_view unit) {
 }
 
 /// Lifts close enough together for a line without corners, those of the points among them.
-std::vector<double> Fine_Lifts(const Monotone_Curve& curve, const std::vector<Curve_Point>& points) {
+std::vector<double> Fine_Lifts(const Monotone_Curve& curve,
+                               const std::vector<Curve_Point>& points) {
     constexpr int pieces = 90;
     std::vector<double> lifts;
     for (int piece = 0; piece <= pieces; ++piece) {
@@ -152,14 +153,15 @@ private:
 
     void Draw_Markers(const Chart_Frame& frame) const {
         constexpr double quarter = 0.25;
+
         struct Marker {
             std::optional<double> lift;
             std::string label;
         };
 
-        const auto diameter =
-            chart_.tests.empty() ? std::nullopt
-                                 : chart_.tests.front().valve_diameter[Leading_Side(chart_)];
+        const auto diameter = chart_.tests.empty()
+                                  ? std::nullopt
+                                  : chart_.tests.front().valve_diameter[Leading_Side(chart_)];
         std::array markers{
             Marker{diameter ? std::optional(*diameter * quarter) : std::nullopt, "L/D 0.25"},
             Marker{request_.cam_lift, "cam lift"}};
@@ -169,9 +171,9 @@ private:
         for (const Marker& marker : markers) {
             if (marker.lift) {
                 frame.Draw_Marker(*marker.lift, marker.label,
-                                  !has_both                        ? Text_Anchor::Centre
+                                  !has_both                     ? Text_Anchor::Centre
                                   : &marker == &markers.front() ? Text_Anchor::Right
-                                                                   : Text_Anchor::Left);
+                                                                : Text_Anchor::Left);
             }
         }
     }
@@ -185,10 +187,8 @@ private:
         const int colour = Look_Of_Curve(place).colour;
         const double width = Line_Width(side);
         if (own.curve.Is_There()) {
-            Figure_Path path{.points = {},
-                             .stroke = colour,
-                             .width = width,
-                             .dashes = Dashes_Of(place, width)};
+            Figure_Path path{
+                .points = {}, .stroke = colour, .width = width, .dashes = Dashes_Of(place, width)};
             for (const double lift : Fine_Lifts(own.curve, own.points)) {
                 path.points.push_back(frame.Place({.lift = lift, .value = *own.curve.At(lift)}));
             }
@@ -221,10 +221,11 @@ private:
         }
         constexpr double sample_room = 24;
         const double room = label_room - sample_room - Figure_Text_Width(figure, label_size, bold);
-        return Fitted_Text(Numbered_Name(chart_, place), label_size, bold, room) + figure;
+        return Fitted_Name(Numbered_Name(chart_, place), label_size, bold, room) + figure;
     }
 
-    /// Beside the frame, with a piece of the line and its mark, and a leader where they had to move.
+    /// Beside the frame, with a piece of the line and its mark, and a leader where they had to
+    /// move.
     void Draw_Labels(const Chart_Frame& frame, std::vector<End_Label>& labels) {
         const Figure_Box& box = frame.Box();
         constexpr double leader = 8;
@@ -236,7 +237,8 @@ private:
             const int colour = Look_Of_Curve(label.test).colour;
             const double width = Line_Width(label.bold ? Chart_Side::Intake : Chart_Side::Exhaust);
             const double left = box.right + leader;
-            figure_.Line({box.right + 1, label.wanted}, {left - 1, label.place}, colours_.rule, 0.5);
+            figure_.Line({box.right + 1, label.wanted}, {left - 1, label.place}, colours_.rule,
+                         0.5);
             figure_.Line({left, label.place}, {left + sample, label.place}, colour, width,
                          Dashes_Of(label.test, width));
             Figure_Path mark = Mark_Of(label.test, {left + sample / 2, label.place}, 2);
@@ -275,8 +277,8 @@ private:
             figure_.Add(std::move(path));
             labels.push_back(
                 {.wanted = frame.Y(gain.points.back().value),
-                 .text = Fitted_Text(Numbered_Name(chart_, gain.test), label_size, true, 84) + "  " +
-                         Signed_Text(gain.points.back().value, request_.Decimals()),
+                 .text = Fitted_Name(Numbered_Name(chart_, gain.test), label_size, true, 84) +
+                         "  " + Signed_Text(gain.points.back().value, request_.Decimals()),
                  .test = gain.test,
                  .bold = true,
                  .place = 0});
@@ -329,10 +331,10 @@ std::string Numbered_Name(const Chart& chart, std::size_t test) {
 }
 
 Chart_Side Leading_Side(const Chart& chart) {
-    const bool intake = chart.request.shows.intake &&
-                        std::ranges::any_of(chart.tests, [](const Chart_Entry& test) {
-                            return !test.sides.intake.points.empty();
-                        });
+    const bool intake =
+        chart.request.shows.intake && std::ranges::any_of(chart.tests, [](const Chart_Entry& test) {
+            return !test.sides.intake.points.empty();
+        });
     return intake || !chart.request.shows.exhaust ? Chart_Side::Intake : Chart_Side::Exhaust;
 }
 

@@ -15,7 +15,7 @@ inline constexpr std::size_t chart_quantities = 6;
 
 /// What a quantity becomes at another pressure than the test's.
 enum class Pressure_Rule {
-    To_Asked, // as the root of the pressure asked for over the test's
+    To_Asked,     // as the root of the pressure asked for over the test's
     To_Full_Flow, // a coefficient: it rests on the full flow at 28 inches, whatever is asked for
     Stays
 };

@@ -10,20 +10,20 @@ namespace {
 
 struct Mark_Shape {
     int corners;
-    double turn; // of the first corner from the top, in shares of a whole turn
+    double turn;      // of the first corner from the top, in shares of a whole turn
     double inner = 1; // radius of every other corner
     double size = 1;
 };
 
 constexpr std::array<Mark_Shape, 8> marks{{
-    {16, 0, 1, 1},          // circle
-    {4, 0.125, 1, 1.25},    // square
-    {4, 0, 1, 1.3},         // diamond
-    {3, 0, 1, 1.4},         // triangle
-    {3, 0.5, 1, 1.4},       // triangle upside down
-    {8, 0, 0.35, 1.7},      // star of four points
-    {6, 0, 1, 1.2},         // hexagon
-    {10, 0, 0.45, 1.6},     // star of five points
+    {16, 0, 1, 1},       // circle
+    {4, 0.125, 1, 1.25}, // square
+    {4, 0, 1, 1.3},      // diamond
+    {3, 0, 1, 1.4},      // triangle
+    {3, 0.5, 1, 1.4},    // triangle upside down
+    {8, 0, 0.35, 1.7},   // star of four points
+    {6, 0, 1, 1.2},      // hexagon
+    {10, 0, 0.45, 1.6},  // star of five points
 }};
 
 } // namespace

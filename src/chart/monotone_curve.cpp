@@ -39,8 +39,8 @@ void Monotone_Curve::Set_Slopes() {
         if ((before > 0 && behind > 0) || (before < 0 && behind < 0)) {
             const double weight_before = 2 * Width(at) + Width(at - 1);
             const double weight_behind = Width(at) + 2 * Width(at - 1);
-            slopes_[at] = (weight_before + weight_behind) /
-                          (weight_before / before + weight_behind / behind);
+            slopes_[at] =
+                (weight_before + weight_behind) / (weight_before / before + weight_behind / behind);
         }
     }
     slopes_.front() = End_Slope(0, 1);
@@ -51,9 +51,8 @@ void Monotone_Curve::Set_Slopes() {
 double Monotone_Curve::End_Slope(std::size_t piece, std::size_t next) const {
     const double own = Chord(piece);
     const double other = Chord(next);
-    const double slope =
-        ((2 * Width(piece) + Width(next)) * own - Width(piece) * other) /
-        (Width(piece) + Width(next));
+    const double slope = ((2 * Width(piece) + Width(next)) * own - Width(piece) * other) /
+                         (Width(piece) + Width(next));
     const auto sign = [](double number) { return number > 0 ? 1 : number < 0 ? -1 : 0; };
     if (sign(slope) != sign(own)) {
         return 0;

@@ -79,6 +79,9 @@ private:
 /// A text that fits a width, cut with an ellipsis where it must be.
 [[nodiscard]] std::string Fitted_Text(std::string_view text, double size, bool bold, double width);
 
+/// The same for a name, whose end tells as much as its beginning: it is cut in the middle.
+[[nodiscard]] std::string Fitted_Name(std::string_view name, double size, bool bold, double width);
+
 /// The bytes of an SVG file. Texts stay texts.
 [[nodiscard]] std::string Figure_Svg(const Figure& figure);
 

@@ -31,8 +31,8 @@ public:
     }
 
     [[nodiscard]] std::vector<Library_Entry> Run() {
-        const std::size_t jobs =
-            std::min<std::size_t>(std::max(request_.jobs, 1U), std::max<std::size_t>(entries_.size(), 1));
+        const std::size_t jobs = std::min<std::size_t>(std::max(request_.jobs, 1U),
+                                                       std::max<std::size_t>(entries_.size(), 1));
         {
             std::vector<std::jthread> helpers;
             for (std::size_t job = 1; job < jobs; ++job) {

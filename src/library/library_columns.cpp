@@ -28,8 +28,10 @@ constexpr auto columns = std::to_array<Library_Column>({
     {"pressure", "Pressure", [](const Entry& e) { return Number(e.figures.pressure); }},
     {"points", "Points",
      [](const Entry& e) { return Library_Value(static_cast<double>(e.figures.points)); }},
-    {"intake_peak", "Intake peak", [](const Entry& e) { return Number(e.figures.intake_peak.flow); }},
-    {"intake_peak_lift", "at lift", [](const Entry& e) { return Number(e.figures.intake_peak.lift); }},
+    {"intake_peak", "Intake peak",
+     [](const Entry& e) { return Number(e.figures.intake_peak.flow); }},
+    {"intake_peak_lift", "at lift",
+     [](const Entry& e) { return Number(e.figures.intake_peak.lift); }},
     {"exhaust_peak", "Exhaust peak",
      [](const Entry& e) { return Number(e.figures.exhaust_peak.flow); }},
     {"exhaust_peak_lift", "at lift",
@@ -57,9 +59,9 @@ char32_t Lowered(char32_t letter) {
         char32_t to_lower;
     };
 
-    constexpr std::array blocks{Block{U'A', U'Z', 32}, Block{0xC0, 0xD6, 32}, Block{0xD8, 0xDE, 32},
-                                Block{0x391, 0x3A9, 32}, Block{0x410, 0x42F, 32},
-                                Block{0x400, 0x40F, 80}};
+    constexpr std::array blocks{Block{U'A', U'Z', 32},   Block{0xC0, 0xD6, 32},
+                                Block{0xD8, 0xDE, 32},   Block{0x391, 0x3A9, 32},
+                                Block{0x410, 0x42F, 32}, Block{0x400, 0x40F, 80}};
     for (const Block& block : blocks) {
         if (letter >= block.first && letter <= block.last) {
             return letter + block.to_lower;
@@ -67,7 +69,8 @@ char32_t Lowered(char32_t letter) {
     }
     const bool is_pair = letter >= 0x100 && letter <= 0x17F;
     // Latin letters with marks stand in pairs, the capital at the even place but for two stretches.
-    const bool odd_first = (letter >= 0x139 && letter <= 0x148) || (letter >= 0x179 && letter <= 0x17E);
+    const bool odd_first =
+        (letter >= 0x139 && letter <= 0x148) || (letter >= 0x179 && letter <= 0x17E);
     return is_pair && letter != 0x130 && letter != 0x138 && letter != 0x178 && letter != 0x17F &&
                    letter != 0x149 && (letter % 2 == 1) == odd_first
                ? letter + 1
@@ -100,7 +103,8 @@ void Sort_Library(std::vector<Library_Entry>& entries, const Library_Column& col
     keys.reserve(entries.size());
     for (const Library_Entry& entry : entries) {
         Library_Value value = Value_In(column, entry);
-        keys.push_back({.rank = Rank_Of(entry, value), .value = std::move(value), .place = keys.size()});
+        keys.push_back(
+            {.rank = Rank_Of(entry, value), .value = std::move(value), .place = keys.size()});
     }
     std::ranges::sort(keys, [&](const Key& a, const Key& b) {
         return std::tie(a.rank, a.value, entries[a.place].file) <

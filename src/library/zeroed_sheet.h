@@ -47,6 +47,7 @@ private:
     Null_Platform platform_;
     Session session_;
     Flow_Sheet& sheet_;
+
     /// Inputs of the header with the texts that stand there before a file is read.
     struct Header_Cell {
         Control* cell;
