@@ -31,7 +31,7 @@ void Append_Key(std::string& out, std::string_view key) {
     out += "\":";
 }
 
-void Append_Json_Point(std::string& out, const Curve_Point& point) {
+void Append_Json_Point(std::string& out, const Lift_Point& point) {
     out += '[';
     Append_Json_Number(out, point.lift);
     out += ',';
@@ -41,7 +41,7 @@ void Append_Json_Point(std::string& out, const Curve_Point& point) {
 
 void Append_Json_Curve(std::string& out, const Chart_Curve& curve) {
     out += R"({"points":[)";
-    for (const Curve_Point& point : curve.points) {
+    for (const Lift_Point& point : curve.points) {
         out += &point == &curve.points.front() ? "" : ",";
         Append_Json_Point(out, point);
     }
@@ -132,10 +132,10 @@ constexpr std::array<std::string_view, 4> curve_columns{"_peak", "_peak_lift", "
                                                         "_event_mean"};
 
 std::array<std::optional<double>, curve_columns.size()> Figures_Of(const Chart_Curve& curve) {
-    const auto of_peak = [&](double Curve_Point::*number) {
+    const auto of_peak = [&](double Lift_Point::*number) {
         return curve.peak ? std::optional((*curve.peak).*number) : std::nullopt;
     };
-    return {of_peak(&Curve_Point::value), of_peak(&Curve_Point::lift), curve.mean,
+    return {of_peak(&Lift_Point::value), of_peak(&Lift_Point::lift), curve.mean,
             curve.event_mean};
 }
 

@@ -4,6 +4,7 @@
 #include "core/field_handlers.h"
 #include "desktop/frame_view.h"
 #include "desktop/help_line.h"
+#include "desktop/library_window.h"
 #include "desktop/menus.h"
 #include "desktop/print_preview.h"
 #include "desktop/text_bridge.h"
@@ -106,6 +107,7 @@ void Screen_Window::Make_Content() {
     auto* const bar = new QMenuBar(this);
     Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
     Add_Preview_Entry(*bar, session_, gate_, *screen_);
+    Add_Library_Entry(*bar, session_, gate_, *screen_);
     if (bar->actions().isEmpty()) {
         delete bar;
     } else {

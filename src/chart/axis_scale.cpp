@@ -8,10 +8,10 @@ namespace kestrum {
 
 std::vector<double> Axis_Scale::Ticks() const {
     std::vector<double> ticks;
-    const double first = std::round(low / step);
-    const double last = std::round(high / step);
-    for (double count = first; count <= last; ++count) {
-        ticks.push_back(count * step);
+    const auto first = static_cast<long long>(std::round(low / step));
+    const auto last = static_cast<long long>(std::round(high / step));
+    for (long long count = first; count <= last; ++count) {
+        ticks.push_back(static_cast<double>(count) * step);
     }
     return ticks;
 }

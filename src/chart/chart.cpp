@@ -22,7 +22,7 @@ Chart_Curve Curve_Of(const Test_Figures& test, Chart_Side side, const Chart_Requ
     const double factor = Pressure_Factor(request.quantity, test.Stated_At(), request.pressure) *
                           (request.metric ? entry.to_metric : 1);
     Chart_Curve result;
-    for (const Curve_Point& point :
+    for (const Lift_Point& point :
          Figures_On(test, side).points.at(static_cast<std::size_t>(request.quantity))) {
         result.points.push_back(
             {.lift = point.lift * request.Lift_Factor(), .value = point.value * factor});
@@ -30,9 +30,9 @@ Chart_Curve Curve_Of(const Test_Figures& test, Chart_Side side, const Chart_Requ
             result.peak = result.points.back();
         }
     }
-    std::vector<Curve_Point> knots = result.points;
+    std::vector<Lift_Point> knots = result.points;
     if (entry.begins_at_zero) {
-        knots.insert(knots.begin(), Curve_Point{});
+        knots.insert(knots.begin(), Lift_Point{});
     }
     result.curve = Monotone_Curve(std::move(knots));
     if (request.cam_lift) {
@@ -106,7 +106,7 @@ void Take_Means(Chart& chart) {
 std::vector<double> Baseline_Lifts(const Chart& chart) {
     std::vector<double> lifts;
     for (const Chart_Side side : chart_sides) {
-        for (const Curve_Point& point : chart.tests.front().sides[side].points) {
+        for (const Lift_Point& point : chart.tests.front().sides[side].points) {
             lifts.push_back(point.lift);
         }
     }

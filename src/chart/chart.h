@@ -60,9 +60,9 @@ struct Chart_Request {
 
 /// One side of a test, in the units and at the pressure of the request.
 struct Chart_Curve {
-    std::vector<Curve_Point> points; // without the closed valve
+    std::vector<Lift_Point> points; // without the closed valve
     Monotone_Curve curve;
-    std::optional<Curve_Point> peak; // the lowest lift of the highest value
+    std::optional<Lift_Point> peak; // the lowest lift of the highest value
     std::optional<double> mean;
     std::optional<double> event_mean;
 };

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] double X(double lift) const;
     [[nodiscard]] double Y(double value) const;
 
-    [[nodiscard]] Figure_Point Place(const Curve_Point& point) const {
+    [[nodiscard]] Figure_Point Place(const Lift_Point& point) const {
         return {.x = X(point.lift), .y = Y(point.value)};
     }
 

@@ -31,13 +31,13 @@ std::string With_Unit(std::string_view title, std::string_view unit) {
 
 /// Lifts close enough together for a line without corners, those of the points among them.
 std::vector<double> Fine_Lifts(const Monotone_Curve& curve,
-                               const std::vector<Curve_Point>& points) {
+                               const std::vector<Lift_Point>& points) {
     constexpr int pieces = 90;
     std::vector<double> lifts;
     for (int piece = 0; piece <= pieces; ++piece) {
         lifts.push_back(curve.First() + (curve.Last() - curve.First()) * piece / pieces);
     }
-    for (const Curve_Point& point : points) {
+    for (const Lift_Point& point : points) {
         lifts.push_back(point.lift);
     }
     std::ranges::sort(lifts);
@@ -74,7 +74,7 @@ public:
 private:
     struct Gain_Curve {
         std::size_t test;
-        std::vector<Curve_Point> points;
+        std::vector<Lift_Point> points;
     };
 
     [[nodiscard]] std::string Lift_Title() const {
@@ -86,7 +86,7 @@ private:
         for (const Chart_Entry& test : chart_.tests) {
             for (const Chart_Side side : chart_sides) {
                 const Monotone_Curve& curve = test.sides[side].curve;
-                for (const Curve_Point& point : test.sides[side].points) {
+                for (const Lift_Point& point : test.sides[side].points) {
                     low_ = found ? std::min(low_, point.value) : point.value;
                     high_ = found ? std::max(high_, point.value) : point.value;
                     last_ = std::max(last_, point.lift);
@@ -195,7 +195,7 @@ private:
             figure_.Add(std::move(path));
         }
         constexpr double mark_radius = 1.9;
-        for (const Curve_Point& point : own.points) {
+        for (const Lift_Point& point : own.points) {
             Figure_Path mark = Mark_Of(place, frame.Place(point), mark_radius + width / 4);
             mark.stroke = colour;
             mark.width = width / 2 + 0.3;
@@ -271,7 +271,7 @@ private:
                              .stroke = Look_Of_Curve(gain.test).colour,
                              .width = width,
                              .dashes = Dashes_Of(gain.test, width)};
-            for (const Curve_Point& point : gain.points) {
+            for (const Lift_Point& point : gain.points) {
                 path.points.push_back(frame.Place(point));
             }
             figure_.Add(std::move(path));
@@ -297,7 +297,7 @@ private:
             area.fill = Look_Of_Curve(gain.test).colour;
             area.opacity = 0.08;
             area.points.push_back({frame.X(gain.points.front().lift), frame.Y(0)});
-            for (const Curve_Point& point : gain.points) {
+            for (const Lift_Point& point : gain.points) {
                 area.points.push_back(frame.Place(point));
             }
             area.points.push_back({frame.X(gain.points.back().lift), frame.Y(0)});

@@ -12,7 +12,7 @@ bool Is_Same_Lift(double a, double b) {
     return std::abs(a - b) <= share * std::max(std::abs(a), std::abs(b));
 }
 
-Monotone_Curve::Monotone_Curve(std::vector<Curve_Point> points) : points_(std::move(points)) {
+Monotone_Curve::Monotone_Curve(std::vector<Lift_Point> points) : points_(std::move(points)) {
     if (Is_There()) {
         Set_Slopes();
     }
@@ -72,7 +72,7 @@ double Monotone_Curve::Within(double lift) const {
 }
 
 std::size_t Monotone_Curve::Piece_Of(double lift) const {
-    const auto above = std::ranges::upper_bound(points_, lift, {}, &Curve_Point::lift);
+    const auto above = std::ranges::upper_bound(points_, lift, {}, &Lift_Point::lift);
     const auto place = static_cast<std::size_t>(above - points_.begin());
     return std::clamp<std::size_t>(place, 1, points_.size() - 1) - 1;
 }

@@ -5,11 +5,11 @@
 
 namespace kestrum {
 
-struct Curve_Point {
+struct Lift_Point {
     double lift = 0;
     double value = 0;
 
-    bool operator==(const Curve_Point&) const = default;
+    bool operator==(const Lift_Point&) const = default;
 };
 
 /// Two lifts that are nearer than this share of themselves are one.
@@ -22,7 +22,7 @@ class Monotone_Curve {
 public:
     Monotone_Curve() = default;
     /// Lifts ascend. Fewer than two points make no curve.
-    explicit Monotone_Curve(std::vector<Curve_Point> points);
+    explicit Monotone_Curve(std::vector<Lift_Point> points);
 
     [[nodiscard]] bool Is_There() const { return points_.size() > 1; }
 
@@ -52,7 +52,7 @@ private:
     [[nodiscard]] double Area_Up_To(std::size_t piece, double share) const;
     [[nodiscard]] double Within(double lift) const;
 
-    std::vector<Curve_Point> points_;
+    std::vector<Lift_Point> points_;
     std::vector<double> slopes_;
 };
 

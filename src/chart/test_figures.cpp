@@ -19,9 +19,9 @@ std::optional<double> Number_In(const Numeric_Text& numbers, const Control& fiel
 }
 
 /// Puts rows of one lift together, which count with their mean.
-std::vector<Curve_Point> Merged(std::vector<Curve_Point> rows) {
-    std::ranges::stable_sort(rows, {}, &Curve_Point::lift);
-    std::vector<Curve_Point> points;
+std::vector<Lift_Point> Merged(std::vector<Lift_Point> rows) {
+    std::ranges::stable_sort(rows, {}, &Lift_Point::lift);
+    std::vector<Lift_Point> points;
     for (std::size_t at = 0; at < rows.size();) {
         const double lift = rows[at].lift;
         double sum = 0;
@@ -113,11 +113,11 @@ private:
                });
     }
 
-    [[nodiscard]] std::vector<Curve_Point> Points_Of(const Chart_Quantity_Entry& entry, Side side,
+    [[nodiscard]] std::vector<Lift_Point> Points_Of(const Chart_Quantity_Entry& entry, Side side,
                                                      const std::vector<Row>& rows) const {
         const bool is_swirl = entry.column == Cell_Role::None;
         const Control_Array& column = is_swirl ? sheet_.Text207 : sheet_.Column(side, entry.column);
-        std::vector<Curve_Point> points;
+        std::vector<Lift_Point> points;
         points.reserve(rows.size());
         for (const Row& row : rows) {
             const std::optional<double> value = Number_In(numbers_, column(row.number));

@@ -17,7 +17,7 @@ namespace kestrum {
 struct Side_Figures {
     std::optional<double> valve_diameter; // nothing where it is not named
     /// The measured points of each quantity by ascending lift.
-    std::array<std::vector<Curve_Point>, chart_quantities> points;
+    std::array<std::vector<Lift_Point>, chart_quantities> points;
 };
 
 /// What a chart and the library know of a test, taken from its sheet.

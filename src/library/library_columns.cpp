@@ -103,8 +103,8 @@ void Sort_Library(std::vector<Library_Entry>& entries, const Library_Column& col
     keys.reserve(entries.size());
     for (const Library_Entry& entry : entries) {
         Library_Value value = Value_In(column, entry);
-        keys.push_back(
-            {.rank = Rank_Of(entry, value), .value = std::move(value), .place = keys.size()});
+        const int rank = Rank_Of(entry, value);
+        keys.push_back({.rank = rank, .value = std::move(value), .place = keys.size()});
     }
     std::ranges::sort(keys, [&](const Key& a, const Key& b) {
         return std::tie(a.rank, a.value, entries[a.place].file) <

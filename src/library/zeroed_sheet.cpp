@@ -115,11 +115,12 @@ std::optional<Test_Figures> Zeroed_Sheet::Read(const std::string& path, Test_For
     return Finished(Fill_Empty_Header());
 }
 
-std::optional<Test_Figures> Zeroed_Sheet::Take(const Flow_Sheet& other) {
+std::optional<Test_Figures> Zeroed_Sheet::Take(const Screen& other) {
     Start_Over();
-    for (Control& cell : sheet_.Controls()) {
+    for (std::size_t at = 0; at < sheet_.Controls().size(); ++at) {
+        Control& cell = sheet_.Controls()[at];
         if (cell.Entry().use == Cell_Use::Input) {
-            cell.Set_Text(other.Array(cell.Entry().array)(cell.Index()).Text());
+            cell.Set_Text(other.Controls()[at].Text());
         }
     }
     Note_Unnamed();

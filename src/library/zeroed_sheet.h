@@ -29,7 +29,7 @@ public:
                                                    std::string_view bytes);
 
     /// Calculates inputs that lie on another sheet of the same unit system, all of them named.
-    [[nodiscard]] std::optional<Test_Figures> Take(const Flow_Sheet& other);
+    [[nodiscard]] std::optional<Test_Figures> Take(const Screen& other);
 
     /// What the boxes said of the last test, in one line.
     [[nodiscard]] std::string Problem() const;
