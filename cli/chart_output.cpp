@@ -135,8 +135,7 @@ std::array<std::optional<double>, curve_columns.size()> Figures_Of(const Chart_C
     const auto of_peak = [&](double Lift_Point::*number) {
         return curve.peak ? std::optional((*curve.peak).*number) : std::nullopt;
     };
-    return {of_peak(&Lift_Point::value), of_peak(&Lift_Point::lift), curve.mean,
-            curve.event_mean};
+    return {of_peak(&Lift_Point::value), of_peak(&Lift_Point::lift), curve.mean, curve.event_mean};
 }
 
 std::vector<Chart_Side> Shown_Sides(const Chart_Request& request) {

@@ -116,8 +116,8 @@ QWidget* Chart_Window::Settings() {
         names += To_Qt(test.figures.name.empty() ? test.file : test.figures.name);
     }
     quantity_ = choice(QStringLiteral("Quantity"), quantities);
-    sides_ = choice(QStringLiteral("Sides"), {QStringLiteral("Both"), QStringLiteral("Intake"),
-                                              QStringLiteral("Exhaust")});
+    sides_ = choice(QStringLiteral("Sides"),
+                    {QStringLiteral("Both"), QStringLiteral("Intake"), QStringLiteral("Exhaust")});
     units_ = choice(QStringLiteral("Units"), {QStringLiteral("US"), QStringLiteral("Metric")});
     baseline_ = choice(QStringLiteral("Baseline"), names);
     constexpr int name_width = 150;
@@ -195,9 +195,9 @@ void Chart_Window::Fill_Table() {
         }
         sides.push_back(side);
         for (std::size_t test = 0; test < chart_.tests.size(); ++test) {
-            const QString name = To_Qt(Numbered_Name(chart_, test)) +
-                                 (side == Chart_Side::Intake ? QStringLiteral(" in")
-                                                             : QStringLiteral(" ex"));
+            const QString name =
+                To_Qt(Numbered_Name(chart_, test)) +
+                (side == Chart_Side::Intake ? QStringLiteral(" in") : QStringLiteral(" ex"));
             heads += name;
             if (test > 0) {
                 heads += QStringLiteral("gain");
@@ -234,10 +234,10 @@ void Chart_Window::Fill_Table() {
 QString Chart_Window::Table_Text(QChar separator) const {
     const auto field = [separator](QString text) {
         const bool wants_quotes = text.contains(separator) || text.contains(QLatin1Char('"'));
-        return wants_quotes ? QLatin1Char('"') +
-                                  text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
-                                  QLatin1Char('"')
-                            : text;
+        return wants_quotes
+                   ? QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
+                         QLatin1Char('"')
+                   : text;
     };
     QString text;
     for (int row = -1; row < table_->rowCount(); ++row) {
@@ -292,11 +292,11 @@ void Chart_Window::Save_Picture() {
     const bool is_svg = path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
     const bool is_png = path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
     try {
-        Write_Whole_File(From_Qt(path),
-                         is_svg ? Figure_Svg(Page())
-                                : painting::Figure_Bytes(
-                                      Page(), is_png ? Picture_Format::Png : Picture_Format::Pdf,
-                                      dots_in_inch));
+        Write_Whole_File(
+            From_Qt(path),
+            is_svg ? Figure_Svg(Page())
+                   : painting::Figure_Bytes(
+                         Page(), is_png ? Picture_Format::Png : Picture_Format::Pdf, dots_in_inch));
         message_->setText(QStringLiteral("Saved ") + path);
     } catch (const Run_Time_Error& failure) {
         message_->setText(To_Qt("Not saved: " + failure.Description()));

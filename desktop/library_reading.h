@@ -15,6 +15,7 @@ public:
     Library_Reading() = default;
     Library_Reading(const Library_Reading&) = delete;
     Library_Reading& operator=(const Library_Reading&) = delete;
+
     ~Library_Reading() { Give_Up(); }
 
     /// Begins, and gives up what was being read.

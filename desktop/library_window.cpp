@@ -44,7 +44,8 @@ Library_Window::Library_Window(Session& session, Gate& gate)
     read_again_.setInterval(settle_milliseconds);
     connect(&look_, &QTimer::timeout, this, [this] { Look_At_Reading(); });
     connect(&read_again_, &QTimer::timeout, this, [this] { Read_Again(); });
-    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] { read_again_.start(); });
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this,
+            [this] { read_again_.start(); });
     try {
         Open_Folder(To_Qt(Without_Outer_Blanks(Read_Whole_File(Note_File()))));
     } catch (const Run_Time_Error&) {
@@ -75,6 +76,7 @@ void Library_Window::Make_Content() {
         Look_At_Reading();
     });
     resize(usual_size);
+    words_->setFocus();
 }
 
 QLayout* Library_Window::Folder_Row() {
@@ -122,7 +124,7 @@ void Library_Window::Make_Table() {
                 [this, column](bool on) { table_->setColumnHidden(column, !on); });
         table_->horizontalHeader()->addAction(shows);
         constexpr int wide = 190;
-        constexpr int narrow = 74;
+        constexpr int narrow = 92;
         const std::string_view name = Library_Columns()[static_cast<std::size_t>(column)].name;
         const bool is_wide = name == "file" || name == "name" || name == "date";
         table_->setColumnWidth(column, is_wide ? wide : narrow);
@@ -272,8 +274,7 @@ std::string Library_Window::Path_Of(const Library_Entry& entry) const {
 
 void Library_Window::Open_In_Sheet(const Library_Entry& entry) {
     const bool is_open = entry.figures.date.empty() && !entry.problem;
-    const int number =
-        is_open ? entry.file.back() - '0' : sheet_->currentIndex() + 1;
+    const int number = is_open ? entry.file.back() - '0' : sheet_->currentIndex() + 1;
     const std::string path = Path_Of(entry);
     const Test_Format format = entry.format;
     gate_.Enter_Command([&] {

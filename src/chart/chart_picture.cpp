@@ -30,8 +30,7 @@ std::string With_Unit(std::string_view title, std::string_view unit) {
 }
 
 /// Lifts close enough together for a line without corners, those of the points among them.
-std::vector<double> Fine_Lifts(const Monotone_Curve& curve,
-                               const std::vector<Lift_Point>& points) {
+std::vector<double> Fine_Lifts(const Monotone_Curve& curve, const std::vector<Lift_Point>& points) {
     constexpr int pieces = 90;
     std::vector<double> lifts;
     for (int piece = 0; piece <= pieces; ++piece) {

@@ -114,7 +114,7 @@ private:
     }
 
     [[nodiscard]] std::vector<Lift_Point> Points_Of(const Chart_Quantity_Entry& entry, Side side,
-                                                     const std::vector<Row>& rows) const {
+                                                    const std::vector<Row>& rows) const {
         const bool is_swirl = entry.column == Cell_Role::None;
         const Control_Array& column = is_swirl ? sheet_.Text207 : sheet_.Column(side, entry.column);
         std::vector<Lift_Point> points;
