@@ -37,55 +37,56 @@ struct No_Painter : Painter {
 class Chart_Verb : public ::testing::Test {
 protected:
     std::string Write(std::string_view name, std::string_view bytes) {
-        return bench_.folder.Write(name, bytes);
+        return bench.folder.Write(name, bytes);
     }
 
     template <typename Options, typename Run>
     json Json_Of(Run run, const Options& options) {
-        out_.str("");
-        errors_.str("");
-        status_ = run(options);
-        return json::parse(out_.str());
+        out.str("");
+        errors.str("");
+        status = run(options);
+        return json::parse(out.str());
     }
 
     json Chart_With(std::vector<std::string> words) {
         words.emplace_back("--json");
         std::vector<const char*> arguments;
+        arguments.reserve(words.size());
         for (const std::string& word : words) {
             arguments.push_back(word.c_str());
         }
         return Json_Of(
             [this](const Chart_Options& options) {
                 No_Painter painter;
-                return Run_Chart(options, painter, out_, errors_);
+                return Run_Chart(options, painter, out, errors);
             },
             Chart_Options_From(arguments));
     }
 
     /// Lines of the library.
     std::vector<json> Listed(Library_Options options) {
-        out_.str("");
-        options.folder = bench_.folder.Path();
+        out.str("");
+        options.folder = bench.folder.Path();
         options.format = Output_Format::Json;
-        status_ = Run_Library(options, out_, errors_);
+        status = Run_Library(options, out, errors);
         std::vector<json> entries;
-        std::istringstream lines(out_.str());
+        std::istringstream lines(out.str());
         for (std::string line; std::getline(lines, line);) {
             entries.push_back(json::parse(line));
         }
         return entries;
     }
 
-    Test_Bench bench_;
-    std::ostringstream out_;
-    std::ostringstream errors_;
-    int status_ = 0;
+    Test_Bench bench;
+    std::ostringstream out;
+    std::ostringstream errors;
+    int status = 0;
 };
 
 TEST_F(Chart_Verb, Means_Gains_And_Events_Are_Those_Of_The_Exact_Curve) {
     const json chart = Chart_With(
         {Write("ford.csv", ford), Write("jeep.csv", jeep), "--cam", ".45", "--step", "0.25"});
-    EXPECT_EQ(status_, 0);
+    EXPECT_EQ(status, 0);
     const json& first = chart["tests"][0]["intake"];
     const json& second = chart["tests"][1]["intake"];
     EXPECT_NEAR(first["mean"], 110.16666666666666, 1e-9);
@@ -173,10 +174,10 @@ TEST_F(Chart_Verb, Metric_Files_Go_Through_The_Switch_Of_The_Units) {
 }
 
 TEST_F(Chart_Verb, The_Files_That_Can_Be_Read_Make_The_Chart) {
-    const json chart = Chart_With({bench_.folder.Path() + "/none.dat", Write("ford.csv", ford)});
-    EXPECT_EQ(status_, 1);
+    const json chart = Chart_With({bench.folder.Path() + "/none.dat", Write("ford.csv", ford)});
+    EXPECT_EQ(status, 1);
     EXPECT_EQ(chart["tests"].size(), 1U);
-    EXPECT_NE(errors_.str().find("none.dat: File not found"), std::string::npos);
+    EXPECT_NE(errors.str().find("none.dat: File not found"), std::string::npos);
 }
 
 TEST_F(Chart_Verb, Wrong_Calls_Are_Refused) {
@@ -199,7 +200,7 @@ TEST_F(Chart_Verb, Wrong_Calls_Are_Refused) {
 
 TEST_F(Chart_Verb, The_Library_Lists_What_It_Finds_And_Why_Not) {
     namespace fs = std::filesystem;
-    const fs::path folder = bench_.folder.Path();
+    const fs::path folder = bench.folder.Path();
     fs::create_directory(folder / "sub");
     Write("sub/Jeep.CSV", jeep);
     Write("ford.csv", ford);
@@ -211,7 +212,7 @@ TEST_F(Chart_Verb, The_Library_Lists_What_It_Finds_And_Why_Not) {
 
     for (const unsigned jobs : {1U, 3U}) {
         const std::vector<json> entries = Listed({.jobs = jobs});
-        EXPECT_EQ(status_, 1);
+        EXPECT_EQ(status, 1);
         ASSERT_EQ(entries.size(), 5U);
         EXPECT_EQ(entries[0]["file"], "empty.dat");
         EXPECT_EQ(entries[0]["points"], 0);
@@ -236,9 +237,9 @@ TEST_F(Chart_Verb, The_Library_Lists_What_It_Finds_And_Why_Not) {
 }
 
 TEST_F(Chart_Verb, A_Picture_Names_Its_Tests_As_Text) {
-    const std::string picture = bench_.folder.Path() + "/chart.svg";
+    const std::string picture = bench.folder.Path() + "/chart.svg";
     static_cast<void>(Chart_With({Write("a<b.csv", ford), Write("jeep.csv", jeep), "-o", picture}));
-    const std::string svg = bench_.folder.Read("chart.svg");
+    const std::string svg = bench.folder.Read("chart.svg");
     EXPECT_NE(svg.find(">1 a&lt;b.csv"), std::string::npos);
     EXPECT_NE(svg.find(">2 jeep.csv  ex  138<"), std::string::npos);
 }
@@ -267,12 +268,12 @@ TEST_F(Chart_Verb, Prints_The_Worked_Examples_Of_The_Document) {
                           "--cam",
                           ".5"};
     No_Painter painter;
-    EXPECT_EQ(Run_Chart(Chart_Options_From(call), painter, out_, errors_), 0);
-    EXPECT_EQ(out_.str(), Worked_Example("    $ kestrum-cli chart"));
-    out_.str("");
+    EXPECT_EQ(Run_Chart(Chart_Options_From(call), painter, out, errors), 0);
+    EXPECT_EQ(out.str(), Worked_Example("    $ kestrum-cli chart"));
+    out.str("");
     const std::array folder{"examples"};
-    EXPECT_EQ(Run_Library(Library_Options_From(folder), out_, errors_), 0);
-    EXPECT_EQ(out_.str(), Worked_Example("    $ kestrum-cli library"));
+    EXPECT_EQ(Run_Library(Library_Options_From(folder), out, errors), 0);
+    EXPECT_EQ(out.str(), Worked_Example("    $ kestrum-cli library"));
 }
 
 /// Labels keep their order, stay within the frame and never touch.
