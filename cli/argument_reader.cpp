@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace kestrum::cli {
 
@@ -53,6 +54,18 @@ int Argument_Reader::Whole_Value(int least, int most) {
     if (failure != std::errc() || end != last || number < least || number > most) {
         throw Wrong_Call(option + " wants a number from " + Numeric_Text{}.Plain(least) + " to " +
                          Numeric_Text{}.Plain(most));
+    }
+    return number;
+}
+
+double Argument_Reader::Positive_Value() {
+    const std::string option(argument_);
+    const std::string_view text = Value();
+    const char* const last = text.data() + text.size();
+    double number = 0;
+    const auto [end, failure] = std::from_chars(text.data(), last, number);
+    if (failure != std::errc() || end != last || !std::isfinite(number) || !(number > 0)) {
+        throw Wrong_Call(option + " wants a number above 0");
     }
     return number;
 }

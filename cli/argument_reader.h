@@ -41,6 +41,9 @@ public:
     /// The value as a whole number within two limits. Raises `Usage_Error` for any other.
     [[nodiscard]] int Whole_Value(int least, int most);
 
+    /// The value as a finite number above 0. Raises `Usage_Error` for any other.
+    [[nodiscard]] double Positive_Value();
+
     /// The place of the value in a list of names. Raises `Usage_Error` for any other.
     [[nodiscard]] int Choice(std::initializer_list<std::string_view> names);
 

@@ -10,20 +10,11 @@ constexpr std::string_view usage =
     "kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
     "       kestrum-cli calc [--metric] [--csv | --json] --files-from -";
 
-void Take_Format(const Argument_Reader& reader, Calc_Options& options, Calc_Format format) {
-    if (options.format != Calc_Format::Text && options.format != format) {
-        throw reader.Wrong_Call("--csv and --json exclude each other");
-    }
-    options.format = format;
-}
-
 void Take_Option(Argument_Reader& reader, Calc_Options& options) {
     if (reader.Is("--metric")) {
         options.metric = true;
-    } else if (reader.Is("--csv")) {
-        Take_Format(reader, options, Calc_Format::Csv);
-    } else if (reader.Is("--json")) {
-        Take_Format(reader, options, Calc_Format::Json);
+    } else if (Takes_Format(reader, options.format)) {
+        return;
     } else if (reader.Is("--files-from")) {
         if (reader.Value() != "-") {
             throw reader.Wrong_Call("--files-from reads standard input alone: --files-from -");

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "cli/output_format.h"
+
 #include <span>
 #include <string>
 #include <vector>
 
 namespace kestrum::cli {
 
-enum class Calc_Format { Text, Csv, Json };
+using Calc_Format = Output_Format;
 
 /// How `kestrum-cli calc` was called.
 struct Calc_Options {

@@ -1,9 +1,8 @@
 #include "cli/calc_output.h"
 
 #include "cli/calc_tables.h"
+#include "cli/json_text.h"
 #include "cli/line_text.h"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 
@@ -12,22 +11,6 @@ namespace kestrum::cli {
 namespace {
 
 constexpr std::string_view before_lift = ", lift ";
-
-/// Adds a text as it stands between the quotes of JSON. Texts are nearly always plain, and the
-/// thousands of a long run need not be built as objects.
-void Append_Json_Letters(std::string& out, std::string_view text) {
-    const bool is_plain = std::ranges::all_of(text, [](char letter) {
-        return letter >= ' ' && letter <= '~' && letter != '"' && letter != '\\';
-    });
-    if (is_plain) {
-        out += text;
-        return;
-    }
-    constexpr int one_line = -1;
-    const std::string quoted =
-        nlohmann::json(text).dump(one_line, ' ', false, nlohmann::json::error_handler_t::replace);
-    out.append(quoted, 1, quoted.size() - 2);
-}
 
 void Append_Member(std::string& out, std::string_view key, std::string_view text) {
     out += '"';

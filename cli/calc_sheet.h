@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/start_texts.h"
 #include "core/null_platform.h"
 #include "core/session.h"
+#include "core/start_texts.h"
 #include "output/flow_figures.h"
 
 #include <string>

@@ -1,11 +1,8 @@
 #include "cli/convert_options.h"
 
-#include "base/text.h"
 #include "cli/argument_reader.h"
 #include "cli/line_text.h"
 
-#include <algorithm>
-#include <array>
 #include <filesystem>
 
 namespace kestrum::cli {
@@ -14,23 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Format_Name {
-    std::string_view name;
-    std::string_view ending;
-    Test_Format format;
-    bool can_be_written = false;
-};
-
-constexpr auto formats = std::to_array<Format_Name>({
-    {"ptpfa", "pti", Test_Format::Ptpfa},
-    {"flw", "flw", Test_Format::Flw},
-    {"dfw", "dfw", Test_Format::Dfw, true},
-    {"dyn", "dyn", Test_Format::Dyn},
-    {"dym", "dym", Test_Format::Dym},
-    {"csv", "csv", Test_Format::Csv, true},
-    {"dat", "dat", Test_Format::Dat, true},
-});
-
 constexpr std::string_view usage =
     "kestrum-cli convert FILE... -o FILE|FOLDER [--to dat|dfw|csv]\n"
     "           [--from ptpfa|flw|dfw|dyn|dym|csv|dat] [--engine-analyzer] [--metric]\n"
@@ -38,11 +18,11 @@ constexpr std::string_view usage =
 
 Test_Format Format_Of_Value(Argument_Reader& reader, bool to_write) {
     const std::string_view name = reader.Value();
-    const auto* const found = std::ranges::find(formats, name, &Format_Name::name);
-    if (found == formats.end() || (to_write && !found->can_be_written)) {
+    const std::optional<Test_Format> format = Format_Named(name);
+    if (!format || (to_write && !Can_Be_Written(*format))) {
         throw reader.Wrong_Call("the format " + Quoted(name) + " is not known");
     }
-    return found->format;
+    return *format;
 }
 
 /// What the arguments say, before it is known what lies at the output.
@@ -121,25 +101,11 @@ Convert_Options Convert_Options_From(std::span<const char* const> arguments) {
     if (!to && !options.into_folder) {
         to = Format_Of_Ending(options.output);
     }
-    const auto* const format =
-        to ? std::ranges::find(formats, *to, &Format_Name::format) : formats.end();
-    if (format == formats.end() || !format->can_be_written) {
+    if (!to || !Can_Be_Written(*to)) {
         throw reader.Wrong_Call("the format to write is not known: use --to");
     }
     options.to = *to;
     return options;
-}
-
-std::optional<Test_Format> Format_Of_Ending(std::string_view path) {
-    const std::string ending = Lower_Copy(fs::path(path).extension().string());
-    const auto* const found = std::ranges::find_if(formats, [&](const Format_Name& entry) {
-        return ending.size() == entry.ending.size() + 1 && ending.ends_with(entry.ending);
-    });
-    return found == formats.end() ? std::nullopt : std::optional(found->format);
-}
-
-std::string_view Ending_Of_Format(Test_Format format) {
-    return std::ranges::find(formats, format, &Format_Name::format)->ending;
 }
 
 } // namespace kestrum::cli

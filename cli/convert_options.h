@@ -1,16 +1,14 @@
 #pragma once
 
 #include "cli/usage_error.h"
+#include "exchange/test_formats.h"
 
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace kestrum::cli {
-
-enum class Test_Format { Ptpfa, Flw, Dfw, Dyn, Dym, Csv, Dat };
 
 /// How `kestrum-cli convert` was called.
 struct Convert_Options {
@@ -35,11 +33,5 @@ struct Convert_Options {
 
 /// Says that several files cannot go into one.
 [[nodiscard]] Usage_Error Several_Files_Refused(const std::string& output);
-
-/// The format that goes with a file's ending, nothing for an unknown one.
-[[nodiscard]] std::optional<Test_Format> Format_Of_Ending(std::string_view path);
-
-/// The ending of a format that can be written: "dat".
-[[nodiscard]] std::string_view Ending_Of_Format(Test_Format format);
 
 } // namespace kestrum::cli

@@ -1,26 +1,20 @@
 #include "cli/convert_sheet.h"
 
 #include "base/run_time_error.h"
-#include "engine/unit_conversion.h"
 #include "exchange/csv_export.h"
-#include "exchange/csv_import.h"
 #include "exchange/dfw_export.h"
-#include "exchange/flow_import.h"
-#include "exchange/ptpfa_import.h"
+#include "exchange/test_formats.h"
 #include "files/flow_data_file.h"
+#include "files/started_sheets.h"
 #include "platform/file_store.h"
 #include "platform/new_file.h"
-#include "sheet/flow_calculation.h"
 
 namespace kestrum::cli {
 
 namespace {
 
-/// As at a start: the stored test is calculated in US units, then the metric box is set.
-Flow_Sheet& Started_Sheet(Session& session, bool metric) {
-    Flow_Sheet& sheet = session.Sheet(1);
-    Calc_Flow_Test(session, sheet);
-    Set_Metric(session, metric);
+Flow_Sheet& Sheet_Without_Flow(Session& session, bool metric) {
+    Flow_Sheet& sheet = Started_Sheets(session, 1, metric);
     // A file whose calculation fails before its rows must not go out with the stored test's flow.
     for (int row = zero_lift_row; row <= last_lift_row; ++row) {
         sheet.Text102(row).Set_Text("");
@@ -53,24 +47,11 @@ std::string Not_Saved(Test_Format format) {
     }
 }
 
-Flow_Layout Layout_Of(Test_Format format) {
-    switch (format) {
-    case Test_Format::Dfw:
-        return Flow_Layout::Dfw;
-    case Test_Format::Dyn:
-        return Flow_Layout::Dyn;
-    case Test_Format::Dym:
-        return Flow_Layout::Dym;
-    default:
-        return Flow_Layout::Flw;
-    }
-}
-
 } // namespace
 
 Convert_Sheet::Convert_Sheet(bool metric)
     : session_(platform_, platform_, Surroundings{}),
-      sheet_(Started_Sheet(session_, metric)),
+      sheet_(Sheet_Without_Flow(session_, metric)),
       sheet_texts_(sheet_),
       engine_texts_(session_.Main()) {}
 
@@ -93,17 +74,8 @@ bool Convert_Sheet::Load(const std::string& path, Test_Format format) {
 }
 
 bool Convert_Sheet::Read(const std::string& bytes, Test_Format format) {
-    if (format == Test_Format::Ptpfa) {
-        return Read_PTPFA_Lines(session_, sheet_, bytes);
-    }
-    if (format == Test_Format::Csv) {
-        return Read_CSV_Rows(session_, sheet_, bytes);
-    }
-    if (format != Test_Format::Dat) {
-        return Read_Flow_Lines(session_, sheet_, Layout_Of(format), bytes);
-    }
-    const bool read = Read_Flow_Records(session_, sheet_, bytes);
-    if (read) {
+    const bool read = Read_Test(session_, sheet_, format, bytes);
+    if (read && format == Test_Format::Dat) { // the readers of the others tell it themselves
         Tell_Count(session_.file.records_read, " Records Read");
     }
     return read;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "cli/convert_options.h"
-#include "cli/start_texts.h"
 #include "core/null_platform.h"
 #include "core/session.h"
+#include "core/start_texts.h"
 #include "exchange/dfw_export.h"
 
 #include <string>

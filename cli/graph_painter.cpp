@@ -39,6 +39,10 @@ std::string Late_Painter::Picture_Of(const Drawing& drawing, Picture_Format form
     return Loaded().Picture_Of(drawing, format, logo);
 }
 
+std::string Late_Painter::Picture_Of(const Figure& figure, Picture_Format format) {
+    return Loaded().Picture_Of(figure, format);
+}
+
 void Late_Painter::Use(const Picture_Settings& settings) {
     Loaded().Use(settings);
 }

@@ -4,11 +4,10 @@
 #include "application/version.h"
 #include "cli/line_text.h"
 #include "core/logo_picture.h"
-#include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
+#include "files/started_sheets.h"
 #include "output/graph_saving.h"
 #include "platform/file_store.h"
-#include "sheet/flow_calculation.h"
 
 #include <array>
 #include <utility>
@@ -31,11 +30,7 @@ Surroundings Around(const Clock& clock) {
 
 Graph_Session::Graph_Session(const Graph_Options& options, std::ostream& errors, const Clock& clock)
     : errors_(errors), session_(platform_, platform_, Around(clock)) {
-    // As at a start: the stored tests are calculated in US units, then the metric box is set.
-    for (const int number : {from_sheet, to_sheet}) {
-        Calc_Flow_Test(session_, session_.Sheet(number));
-    }
-    Set_Metric(session_, options.metric);
+    static_cast<void>(Started_Sheets(session_, to_sheet, options.metric));
     for (const Control& control : session_.Sheet(from_sheet).Controls()) {
         start_texts_.push_back(control.Text());
     }

@@ -1,8 +1,10 @@
 #include "application/version.h"
 #include "cli/calc_run.h"
+#include "cli/chart_run.h"
 #include "cli/convert_run.h"
 #include "cli/graph_painter.h"
 #include "cli/graph_run.h"
+#include "cli/library_run.h"
 #include "cli/line_text.h"
 #include "cli/print_run.h"
 #include "cli/report_run.h"
@@ -73,6 +75,19 @@ int Report(std::span<const char* const> arguments) {
                       std::cout, std::cerr);
 }
 
+int Chart(std::span<const char* const> arguments) {
+    Chart_Options options = Chart_Options_From(arguments);
+    options.to_terminal = Prints_To_Terminal();
+    Late_Painter painter;
+    return Run_Chart(options, painter, std::cout, std::cerr);
+}
+
+int List_Library(std::span<const char* const> arguments) {
+    Library_Options options = Library_Options_From(arguments);
+    options.to_terminal = Prints_To_Terminal();
+    return Run_Library(options, std::cout, std::cerr);
+}
+
 int Tell_Version(std::span<const char* const> /*arguments*/) {
     std::cout << "kestrum-cli " << kestrum::Program_Version() << '\n';
     return 0;
@@ -90,6 +105,8 @@ constexpr auto verbs = std::to_array<Verb>({{"script", Run_Script},
                                             {"graph", Draw},
                                             {"print", Print},
                                             {"report", Report},
+                                            {"chart", Chart},
+                                            {"library", List_Library},
                                             {"--version", Tell_Version}});
 
 int Run_Verb(std::span<const char* const> arguments) {
@@ -106,6 +123,8 @@ int Run_Verb(std::span<const char* const> arguments) {
         "       kestrum-cli graph FROM.dat TO.dat --type 0..17 -o FILE.png\n"
         "       kestrum-cli print FILE.dat... -o FILE.pdf\n"
         "       kestrum-cli report [--main FILE.dta] [--config FILE.cfg] FILE.dat...\n"
+        "       kestrum-cli chart FILE... [-o FILE.svg|FILE.pdf|FILE.png]\n"
+        "       kestrum-cli library FOLDER\n"
         "       kestrum-cli --version");
 }
 

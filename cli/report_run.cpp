@@ -3,13 +3,12 @@
 #include "cli/line_text.h"
 #include "cli/standard_streams.h"
 #include "core/null_platform.h"
-#include "engine/unit_conversion.h"
 #include "files/flow_data_file.h"
 #include "files/main_data_file.h"
 #include "files/report_config.h"
+#include "files/started_sheets.h"
 #include "output/text_report.h"
 #include "platform/file_store.h"
-#include "sheet/flow_calculation.h"
 
 #include <functional>
 
@@ -28,11 +27,7 @@ class Report_Run {
 public:
     Report_Run(const Report_Options& options, const std::string& folder, std::ostream& errors)
         : options_(options), errors_(errors), session_(platform_, platform_, In_Folder(folder)) {
-        // As at a start, but for the session file, which could bring numbers of its own.
-        for (int number = 1; number <= sheet_count; ++number) {
-            Calc_Flow_Test(session_, session_.Sheet(number));
-        }
-        Set_Metric(session_, options.metric);
+        static_cast<void>(Started_Sheets(session_, sheet_count, options.metric));
         platform_.Clear();
     }
 

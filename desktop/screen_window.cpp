@@ -5,6 +5,7 @@
 #include "desktop/body.h"
 #include "desktop/frame_view.h"
 #include "desktop/help_line.h"
+#include "desktop/library_window.h"
 #include "desktop/menus.h"
 #include "desktop/print_preview.h"
 #include "desktop/test_entries.h"
@@ -89,6 +90,7 @@ void Screen_Window::Make_Content() {
     Add_Test_Entries(*bar, session_, gate_, keeper_, *screen_);
     edit_menu_ = new Edit_Menu(*this, *bar, gate_, *help_);
     Add_Go_Menu(*this, *bar, session_, gate_, *screen_);
+    Add_Library_Entry(*bar, session_, gate_, *screen_);
     if (bar->actions().isEmpty()) {
         delete bar;
     } else {

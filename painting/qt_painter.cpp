@@ -1,6 +1,7 @@
 #include "painting/qt_painter.h"
 
 #include "base/run_time_error.h"
+#include "painting/figure_painter.h"
 #include "painting/page_painter.h"
 #include "painting/picture_area.h"
 #include "painting/png_writer.h"
@@ -104,6 +105,11 @@ QImage Qt_Painter::Image_Of(const std::string& file) const {
     } catch (const Run_Time_Error&) {
         return {};
     }
+}
+
+std::string Qt_Painter::Picture_Of(const Figure& figure, Picture_Format format) {
+    constexpr int usual_dots = 144;
+    return Figure_Bytes(figure, format, settings_.dots_per_inch.value_or(usual_dots));
 }
 
 std::string Qt_Painter::Pdf_Of(const Document& document, Paper_Size paper) {

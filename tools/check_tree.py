@@ -14,9 +14,9 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 # Who may include whom: a folder includes itself and folders of a lower rank.
 RANKS = {"base": 0, "platform": 1, "screens": 1, "drawing": 2, "core": 3,
-         "records": 4, "engine": 4, "sheet": 4, "graph": 4, "presentation": 4,
-         "files": 5, "exchange": 5, "output": 5,
-         "painting": 3, "application": 6, "desktop": 7, "cli": 7, "tests": 8, "bench": 9, "fuzz": 9}
+         "records": 4, "engine": 4, "sheet": 4, "graph": 4, "chart": 4, "presentation": 4,
+         "files": 5, "output": 5, "exchange": 6, "library": 7,
+         "painting": 3, "application": 8, "desktop": 9, "cli": 9, "tests": 10, "bench": 11, "fuzz": 11}
 
 QT_PLACES = re.compile(r"desktop/|painting/|tests/(?:desktop/|graph_painting)|bench/(?:desktop|bare_window|graph_bench)")
 QT_INCLUDE = re.compile(r"^[ \t]*#[ \t]*include[ \t]*[<\"]((?:Qt?[A-Z]|q[a-z]+\.h|private/q)[^>\"]*)", re.M)

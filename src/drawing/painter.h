@@ -2,6 +2,7 @@
 
 #include "base/run_time_error.h"
 #include "drawing/drawing.h"
+#include "drawing/figure.h"
 #include "drawing/paper.h"
 
 #include <optional>
@@ -41,6 +42,13 @@ struct Painter {
     /// cannot be shown and 75 for a picture that cannot be made.
     [[nodiscard]] virtual std::string Picture_Of(const Drawing& drawing, Picture_Format format,
                                                  const std::optional<Placed_Logo>& logo) = 0;
+
+    /// The bytes of a picture file of a figure; SVG needs no painter. Raises 481 without anything
+    /// to paint with, 75 for a picture that cannot be made.
+    [[nodiscard]] virtual std::string Picture_Of(const Figure& /*figure*/,
+                                                 Picture_Format /*format*/) {
+        Fail(error::invalid_picture);
+    }
 
     /// How the pictures to come are made.
     virtual void Use(const Picture_Settings& /*settings*/) {}

@@ -40,6 +40,38 @@ std::string Name_As_Held(const fs::path& folder, const std::string& wanted) {
     return first;
 }
 
+struct Time_Marks {
+    std::string_view before_hour;
+    std::string_view at_end;
+};
+
+std::string Time_Of_File(const std::string& path, std::tm* (*broken_down)(const time_t*, std::tm*),
+                         const Time_Marks& marks) {
+    struct stat facts {};
+
+    std::tm moment{};
+    if (::stat(path.c_str(), &facts) != 0 || broken_down(&facts.st_mtime, &moment) == nullptr) {
+        return {};
+    }
+    std::string text;
+    const auto put = [&text](int number, std::size_t digits, std::string_view mark) {
+        const std::size_t at = text.size();
+        text.append(digits, '0');
+        for (std::size_t digit = digits; digit > 0 && number > 0; --digit, number /= 10) {
+            text[at + digit - 1] = static_cast<char>('0' + number % 10);
+        }
+        text += mark;
+    };
+    constexpr int first_year = 1900;
+    put(moment.tm_year + first_year, 4, "-");
+    put(moment.tm_mon + 1, 2, "-");
+    put(moment.tm_mday, 2, marks.before_hour);
+    put(moment.tm_hour, 2, ":");
+    put(moment.tm_min, 2, ":");
+    put(moment.tm_sec, 2, marks.at_end);
+    return text;
+}
+
 } // namespace
 
 std::string Join_Path(std::string_view folder, std::string_view name) {
@@ -97,29 +129,11 @@ void Move_File(const std::string& from, const std::string& to) {
 }
 
 std::string Time_Of_File(const std::string& path) {
-    struct stat facts {};
+    return Time_Of_File(path, ::localtime_r, {.before_hour = " ", .at_end = ""});
+}
 
-    std::tm local{};
-    if (::stat(path.c_str(), &facts) != 0 || ::localtime_r(&facts.st_mtime, &local) == nullptr) {
-        return {};
-    }
-    std::string text;
-    const auto put = [&text](int number, std::size_t digits, std::string_view mark) {
-        const std::size_t stem_length = text.size();
-        text.append(digits, '0');
-        for (std::size_t digit = digits; digit > 0 && number > 0; --digit, number /= 10) {
-            text[stem_length + digit - 1] = static_cast<char>('0' + number % 10);
-        }
-        text += mark;
-    };
-    constexpr int first_year = 1900;
-    put(local.tm_year + first_year, 4, "-");
-    put(local.tm_mon + 1, 2, "-");
-    put(local.tm_mday, 2, " ");
-    put(local.tm_hour, 2, ":");
-    put(local.tm_min, 2, ":");
-    put(local.tm_sec, 2, "");
-    return text;
+std::string Utc_Time_Of_File(const std::string& path) {
+    return Time_Of_File(path, ::gmtime_r, {.before_hour = "T", .at_end = "Z"});
 }
 
 } // namespace kestrum

@@ -30,6 +30,8 @@ namespace kestrum {
 void Move_File(const std::string& from, const std::string& to);
 /// When a file was last written, in local time, as "2026-11-22 21:15:00"; empty when unknown.
 [[nodiscard]] std::string Time_Of_File(const std::string& path);
+/// The same in universal time, as "2026-11-22T21:15:00Z".
+[[nodiscard]] std::string Utc_Time_Of_File(const std::string& path);
 
 /// No text file of the program comes near this size, and none above it is read or written: a wrong
 /// file must not cost all the memory.

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace kestrum::cli {
+namespace kestrum {
 
 /// Remembers the texts of a screen, so that each file of a batch finds it as the first did. To put
 /// back what a file has changed is far cheaper than a new screen.
@@ -18,6 +18,7 @@ public:
         static_cast<void>(screen.Take_Changes());
     }
 
+    /// Gives every text that was changed since back.
     void Put_Back() {
         const Control* const first = screen_.Controls().data();
         for (Control* const control : screen_.Take_Changes()) {
@@ -30,4 +31,4 @@ private:
     std::vector<std::string> texts_;
 };
 
-} // namespace kestrum::cli
+} // namespace kestrum

@@ -1,0 +1,48 @@
+#include "chart/axis_scale.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kestrum {
+
+std::vector<double> Axis_Scale::Ticks() const {
+    std::vector<double> ticks;
+    const auto first = static_cast<long long>(std::round(low / step));
+    const auto last = static_cast<long long>(std::round(high / step));
+    for (long long count = first; count <= last; ++count) {
+        ticks.push_back(static_cast<double>(count) * step);
+    }
+    return ticks;
+}
+
+Axis_Scale Round_Scale(double low, double high, int about_steps) {
+    if (!(high > low)) {
+        high = low + (low == 0 ? 1 : std::abs(low) / 2);
+    }
+    constexpr double tens = 10;
+    const double rough = (high - low) / about_steps;
+    const double power = std::floor(std::log10(rough));
+    const double unit = std::pow(tens, power);
+
+    struct Round_Step {
+        double size;
+        int more_decimals;
+    };
+
+    constexpr std::array sizes{Round_Step{1, 0}, Round_Step{2, 0}, Round_Step{2.5, 1},
+                               Round_Step{5, 0}, Round_Step{10, -1}};
+    const auto* const found = std::ranges::find_if(
+        sizes, [&](const Round_Step& size) { return size.size * unit >= rough * (1 - 1e-9); });
+    const Round_Step& round = found == sizes.end() ? sizes.back() : *found;
+    Axis_Scale scale;
+    scale.step = round.size * unit;
+    scale.decimals = std::max(0, round.more_decimals - static_cast<int>(power));
+    // A hair beyond a tick needs no step of its own.
+    constexpr double hair = 1e-6;
+    scale.low = std::floor(low / scale.step + hair) * scale.step;
+    scale.high = std::ceil(high / scale.step - hair) * scale.step;
+    return scale;
+}
+
+} // namespace kestrum

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+namespace kestrum {
+
+/// The round numbers of an axis.
+struct Axis_Scale {
+    double low = 0;
+    double high = 1;
+    double step = 1;
+    int decimals = 0; // that its numbers need
+
+    [[nodiscard]] std::vector<double> Ticks() const;
+};
+
+/// An axis over a range in about so many steps of 1, 2, 2.5 or 5 tenths, ones, tens... It ends at
+/// its ticks.
+[[nodiscard]] Axis_Scale Round_Scale(double low, double high, int about_steps);
+
+} // namespace kestrum

@@ -1,0 +1,115 @@
+#include "library/library.h"
+
+#include "chart/chart.h"
+#include "library/test_reader.h"
+#include "platform/file_store.h"
+
+#include <algorithm>
+#include <exception>
+#include <thread>
+
+namespace kestrum {
+
+namespace {
+
+Library_Peak Peak_Of(const Chart_Curve& curve) {
+    if (!curve.peak) {
+        return {};
+    }
+    return {.flow = curve.peak->value, .lift = curve.peak->lift};
+}
+
+/// The reading of one folder by several threads, which take test after test.
+class Library_Reading {
+public:
+    Library_Reading(const Library_Request& request, std::vector<Found_Test> tests)
+        : request_(request), entries_(tests.size()) {
+        for (std::size_t at = 0; at < tests.size(); ++at) {
+            entries_[at].file = std::move(tests[at].file);
+            entries_[at].format = tests[at].format;
+        }
+    }
+
+    [[nodiscard]] std::vector<Library_Entry> Run() {
+        const std::size_t jobs = std::min<std::size_t>(std::max(request_.jobs, 1U),
+                                                       std::max<std::size_t>(entries_.size(), 1));
+        {
+            std::vector<std::jthread> helpers;
+            for (std::size_t job = 1; job < jobs; ++job) {
+                helpers.emplace_back([this] { Work(); });
+            }
+            Work();
+        }
+        if (is_given_up_) {
+            entries_.clear();
+        }
+        return std::move(entries_);
+    }
+
+private:
+    void Work() {
+        Test_Reader reader(request_.metric);
+        while (!is_given_up_) {
+            const std::size_t at = next_++;
+            if (at >= entries_.size()) {
+                return;
+            }
+            Read(reader, entries_[at]);
+            if (request_.goes_on && !request_.goes_on(++read_)) {
+                is_given_up_ = true;
+            }
+        }
+    }
+
+    void Read(Test_Reader& reader, Library_Entry& entry) const {
+        const std::string path = Join_Path(request_.folder, entry.file);
+        try {
+            Test_Reading reading = reader.Read(path, entry.format);
+            if (!reading.figures) {
+                entry.problem = std::move(reading.problem);
+                return;
+            }
+            entry.figures = Library_Figures_Of(*reading.figures, entry.file);
+            entry.figures.date = Utc_Time_Of_File(path);
+        } catch (const std::exception& failure) { // a thread must not end the program
+            entry.problem = failure.what();
+        }
+    }
+
+    const Library_Request& request_;
+    std::vector<Library_Entry> entries_;
+    std::atomic<std::size_t> next_ = 0;
+    std::atomic<std::size_t> read_ = 0;
+    std::atomic<bool> is_given_up_ = false;
+};
+
+} // namespace
+
+Library_Figures Library_Figures_Of(const Test_Figures& test, const std::string& file) {
+    const std::array tests{Chart_Test{.file = file, .figures = test}};
+    const Chart chart = Curves_Of(tests, {});
+    const Chart_Entry& entry = chart.tests.front();
+    return {.name = entry.name,
+            .intake_valve = test.intake.valve_diameter,
+            .exhaust_valve = test.exhaust.valve_diameter,
+            .port_volume = test.port_volume,
+            .pressure = test.pressure,
+            .points = test.flow_rows,
+            .intake_peak = Peak_Of(entry.sides.intake),
+            .exhaust_peak = Peak_Of(entry.sides.exhaust),
+            .intake_mean = entry.sides.intake.mean,
+            .exhaust_mean = entry.sides.exhaust.mean,
+            .ratio = entry.ratio,
+            .date = {}};
+}
+
+std::vector<Library_Entry> Read_Library(const Library_Request& request,
+                                        std::vector<Found_Test> tests) {
+    return Library_Reading(request, std::move(tests)).Run();
+}
+
+unsigned Usual_Jobs() {
+    return std::max(std::thread::hardware_concurrency(), 1U);
+}
+
+} // namespace kestrum
