@@ -2,6 +2,8 @@
 
 #include "platform/file_store.h"
 
+#include <nlohmann/json.hpp>
+
 namespace kestrum::cli {
 
 bool Headless_Shell::Open(const std::string& address) {

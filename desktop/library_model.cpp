@@ -60,7 +60,7 @@ QVariant Library_Model::data(const QModelIndex& index, int role) const {
                             ? Qt::AlignRight | Qt::AlignVCenter
                             : Qt::AlignLeft | Qt::AlignVCenter);
     case Qt::ForegroundRole:
-        return entry.problem ? QVariant(QColor::fromRgb(theme::failure)) : QVariant();
+        return entry.problem ? QVariant(QColor::fromRgb(theme::Colours().failure)) : QVariant();
     default:
         return {};
     }

@@ -57,7 +57,8 @@ std::string Words_Of_Command(const Control& control) {
     std::ranges::replace(words, '\r', ' ');
     std::erase(words, '\n');
     const std::string first = words.substr(0, words.find(' '));
-    return Reads_A_File(first) ? first : words;
+    const bool goes_on = words.starts_with(first + " /"); // "Load / Done" closes a panel
+    return Reads_A_File(first) && !goes_on ? first : words;
 }
 
 /// What can be taken back, at one moment. It costs little: states that have not changed between
@@ -66,6 +67,7 @@ struct Undo_History::Moment {
     std::vector<std::pair<Screen_Id, Screen_State>> screens;
     Variables variables;
     std::size_t canvas_size = 0;
+    double scale = 1;
 
     [[nodiscard]] const Screen_State* State_Of(Screen_Id screen) const {
         const auto found =
@@ -77,7 +79,8 @@ struct Undo_History::Moment {
 Undo_History::Moment Undo_History::Present_Moment() const {
     Moment moment{.screens = {},
                   .variables = {session_.numbers, session_.settings},
-                  .canvas_size = Graph_Of(session_).canvas.Operations().size()};
+                  .canvas_size = Graph_Of(session_).canvas.Operations().size(),
+                  .scale = session_.display.scale_x};
     session_.For_Each_Loaded([&moment](Screen& screen) {
         if (screen.Kind() != Screen_Kind::Graph) {
             moment.screens.emplace_back(screen.Id(), screen.Present_State());
@@ -141,6 +144,12 @@ void Undo_History::End(const std::string& name) {
         return;
     }
     const Moment after = Present_Moment();
+    if (after.scale != before->scale) { // sizes from before the stretch would not fit any more
+        done_.clear();
+        undone_.clear();
+        is_typing_ = false;
+        return;
+    }
     std::vector<Screen_Change> changes = Changes_Since(*before, after);
     const bool has_work = std::ranges::any_of(changes, &Screen_Change::is_work) ||
                           With_Tools_Of(before->variables.settings, after.variables.settings) !=
@@ -210,9 +219,33 @@ void Undo_History::Typed(const Control& field, const Control_State& before,
 void Undo_History::Keep(Step step) {
     undone_.clear();
     done_.push_back(std::move(step));
-    if (done_.size() > most_steps) {
+    std::size_t bytes = 0;
+    const auto too_old =
+        std::ranges::find_if(done_.rbegin(), done_.rend(), [&bytes](const Step& one) {
+            bytes += Bytes_Of(one);
+            return bytes > most_bytes;
+        });
+    const auto kept = static_cast<std::size_t>(too_old - done_.rbegin());
+    while (done_.size() > std::clamp<std::size_t>(kept, 1, most_steps)) {
         done_.pop_front();
     }
+}
+
+/// About what a step holds.
+std::size_t Undo_History::Bytes_Of(const Step& step) {
+    std::size_t bytes = sizeof(Step) + step.strokes.size() * sizeof(Draw_Operation);
+    for (const Screen_Change& change : step.screens) {
+        bytes += sizeof(Screen_Change) + change.texts.before.size() + change.texts.after.size() +
+                 change.texts.indices.size() * sizeof(std::uint16_t);
+        for (const Control_Change& control : change.controls) {
+            bytes +=
+                sizeof(Control_Change) + control.before.text.size() + control.after.text.size();
+        }
+        for (const auto* const whole : {&change.before, &change.after}) {
+            bytes += *whole ? (*whole)->controls->size() * sizeof(Control_State) : 0;
+        }
+    }
+    return bytes;
 }
 
 std::optional<std::string> Undo_History::Undo_Name() const {
@@ -286,7 +319,11 @@ void Undo_History::Put(const Screen_Change& change, bool back) {
         texts.remove_prefix(length + 1);
     }
     for (const Control_Change& control : change.controls) {
-        controls[control.index].Set_State(back ? control.before : control.after);
+        Control_State state = back ? control.before : control.after;
+        if (controls[control.index].Entry().kind == Control_Kind::Frame) {
+            state.look.visible = controls[control.index].Present_Look().visible; // no panel opens
+        }
+        controls[control.index].Set_State(state);
     }
 }
 

@@ -48,6 +48,8 @@ public:
     bool Redo();
 
     static constexpr std::size_t most_steps = 200;
+    /// The oldest steps go when all together hold more.
+    static constexpr std::size_t most_bytes = std::size_t{8} << 20U;
 
 private:
     struct Moment;
@@ -98,6 +100,7 @@ private:
     [[nodiscard]] std::optional<Screen_Change>
     Change_Of(const Screen& screen, const Screen_State& before, const Screen_State& after) const;
     void Keep(Step step);
+    [[nodiscard]] static std::size_t Bytes_Of(const Step& step);
     void Look_At_Canvas(const Moment& before, const Variables& present);
     void Put(const Step& step, bool back);
     void Put(const Screen_Change& change, bool back);
