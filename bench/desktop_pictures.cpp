@@ -72,9 +72,8 @@ private:
     static constexpr int settling = 250;
 
     void Open_Example() {
-        program_.Its_Gate().Enter([this] {
-            Load_Flow_File(session_, session_.Sheet(1), "pictures.dat");
-        });
+        program_.Its_Gate().Enter(
+            [this] { Load_Flow_File(session_, session_.Sheet(1), "pictures.dat"); });
         Wait(settling);
     }
 

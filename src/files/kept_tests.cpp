@@ -18,7 +18,7 @@ std::string Path_Of_Test(const Session& session, std::string_view name) {
 }
 
 std::string Name_In_Last_Session(int sheet_number) {
-    return "last-" + std::to_string(sheet_number);
+    return "last-" + std::string(1, static_cast<char>('0' + sheet_number));
 }
 
 /// The first line of a kept test, a comment to every reader: what its numbers are written in.
@@ -28,7 +28,11 @@ std::string Notation_Of(Session& session) {
 }
 
 bool Is_As_Brought(Session& session, const Flow_Sheet& sheet) {
+    if (session.numbers.comma_mode != 0 || session.Main().Is_Metric()) {
+        return false; // the program brings its sample in another notation
+    }
     Flow_Sheet fresh(sheet.Id().number);
+    Calc_Flow_Test(session, fresh);
     return Flow_File_Text(session, fresh) == Flow_File_Text(session, sheet);
 }
 
