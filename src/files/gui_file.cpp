@@ -8,7 +8,6 @@
 #include "records/records.h"
 #include "sheet/flow_calculation.h"
 
-#include <algorithm>
 #include <array>
 
 namespace kestrum {
@@ -78,7 +77,7 @@ public:
         if (!lower_.starts_with(start)) {
             return false;
         }
-        value_ = line_.substr(std::min(start.size() + skipped, line_.size()));
+        value_ = Middle(line_, start.size() + skipped + 1); // whole characters
         return true;
     }
 
@@ -228,7 +227,7 @@ std::string GUI_Text(Session& session) {
 void Write_GUI(Session& session) {
     try {
         session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, gui_files);
-        Write_Whole_File(session.file.path, GUI_Text(session));
+        Keep_File(session, session.file.path, GUI_Text(session));
     } catch (const Run_Time_Error&) {
         session.Message("GUI File has NOT been Saved");
         return;

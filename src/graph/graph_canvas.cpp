@@ -3,6 +3,7 @@
 #include "base/real.h"
 #include "graph/graph_state.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -112,8 +113,13 @@ int Graph_Canvas::Text_Colour() const {
 void Stretch_Graph_Canvas(Session& session) {
     const Display_Scale& display = session.display;
     Graph_State& graph = Graph_Of(session);
-    graph.plot_right = static_cast<int>(std::nearbyint(display.canvas_x_size - 1));
-    graph.plot_bottom = static_cast<int>(std::nearbyint(display.canvas_y_size - 1));
+    // No display is so large; whatever tells of one, no number may run over.
+    constexpr double last_place = 32767;
+    const auto place = [](double size) {
+        return static_cast<int>(std::min(std::nearbyint(size - 1), last_place));
+    };
+    graph.plot_right = place(display.canvas_x_size);
+    graph.plot_bottom = place(display.canvas_y_size);
     // An overlay goes by the axes of the graph that stands; there may be none yet.
     if (graph.x_per_unit != 0) {
         graph.x_per_unit = (graph.x_high - graph.x_low) / display.canvas_x_size;

@@ -141,7 +141,9 @@ TEST(Windows, The_Frame_Of_Main_Ends_The_Session) {
     EXPECT_NE(bench.folder.Read("rescue/Form1.dat").find("mine"), std::string::npos);
     bench.Widget("Main.Command51").window()->close();
     EXPECT_FALSE(bench.program.Its_Session().Is_Loaded("Main"));
-    EXPECT_EQ(bench.folder.Names(), std::vector<std::string>{"zxqw1234.sav"});
+    EXPECT_EQ(bench.folder.Names(), (std::vector<std::string>{"kept-tests", "zxqw1234.sav"}));
+    EXPECT_NE(bench.folder.Read("kept-tests/last-1.dat").find("mine"), std::string::npos)
+        << "the sheet that was worked on can be brought back";
     EXPECT_EQ(bench.program.Exit_Status(), 0);
 }
 
