@@ -114,7 +114,7 @@ void Stretch_Graph_Canvas(Session& session) {
     const Display_Scale& display = session.display;
     Graph_State& graph = Graph_Of(session);
     // No display is so large; whatever tells of one, no number may run over.
-    constexpr double last_place = 32767;
+    static constexpr double last_place = 32767;
     const auto place = [](double size) {
         return static_cast<int>(std::min(std::nearbyint(size - 1), last_place));
     };
