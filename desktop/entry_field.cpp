@@ -191,7 +191,7 @@ bool Entry_Field::Moves_Away(const QKeyEvent& event) {
 
 /// The keypad of a keyboard has one key for the decimals, whatever its layout calls it.
 QString Entry_Field::Typed_By(const QKeyEvent& event) const {
-    const QString typed = Typed_Characters(event);
+    QString typed = Typed_Characters(event);
     const bool is_decimal_key = event.modifiers().testFlag(Qt::KeypadModifier) &&
                                 (typed == QLatin1String(".") || typed == QLatin1String(","));
     if (!is_decimal_key || control.Entry().filter == Key_Filter::Every_Key) {

@@ -267,7 +267,7 @@ void Screen_Window::Keep_What_Closes() {
 }
 
 QString Screen_Window::Title() const {
-    const QString caption = To_Qt(screen_->caption);
+    QString caption = To_Qt(screen_->caption);
     if (screen_->Kind() != Screen_Kind::Sheet) {
         return caption;
     }
