@@ -105,7 +105,7 @@ const Side_Colours& Colour_Scheme::Of(Side side) const {
 
 double Contrast_Of(QRgb one, QRgb other) {
     constexpr double glare = 0.05; // of the room
-    const auto [darker, lighter] = std::minmax(Luminance(one), Luminance(other));
+    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
     return (lighter + glare) / (darker + glare);
 }
 
