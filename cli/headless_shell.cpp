@@ -1,6 +1,6 @@
 #include "cli/headless_shell.h"
 
-#include "platform/file_store.h"
+#include "platform/sound_file.h"
 
 #include <nlohmann/json.hpp>
 
@@ -13,7 +13,7 @@ bool Headless_Shell::Open(const std::string& address) {
 
 bool Headless_Shell::Play(const std::string& path) {
     printer_.Print({{"sound", path}});
-    return File_Exists(path);
+    return Is_Sound_File(path);
 }
 
 } // namespace kestrum::cli

@@ -5,8 +5,8 @@
 
 namespace kestrum::cli {
 
-/// A system that takes whatever it is handed, and is only told of. Of a sound it asks no more than
-/// that there is such a file, for nobody listens.
+/// A system that takes whatever it is handed, and is only told of. Of a sound it asks that it is
+/// one, though nobody listens.
 class Headless_Shell : public Shell {
 public:
     explicit Headless_Shell(Event_Printer& printer) : printer_(printer) {}

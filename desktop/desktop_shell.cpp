@@ -1,8 +1,7 @@
 #include "desktop/desktop_shell.h"
 
-#include "base/run_time_error.h"
 #include "desktop/text_bridge.h"
-#include "platform/open_file.h"
+#include "platform/sound_file.h"
 
 #include <QDesktopServices>
 #include <QProcess>
@@ -22,17 +21,6 @@ struct Player {
 
 constexpr std::array<Player, 5> players{
     {{"pw-play", ""}, {"paplay", ""}, {"aplay", "-q"}, {"play", "-q"}, {"afplay", ""}}};
-
-bool Is_Wave_File(const std::string& path) {
-    constexpr std::size_t kind_at = 8;
-    constexpr std::size_t head_size = 12;
-    try {
-        const std::string head = Open_To_Read(path).Piece(0, head_size);
-        return head.starts_with("RIFF") && head.substr(kind_at) == "WAVE";
-    } catch (const Run_Time_Error&) {
-        return false;
-    }
-}
 
 bool Start(const Player& player, const QString& path) {
     const QString program = QStandardPaths::findExecutable(QString::fromLatin1(player.program));
@@ -59,7 +47,7 @@ bool Desktop_Shell::Open(const std::string& address) {
 }
 
 bool Desktop_Shell::Play(const std::string& path) {
-    if (!Is_Wave_File(path)) {
+    if (!Is_Sound_File(path)) {
         return false;
     }
     for (const Player& player : players) {

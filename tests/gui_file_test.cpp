@@ -83,6 +83,19 @@ TEST_F(GUI_File, A_Group_Is_Taken_With_Its_Last_Line) {
     EXPECT_EQ(Font_Of("Form1.Text101(7)"), Font{});
 }
 
+TEST_F(GUI_File, Is_Read_With_Either_Decimal_Mark) {
+    for (const int comma_mode : {0, 1}) {
+        bench_.session.numbers.comma_mode = comma_mode;
+        for (const char* const size : {"8.25", "8,25"}) {
+            EXPECT_EQ(Read(std::string("All Box Main Font Name = Mono\nAll Box Main Font Size = ") +
+                           size + "\nAll Box Main Font Italic = 0"),
+                      Events{"plain box: 3 Records Read"});
+            EXPECT_EQ(Font_Of("Main.Text101(7)"), (Font{.name = "Mono", .size = 8.25}));
+            Read("All Box Main Font Size = 9\nAll Box Main Font Italic = 0");
+        }
+    }
+}
+
 TEST_F(GUI_File, Flush_Right_Calculates_All_Sheets) {
     bench_.Close("Form3");
     const auto figures = [this] {

@@ -125,6 +125,15 @@ TEST(Bench_Day, A_Line_That_Nobody_Knows_Stops_The_Loading_If_The_User_Wants) {
     EXPECT_EQ(Texts(result), (Strings{"203", "210", "2.386"}));
 }
 
+TEST(Bench_Day, A_Sound_That_Is_None_Is_Told) {
+    const Temp_Folder folder;
+    folder.Write("text.wav", "RIFF and no more");
+    folder.Write("bell.wav", "RIFF....WAVE");
+    const Script_Result result = Run_Script_In(folder, "choose text.wav\nclick Main.Command49\n"
+                                                       "choose bell.wav\nclick Main.Command49\n");
+    EXPECT_EQ(Boxes(result), Strings{"Problem with your \"WAV\" File"});
+}
+
 TEST(Bench_Day, An_Engine_Is_Sized_From_The_Head) {
     const Script_Result result = Run_Script(R"(
 type Main.Text101(8) 26

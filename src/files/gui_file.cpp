@@ -54,12 +54,12 @@ std::string Key_Of(const Font_Group& group, std::string_view property) {
     return std::string(group.name).append(" Font ").append(property);
 }
 
-bool Truth_Of(const Numeric_Text& numbers, std::string_view text) {
+bool Truth_Of(Numeric_Text& numbers, std::string_view text) {
     const std::string word = Lower_Copy(Without_Outer_Blanks(text));
     if (word == "true" || word == "false") {
         return word == "true";
     }
-    return numbers.Read(text) != 0;
+    return numbers.Read_Either_Mark(text) != 0;
 }
 
 /// A line "key = value". Keys are read without regard to case, values as they stand.
@@ -112,7 +112,7 @@ bool Put_Font(Session& session, Gui_Line& line) {
 
 void Put_Alignment(Session& session, std::string_view value) {
     const Alignment mode =
-        Choice_Of<Alignment>(session.numbers.Read_Integer(value), Alignment::Center);
+        Choice_Of<Alignment>(session.numbers.Read_Integer_Either_Mark(value), Alignment::Center);
     session.numbers.align_mode = mode;
     if (Box_Of_Main(session).Present_Look().alignment != mode) {
         Apply_Alignment(session);
@@ -125,7 +125,8 @@ void Put_Alignment(Session& session, std::string_view value) {
 void Put_Graph_Colour(Session& session, std::string_view value) {
     Control& canvas = session.Form60().Picture1;
     Look look = canvas.Present_Look();
-    look.text_colour = Colour_Of(session.numbers.Read_Long(value));
+    look.text_colour =
+        Colour_Of(session.numbers.Read_Long(session.numbers.Text_To_Number_String(value)));
     canvas.Set_Look(look);
 }
 

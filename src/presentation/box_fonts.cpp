@@ -9,10 +9,10 @@ namespace {
 
 enum class Boxes { All, Entry };
 
-Font Answered_Font(const Session& session) {
+Font Answered_Font(Session& session) {
     constexpr std::size_t longest_name = 255; // each box keeps it
     const Font_Answer& answer = session.answers.font;
-    const double size = session.numbers.Read(answer.size).Value();
+    const double size = session.numbers.Read_Either_Mark(answer.size).Value();
     if (answer.name.empty() || answer.name.size() > longest_name || !Is_Font_Size(size)) {
         Fail(error::invalid_property_value);
     }

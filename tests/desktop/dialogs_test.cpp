@@ -103,6 +103,7 @@ TEST(Sounds, Are_Played_By_A_Program_Of_Their_Own_And_Only_If_They_Are_Sounds) {
     };
     write("a b.wav", QByteArray("RIFF\x04\0\0\0WAVE", 12));
     write("text.wav", "no sound");
+    write("cut.wav", "RIFF");
     Desktop_Shell shell;
     const auto plays = [&](const char* name) { return shell.Play(From_Qt(path(name))); };
     const QByteArray usual_path = qgetenv("PATH");
@@ -113,6 +114,7 @@ TEST(Sounds, Are_Played_By_A_Program_Of_Their_Own_And_Only_If_They_Are_Sounds) {
                        path("played").toLocal8Bit() + "\"\nexec /bin/sleep 1\n");
     QFile::setPermissions(path("aplay"), QFile::ReadOwner | QFile::ExeOwner);
     EXPECT_FALSE(plays("text.wav"));
+    EXPECT_FALSE(plays("cut.wav"));
     EXPECT_FALSE(plays("gone.wav"));
     EXPECT_TRUE(plays("a b.wav"));
     qputenv("PATH", usual_path);
