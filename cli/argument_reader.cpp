@@ -51,6 +51,10 @@ int Argument_Reader::Whole_Value(int least, int most) {
     const char* const last = text.data() + text.size();
     int number = 0;
     const auto [end, failure] = std::from_chars(text.data(), last, number);
+    if (failure == std::errc::result_out_of_range && end == last && most == no_limit &&
+        !text.starts_with('-')) {
+        return no_limit;
+    }
     if (failure != std::errc() || end != last || number < least || number > most) {
         throw Wrong_Call(option + " wants a number from " + Numeric_Text{}.Plain(least) + " to " +
                          Numeric_Text{}.Plain(most));

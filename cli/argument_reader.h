@@ -3,6 +3,7 @@
 #include "cli/usage_error.h"
 
 #include <initializer_list>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -38,7 +39,10 @@ public:
     /// `Usage_Error` when there is none.
     [[nodiscard]] std::string_view Value();
 
-    /// The value as a whole number within two limits. Raises `Usage_Error` for any other.
+    static constexpr int no_limit = std::numeric_limits<int>::max();
+
+    /// The value as a whole number within two limits; with `no_limit` a larger one counts as that.
+    /// Raises `Usage_Error` for any other.
     [[nodiscard]] int Whole_Value(int least, int most);
 
     /// The value as a finite number above 0. Raises `Usage_Error` for any other.

@@ -26,8 +26,7 @@ void Take_Option(Argument_Reader& reader, Library_Options& options) {
             throw reader.Wrong_Call("there is no column " + Quoted(name));
         }
     } else if (reader.Is("--jobs")) {
-        constexpr int most_jobs = 256;
-        options.jobs = static_cast<unsigned>(reader.Whole_Value(1, most_jobs));
+        options.jobs = static_cast<unsigned>(reader.Whole_Value(1, Argument_Reader::no_limit));
     } else {
         throw reader.Unknown_Option();
     }

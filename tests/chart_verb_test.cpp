@@ -173,6 +173,16 @@ TEST_F(Chart_Verb, Metric_Files_Go_Through_The_Switch_Of_The_Units) {
     EXPECT_NEAR(Chart_With({file})["tests"][0]["intake"]["points"][0][0], 0.00254, 1e-12);
 }
 
+/// A flow that comes out as 0 takes its depression along. A second calculation would then correct
+/// it by the pressures of the head, which make ten times of it, and find a point.
+TEST_F(Chart_Verb, A_Test_Is_Calculated_Once) {
+    const std::string file =
+        Write("once.dat", "Text102_8 = \r\nText108_7 = .01\r\nText108_8 = 1\r\n"
+                          "Text101_17 = 100\r\nText106_17 = .01\r\nText210_17 = 4000\r\n");
+    EXPECT_TRUE(Chart_With({file})["tests"][0]["intake"]["points"].empty());
+    EXPECT_TRUE(Chart_With({file, "--metric"})["tests"][0]["intake"]["points"].empty());
+}
+
 TEST_F(Chart_Verb, The_Files_That_Can_Be_Read_Make_The_Chart) {
     const json chart = Chart_With({bench.folder.Path() + "/none.dat", Write("ford.csv", ford)});
     EXPECT_EQ(status, 1);
@@ -192,8 +202,12 @@ TEST_F(Chart_Verb, Wrong_Calls_Are_Refused) {
     for (const std::vector<const char*>& call : calls) {
         EXPECT_THROW(static_cast<void>(Chart_Options_From(call)), Usage_Error);
     }
-    for (const std::vector<const char*>& call : std::vector<std::vector<const char*>>{
-             {"f", "--jobs", "0"}, {"f", "--sort", "colour"}, {"f", "g"}, {}}) {
+    for (const std::vector<const char*>& call :
+         std::vector<std::vector<const char*>>{{"f", "--jobs", "0"},
+                                               {"f", "--jobs", "-99999999999"},
+                                               {"f", "--sort", "colour"},
+                                               {"f", "g"},
+                                               {}}) {
         EXPECT_THROW(static_cast<void>(Library_Options_From(call)), Usage_Error);
     }
 }
@@ -210,7 +224,8 @@ TEST_F(Chart_Verb, The_Library_Lists_What_It_Finds_And_Why_Not) {
     fs::create_directory_symlink("..", folder / "sub" / "circle");
     fs::create_symlink("nowhere", folder / "lost.dat");
 
-    for (const unsigned jobs : {1U, 3U}) {
+    const std::array many{"folder", "--jobs", "99999999999"};
+    for (const unsigned jobs : {1U, 3U, Library_Options_From(many).jobs}) {
         const std::vector<json> entries = Listed({.jobs = jobs});
         EXPECT_EQ(status, 1);
         ASSERT_EQ(entries.size(), 5U);

@@ -7,7 +7,6 @@
 #include "exchange/lift_rows.h"
 #include "platform/file_store.h"
 #include "records/named_files.h"
-#include "sheet/flow_calculation.h"
 
 namespace kestrum {
 
@@ -43,9 +42,9 @@ void Tell_Count(Session& session, const Csv_Table& table) {
     session.Message(text);
 }
 
-bool Calculated(Session& session, Flow_Sheet& sheet) {
+bool Calculated(Session& session, Flow_Sheet& sheet, Flow_Calculation calculate) {
     try {
-        Calc_Flow_Test(session, sheet);
+        calculate(session, sheet);
     } catch (const Run_Time_Error& failure) {
         session.Message("Error Number " + session.numbers.Fmt_Whole(failure.Number()) + " -- " +
                             failure.Description() +
@@ -70,7 +69,8 @@ void Import_CSV_File(Session& session, Flow_Sheet& sheet) {
     Read_CSV_Rows(session, sheet, bytes);
 }
 
-bool Read_CSV_Rows(Session& session, Flow_Sheet& sheet, std::string_view bytes) {
+bool Read_CSV_Rows(Session& session, Flow_Sheet& sheet, std::string_view bytes,
+                   Flow_Calculation calculate) {
     Csv_Table table;
     try {
         table = Read_Csv_Table(session.numbers, session.Main().Is_Metric(), Decoded(bytes));
@@ -80,7 +80,7 @@ bool Read_CSV_Rows(Session& session, Flow_Sheet& sheet, std::string_view bytes) 
     }
     session.file.records_read = table.rows_read;
     Put_Rows(sheet, table);
-    const bool calculated = Calculated(session, sheet);
+    const bool calculated = Calculated(session, sheet, calculate);
     sheet.Text39.Set_Text(session.file.path);
     Tell_Count(session, table);
     return calculated;

@@ -5,7 +5,6 @@
 #include "exchange/lift_rows.h"
 #include "platform/file_store.h"
 #include "records/named_files.h"
-#include "sheet/flow_calculation.h"
 
 namespace kestrum {
 
@@ -88,7 +87,7 @@ private:
 };
 
 bool Read_And_Merge(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
-                    std::string_view content) {
+                    std::string_view content, Flow_Calculation calculate) {
     Flow_Points points;
     if (Read_Flow_Points(session, sheet, layout, content, points) != Flow_Reading::Done) {
         session.Message("NO Flow Infomation Found!!!");
@@ -100,7 +99,7 @@ bool Read_And_Merge(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
         session.Message("NOT ALL Flow Infomation Could be Pocessed!!!");
     }
     Apply_Decimal_Mode(session.numbers, sheet);
-    Calc_Flow_Test(session, sheet);
+    calculate(session, sheet);
     return true;
 }
 
@@ -122,10 +121,10 @@ void Import_Flow_File(Session& session, Flow_Sheet& sheet) {
 }
 
 bool Read_Flow_Lines(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
-                     std::string_view bytes) {
+                     std::string_view bytes, Flow_Calculation calculate) {
     const std::string content = Decoded(bytes);
     try {
-        if (!Read_And_Merge(session, sheet, layout, content)) {
+        if (!Read_And_Merge(session, sheet, layout, content, calculate)) {
             return false;
         }
     } catch (const Run_Time_Error&) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/session.h"
 #include "exchange/flow_series.h"
+#include "sheet/flow_calculation.h"
 
 #include <string_view>
 
@@ -13,6 +13,6 @@ void Import_Flow_File(Session& session, Flow_Sheet& sheet);
 /// The same from a file's bytes. Gives whether the file was read to its end and the sheet
 /// calculated.
 bool Read_Flow_Lines(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
-                     std::string_view bytes);
+                     std::string_view bytes, Flow_Calculation calculate = Calc_Flow_Test);
 
 } // namespace kestrum

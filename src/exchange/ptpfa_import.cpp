@@ -6,7 +6,6 @@
 #include "exchange/ptpfa_reader.h"
 #include "platform/file_store.h"
 #include "records/named_files.h"
-#include "sheet/flow_calculation.h"
 
 namespace kestrum {
 
@@ -35,7 +34,8 @@ void Import_PTPFA_File(Session& session, Flow_Sheet& sheet) {
     static_cast<void>(Read_PTPFA_Lines(session, sheet, bytes));
 }
 
-bool Read_PTPFA_Lines(Session& session, Flow_Sheet& sheet, std::string_view bytes) {
+bool Read_PTPFA_Lines(Session& session, Flow_Sheet& sheet, std::string_view bytes,
+                      Flow_Calculation calculate) {
     const std::string content = Decoded(bytes);
     try {
         Empty_Lift_Rows(sheet);
@@ -43,7 +43,7 @@ bool Read_PTPFA_Lines(Session& session, Flow_Sheet& sheet, std::string_view byte
         reader.Read(content);
         Apply_Decimal_Mode(session.numbers, sheet);
         reader.Apply_Decimal_Mode_To_Engine();
-        Calc_Flow_Test(session, sheet);
+        calculate(session, sheet);
     } catch (const Run_Time_Error& failure) {
         Report_Failure(session, failure);
         return false;

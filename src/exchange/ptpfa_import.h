@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session.h"
+#include "sheet/flow_calculation.h"
 
 #include <string_view>
 
@@ -12,6 +12,7 @@ void Import_PTPFA_File(Session& session, Flow_Sheet& sheet);
 
 /// The same from a file's bytes; the ending of the session's `file_path` tells the layout. Gives
 /// whether the file was read to its end and the sheet calculated.
-bool Read_PTPFA_Lines(Session& session, Flow_Sheet& sheet, std::string_view bytes);
+bool Read_PTPFA_Lines(Session& session, Flow_Sheet& sheet, std::string_view bytes,
+                      Flow_Calculation calculate = Calc_Flow_Test);
 
 } // namespace kestrum

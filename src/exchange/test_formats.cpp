@@ -80,16 +80,17 @@ bool Can_Be_Written(Test_Format format) {
     return Entry_Of(format).can_be_written;
 }
 
-bool Read_Test(Session& session, Flow_Sheet& sheet, Test_Format format, std::string_view bytes) {
+bool Read_Test(Session& session, Flow_Sheet& sheet, Test_Format format, std::string_view bytes,
+               Flow_Calculation calculate) {
     switch (format) {
     case Test_Format::Ptpfa:
-        return Read_PTPFA_Lines(session, sheet, bytes);
+        return Read_PTPFA_Lines(session, sheet, bytes, calculate);
     case Test_Format::Csv:
-        return Read_CSV_Rows(session, sheet, bytes);
+        return Read_CSV_Rows(session, sheet, bytes, calculate);
     case Test_Format::Dat:
-        return Read_Flow_Records(session, sheet, bytes);
+        return Read_Flow_Records(session, sheet, bytes, calculate);
     default:
-        return Read_Flow_Lines(session, sheet, Layout_Of(format), bytes);
+        return Read_Flow_Lines(session, sheet, Layout_Of(format), bytes, calculate);
     }
 }
 

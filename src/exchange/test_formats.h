@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session.h"
+#include "sheet/flow_calculation.h"
 
 #include <optional>
 #include <string_view>
@@ -24,6 +25,7 @@ enum class Test_Format { Ptpfa, Flw, Dfw, Dyn, Dym, Csv, Dat };
 
 /// Reads a file's bytes into a sheet and calculates it, by the reader of its format; the session's
 /// `file.path` names the file. Gives whether it was read to its end.
-bool Read_Test(Session& session, Flow_Sheet& sheet, Test_Format format, std::string_view bytes);
+bool Read_Test(Session& session, Flow_Sheet& sheet, Test_Format format, std::string_view bytes,
+               Flow_Calculation calculate = Calc_Flow_Test);
 
 } // namespace kestrum

@@ -5,7 +5,6 @@
 #include "platform/file_store.h"
 #include "records/named_files.h"
 #include "records/record_reading.h"
-#include "sheet/flow_calculation.h"
 
 #include <algorithm>
 #include <array>
@@ -191,7 +190,8 @@ void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) 
     sheet.Text39.Set_Text(session.file.path);
 }
 
-bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes) {
+bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes,
+                       Flow_Calculation calculate) {
     const std::string content = Decoded(bytes);
     Line_Reader lines(content);
     const auto put = [&](const Record& record) {
@@ -203,7 +203,7 @@ bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view byt
             return false;
         }
         Apply_Decimal_Mode(session.numbers, sheet);
-        Calc_Flow_Test(session, sheet);
+        calculate(session, sheet);
     } catch (const Run_Time_Error&) {
         Report_Bad_Record(session, lines.Line());
         return false;

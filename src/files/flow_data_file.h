@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/session.h"
+#include "sheet/flow_calculation.h"
 
 #include <string>
 #include <string_view>
@@ -18,7 +18,8 @@ void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name);
 
 /// Reads a file's bytes into a sheet and calculates it, with all its boxes but the closing count.
 /// Gives whether the file was read to its end.
-bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes);
+bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view bytes,
+                       Flow_Calculation calculate = Calc_Flow_Test);
 
 /// Puts a rescued copy into a sheet without calculating it. Unless the copy was written with
 /// another separator, every text comes back as it stood. Raises what the reading raises.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <system_error>
 #include <thread>
 
 namespace kestrum {
@@ -31,13 +32,9 @@ public:
     }
 
     [[nodiscard]] std::vector<Library_Entry> Run() {
-        const std::size_t jobs = std::min<std::size_t>(std::max(request_.jobs, 1U),
-                                                       std::max<std::size_t>(entries_.size(), 1));
         {
             std::vector<std::jthread> helpers;
-            for (std::size_t job = 1; job < jobs; ++job) {
-                helpers.emplace_back([this] { Work(); });
-            }
+            Start(helpers);
             Work();
         }
         if (is_given_up_) {
@@ -47,6 +44,20 @@ public:
     }
 
 private:
+    /// Helpers beside the thread that asks. No processor count makes use of more, and where the
+    /// system gives fewer the tests are read by those.
+    void Start(std::vector<std::jthread>& helpers) {
+        constexpr std::size_t most_jobs = 256;
+        const std::size_t jobs = std::min({std::size_t{request_.jobs}, entries_.size(), most_jobs});
+        try {
+            for (std::size_t job = 1; job < jobs; ++job) {
+                helpers.emplace_back([this] { Work(); });
+            }
+        } catch (const std::system_error&) {
+            return;
+        }
+    }
+
     void Work() {
         Test_Reader reader(request_.metric);
         while (!is_given_up_) {

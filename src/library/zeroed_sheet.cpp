@@ -93,26 +93,23 @@ void Zeroed_Sheet::Note_Unnamed() {
     }
 }
 
-bool Zeroed_Sheet::Fill_Empty_Header() {
-    bool filled = false;
+void Zeroed_Sheet::Fill_Empty_Header() {
     for (const Header_Cell& header : header_) {
         if (header.cell->Text().empty() && !header.text.empty()) {
             header.cell->Set_Text(header.text);
-            filled = true;
         }
     }
-    return filled;
 }
 
 std::optional<Test_Figures> Zeroed_Sheet::Read(const std::string& path, Test_Format format,
                                                std::string_view bytes) {
     Start_Over();
     session_.file.path = path;
-    if (!Read_Test(session_, sheet_, format, bytes)) {
+    // Calculated when the header is whole and in US units: a calculation writes into inputs.
+    if (!Read_Test(session_, sheet_, format, bytes, Take_Valve_Counts)) {
         return std::nullopt;
     }
-    Note_Unnamed();
-    return Finished(Fill_Empty_Header());
+    return Finished();
 }
 
 std::optional<Test_Figures> Zeroed_Sheet::Take(const Screen& other) {
@@ -123,18 +120,16 @@ std::optional<Test_Figures> Zeroed_Sheet::Take(const Screen& other) {
             cell.Set_Text(other.Controls()[at].Text());
         }
     }
-    Note_Unnamed();
-    static_cast<void>(Fill_Empty_Header());
-    return Finished(true);
+    return Finished();
 }
 
-std::optional<Test_Figures> Zeroed_Sheet::Finished(bool must_calculate) {
+std::optional<Test_Figures> Zeroed_Sheet::Finished() {
+    Note_Unnamed();
+    Fill_Empty_Header();
     try {
         Set_Metric(session_, false);
-        if (metric_ || must_calculate) {
-            Empty_Results();
-            Calc_Flow_Test(session_, sheet_);
-        }
+        Empty_Results();
+        Calc_Flow_Test(session_, sheet_);
     } catch (const Run_Time_Error& failure) {
         platform_.Note(failure.Description());
         return std::nullopt;

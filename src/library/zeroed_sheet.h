@@ -35,13 +35,12 @@ public:
     [[nodiscard]] std::string Problem() const;
 
 private:
-    void Empty_Rows();
     void Mark_Header();
     void Start_Over();
     void Empty_Results();
-    [[nodiscard]] bool Fill_Empty_Header();
+    void Fill_Empty_Header();
     void Note_Unnamed();
-    [[nodiscard]] std::optional<Test_Figures> Finished(bool must_calculate);
+    [[nodiscard]] std::optional<Test_Figures> Finished();
 
     bool metric_;
     Null_Platform platform_;

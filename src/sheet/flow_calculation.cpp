@@ -46,9 +46,13 @@ void Calc_Flow(Session& session, Flow_Sheet& sheet, const Flow_Units& units) {
 
 } // namespace
 
-void Calc_Flow_Test(Session& session, Flow_Sheet& sheet) {
+void Take_Valve_Counts(Session& session, Flow_Sheet& sheet) {
     Sheets_Of(session).intake_valves = session.numbers.Read_Integer(sheet.Text106(6));
     Sheets_Of(session).exhaust_valves = session.numbers.Read_Integer(sheet.Text108(6));
+}
+
+void Calc_Flow_Test(Session& session, Flow_Sheet& sheet) {
+    Take_Valve_Counts(session, sheet);
     Calc_Flow(session, sheet, session.Main().Is_Metric() ? Metric_Flow_Units() : Us_Flow_Units());
 }
 

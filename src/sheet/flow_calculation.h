@@ -11,6 +11,13 @@ namespace kestrum {
 /// before its handler begins.
 void Calc_Flow_Test(Session& session, Flow_Sheet& sheet);
 
+/// What a reader does with a sheet that it has filled.
+using Flow_Calculation = void (*)(Session&, Flow_Sheet&);
+
+/// The beginning of `Calc_Flow_Test`, by which a file is refused: raises the same errors of valve
+/// counts and changes no field. For a sheet that is to be completed before its calculation.
+void Take_Valve_Counts(Session& session, Flow_Sheet& sheet);
+
 /// The same for all five sheets in turn, each created at need.
 void Calc_All_Flow_Tests(Session& session);
 
