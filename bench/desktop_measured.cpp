@@ -1,14 +1,17 @@
 // The desktop program, which measures how long it takes to paint. Told by its environment:
-// KESTRUM_BENCH is "start" (until `Main` is painted) or "sheet" (then the first sheet as well),
-// BENCH_T0 the moment before the start. It prints the figures and ends.
+// KESTRUM_BENCH is "start" (until `Main` is painted), "sheet" (then the first sheet as well) or
+// "adapt" (all screens stretched to the display and painted again), BENCH_T0 the moment before the
+// start. It prints the figures and ends.
 
 #include "application/events.h"
 #include "desktop/desktop_run.h"
 #include "desktop/program.h"
 
-#include <QCoreApplication>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstdio>
@@ -69,7 +72,63 @@ void Report(const Figures& figures) {
     QCoreApplication::exit(0); // and nothing is written
 }
 
+/// Notes when the last of what had to be painted was on the display.
+class Paint_Watch : public QObject {
+public:
+    Paint_Watch() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !noting_) {
+            noting_ = true;
+            QTimer::singleShot(0, this, [this] { // when this round of painting is over
+                QGuiApplication::sync();
+                last_ = Now();
+                noting_ = false;
+            });
+        }
+        return false;
+    }
+
+    /// Waits until nothing has been painted for a while, and gives the moment of the last paint.
+    Nanoseconds Last_Paint() const {
+        constexpr Nanoseconds calm = 500'000'000;
+        const Nanoseconds start = Now();
+        while (Now() - std::max(start, last_) < calm) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        }
+        return last_;
+    }
+
+private:
+    Nanoseconds last_ = 0;
+    bool noting_ = false;
+};
+
+/// Every screen stands open, so all windows are resized and painted.
+void Measure_Adaptation(Program& program) {
+    Session& session = program.Its_Session();
+    const Paint_Watch watch;
+    for (const Screen_Id id : all_screens) {
+        program.Its_Gate().Enter([&] { session.Show(session.The(id)); });
+    }
+    static_cast<void>(watch.Last_Paint());
+    const Nanoseconds start = Now();
+    program.Its_Gate().Enter_Command(
+        [&session] { Click(session, *session.Main().Find("FullScrRes", {})); });
+    const Nanoseconds returned = Now();
+    const std::string line = R"({"adapted_ms":)" + Milliseconds(returned - start) +
+                             R"(,"repainted_ms":)" + Milliseconds(watch.Last_Paint() - start) +
+                             "}\n";
+    std::fputs(line.c_str(), stdout);
+    std::fflush(stdout);
+    QCoreApplication::exit(0);
+}
+
 void Measure(Program& program) {
+    if (qEnvironmentVariable("KESTRUM_BENCH") == QLatin1String("adapt")) {
+        QTimer::singleShot(0, qApp, [&program] { Measure_Adaptation(program); });
+        return;
+    }
     const bool with_sheet = qEnvironmentVariable("KESTRUM_BENCH") == QLatin1String("sheet");
     const auto figures = std::make_shared<Figures>();
     program.Its_Windows().on_new_window = [figures, with_sheet, &program](Screen_Window& window,

@@ -24,7 +24,6 @@ QRect Inside(const QRect& area) {
 Help_Line::Help_Line(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents); // the cell below goes on being pointed at
-    setFont(theme::Text_Font());
     parent->installEventFilter(this);
 }
 

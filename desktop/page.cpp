@@ -341,9 +341,10 @@ void Page::mouseMoveEvent(QMouseEvent* event) {
 }
 
 /// Fields that stand behind a caption come column by column, as the header of a sheet is filled
-/// in; those under headings row by row, as a test is run; all else as it is read.
+/// in; those under headings row by row, as a test is run; all else as it is read, and a picture
+/// last, so that no window begins with it.
 std::vector<QWidget*> Page::Tab_Order() const {
-    enum Group { Behind_Captions, Under_Headings, Others };
+    enum Group { Behind_Captions, Under_Headings, Others, Pictures };
 
     struct Stop {
         Group group;
@@ -352,7 +353,7 @@ std::vector<QWidget*> Page::Tab_Order() const {
     };
 
     std::vector<Stop> stops;
-    int first_row[] = {rows_, rows_, rows_}; // NOLINT(*-avoid-c-arrays)
+    int first_row[] = {rows_, rows_, rows_, rows_}; // NOLINT(*-avoid-c-arrays)
     for (const Item& item : items_) {
         QWidget* const widget = item.view->Widget();
         Group group = Others;
@@ -360,10 +361,14 @@ std::vector<QWidget*> Page::Tab_Order() const {
             Own_Words_Of(item.view->control) == nullptr) {
             group = map_.Is_Under_Heading(item.view->control) ? Under_Headings : Behind_Captions;
         }
+        if (item.view->control.Entry().kind == Control_Kind::Picture) {
+            group = Pictures;
+        }
         first_row[group] = std::min(first_row[group], item.place.row);
         stops.push_back({group, item.place, widget});
     }
     first_row[Others] = rows_;
+    first_row[Pictures] = rows_ + 1;
     std::ranges::stable_sort(stops, {}, [&first_row](const Stop& stop) {
         const bool by_columns = stop.group == Behind_Captions;
         return std::tuple(first_row[stop.group], by_columns ? stop.place.column : stop.place.row,

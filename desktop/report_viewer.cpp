@@ -31,7 +31,6 @@ QFont Letters_Of_One_Width() {
     }
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
-    font.setPixelSize(theme::text_pixels + 1);
     return font;
 }
 
@@ -43,7 +42,6 @@ Report_Viewer::Report_Viewer(Control& its_control, const View_Facts& its_facts, 
     // No caret, so that the arrow keys scroll at once.
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setLineWrapMode(QPlainTextEdit::NoWrap);
-    setFont(Letters_Of_One_Width());
     document()->setDocumentMargin(theme::page_margin);
     hint_->setText(QStringLiteral(
         "Any key that types closes the report; with \".\" it is saved to a file first.  Arrow and "
@@ -51,11 +49,23 @@ Report_Viewer::Report_Viewer(Control& its_control, const View_Facts& its_facts, 
     hint_->setForegroundRole(QPalette::ToolTipText);
     hint_->setBackgroundRole(QPalette::ToolTipBase);
     hint_->setAutoFillBackground(true); // nobody else paints the margin of the text
-    hint_->setFont(theme::Text_Font());
     hint_->setMargin(theme::text_padding);
-    setViewportMargins(0, hint_->sizeHint().height(), 0, 0);
+    Set_Letters();
     Report_Viewer::Name_Anew();
     Report_Viewer::Refresh();
+}
+
+/// As large as those of its window, and a little larger, since they are narrow.
+void Report_Viewer::Set_Letters() {
+    const int pixels = window()->font().pixelSize() + 1;
+    if (font().pixelSize() == pixels) {
+        return;
+    }
+    QFont letters = Letters_Of_One_Width();
+    letters.setPixelSize(pixels);
+    setFont(letters);
+    hint_->setFont(window()->font());
+    setViewportMargins(0, hint_->sizeHint().height(), 0, 0);
 }
 
 void Report_Viewer::Refresh() {
@@ -128,6 +138,7 @@ void Report_Viewer::keyPressEvent(QKeyEvent* event) {
 
 void Report_Viewer::resizeEvent(QResizeEvent* event) {
     Widget_View::resizeEvent(event);
+    Set_Letters();
     hint_->setGeometry(frameWidth(), frameWidth(), width() - 2 * frameWidth(),
                        hint_->sizeHint().height());
 }

@@ -25,6 +25,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void Set_Letters();
     void Show_Text();
     void Open();
     void Give_Focus_Back();

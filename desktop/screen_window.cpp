@@ -13,12 +13,14 @@
 #include "files/kept_tests.h"
 
 #include <QCloseEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 namespace kestrum::desktop {
@@ -146,6 +148,10 @@ void Screen_Window::Set_Tab_Order() const {
         const std::vector<QWidget*> more = cover_->Present_Page()->Tab_Order();
         order.insert(order.end(), more.begin(), more.end());
     }
+    if (order.size() > 2) {
+        // To the toolkit the order is a ring, in which a last one that was made first stays there.
+        QWidget::setTabOrder(order.front(), order.back());
+    }
     for (std::size_t index = 1; index < order.size(); ++index) {
         QWidget::setTabOrder(order[index - 1], order[index]);
     }
@@ -193,12 +199,26 @@ void Screen_Window::Take_Stretched_Place() {
     const Twips place = Place_In_Twips(*screen_);
     const QSizeF wanted(place.width / twips_per_pixel, place.height / twips_per_pixel);
     showNormal();
-    resize(wanted.toSize().expandedTo(sizeHint()).boundedTo(Room()));
+    const QSize usual = sizeHint();
+    const QSize taken = wanted.toSize().expandedTo(usual).boundedTo(Room());
+    Stretch_Letters(
+        std::min(1.0 * taken.width() / usual.width(), 1.0 * taken.height() / usual.height()));
+    resize(taken);
     const QRect room = screen()->availableGeometry();
     const QSize free = room.size() - (size() + window_frame);
     constexpr int least_gap = 25;
     const int above = free.height() / 2 <= least_gap ? 0 : free.height() / 4;
     move(room.topLeft() + QPoint(free.width() / 2, above));
+}
+
+/// Those of the menus, the help line and the report; the pages see to their own.
+void Screen_Window::Stretch_Letters(double growth) {
+    setFont(theme::Text_Font(
+        std::max(1.0, std::floor(theme::text_pixels * growth) / theme::text_pixels)));
+    for (QMenu* const menu : findChildren<QMenu*>()) {
+        menu->setFont(font());
+    }
+    layout()->setContentsMargins(0, 0, 0, help_->Least_Height());
 }
 
 /// Larger letters get a larger window where the display has the room.

@@ -94,6 +94,7 @@ private:
     [[nodiscard]] QSize Usual_Size() const;
     [[nodiscard]] QSize Room() const;
     void Take_Stretched_Place();
+    void Stretch_Letters(double growth);
     void Grow_From(const QSize& page_before);
 
     Session& session_;

@@ -115,6 +115,9 @@ void Screen_Window::Mouse_Down(bool down) {
 
 void Screen_Window::Mouse_On(Control& picture, bool on_logo, Mouse_Action action, double x,
                              double y) {
+    if (screen_ == nullptr) {
+        return;
+    }
     const auto act = [&] {
         Mouse_On_Picture(session_, on_logo ? session_.Form60().Picture2 : picture, action, x, y);
     };

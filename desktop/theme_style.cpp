@@ -1,6 +1,7 @@
 #include "desktop/theme_style.h"
 
 #include "desktop/control_view.h"
+#include "desktop/crisp.h"
 #include "desktop/theme.h"
 
 #include <QApplication>
@@ -81,6 +82,61 @@ void Paint_Option(QPainter& painter, const Indicator& indicator) {
     }
 }
 
+/// A tip that points down, or as far from there as it is turned.
+void Paint_Tip(QPainter& painter, const QRectF& area, double degrees, bool enabled) {
+    constexpr double half = 4;
+    constexpr double thickness = 1.6;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(area.center());
+    painter.rotate(degrees);
+    const QRgb ink = enabled ? theme::Colours().quiet_ink : theme::Colours().faint_ink;
+    painter.setPen(
+        QPen(QColor::fromRgb(ink), thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(
+        QPolygonF{QPointF(-half, -half / 2), QPointF(0, half / 2), QPointF(half, -half / 2)});
+    painter.restore();
+}
+
+/// Qt's own frames are darker than their window, so on a dark one they cannot be seen.
+void Paint_Combo_Box(QPainter& painter, const QStyleOption& option, const QRect& arrow) {
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+    Crisp(painter).Card(option.rect, theme::radius - 1,
+                        focused ? theme::Colours().accent : theme::Colours().line,
+                        enabled ? theme::Colours().card : theme::Colours().window);
+    Paint_Tip(painter, arrow, 0, enabled);
+}
+
+void Paint_Frame(QPainter& painter, const QStyleOption& option) {
+    const Crisp crisp(painter);
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+    crisp.Frame(crisp.Dots_Of(option.rect), crisp.Dots_In(1),
+                focused ? theme::Colours().accent : theme::Colours().line);
+}
+
+/// Where the parts of a scroll bar lie.
+struct Scroll_Bar {
+    QRect back;
+    QRect forth;
+    QRect slider;
+};
+
+void Paint_Scroll_Bar(QPainter& painter, const QStyleOption& option, const Scroll_Bar& bar) {
+    constexpr double margin = 3;
+    const bool lies = option.state.testFlag(QStyle::State_Horizontal);
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    painter.fillRect(option.rect, QColor::fromRgb(theme::Colours().window));
+    Paint_Tip(painter, bar.back, lies ? 90 : 180, enabled);
+    Paint_Tip(painter, bar.forth, lies ? -90 : 0, enabled);
+    if (enabled) {
+        const QRgb colour = theme::Colours().faint_ink;
+        const QRectF across = QRectF(bar.slider).adjusted(0, margin, 0, -margin);
+        const QRectF down = QRectF(bar.slider).adjusted(margin, 0, -margin, 0);
+        Crisp(painter).Card(lies ? across : down, margin, colour, colour);
+    }
+}
+
 /// The sign of a message box: a letter on a disc.
 QIcon Sign(QRgb colour, QChar letter) {
     QIcon icon;
@@ -120,6 +176,10 @@ void Theme_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     if (element == PE_PanelLineEdit && dynamic_cast<const Control_View*>(widget) != nullptr) {
         return; // a cell paints its own back
     }
+    if (element == PE_Frame) {
+        Paint_Frame(*painter, *option);
+        return;
+    }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
@@ -131,6 +191,23 @@ void Theme_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         Paint_Option(*painter, Indicator_Of(*option));
     }
     painter->restore();
+}
+
+void Theme_Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const {
+    const auto part = [&](SubControl which) {
+        return subControlRect(control, option, which, widget);
+    };
+    if (control == CC_ComboBox) {
+        Paint_Combo_Box(*painter, *option, part(SC_ComboBoxArrow));
+    } else if (control == CC_ScrollBar) {
+        Paint_Scroll_Bar(*painter, *option,
+                         {.back = part(SC_ScrollBarSubLine),
+                          .forth = part(SC_ScrollBarAddLine),
+                          .slider = part(SC_ScrollBarSlider)});
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
 }
 
 int Theme_Style::pixelMetric(PixelMetric metric, const QStyleOption* option,

@@ -7,7 +7,7 @@
 
 namespace kestrum::desktop {
 
-/// Qt's own style with the boxes, dots and menus of our theme.
+/// Qt's own style with the boxes, dots, frames and bars of our theme.
 class Theme_Style : public QProxyStyle {
 public:
     Theme_Style();
@@ -19,6 +19,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
                                   const QWidget* widget) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

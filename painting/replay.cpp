@@ -30,6 +30,21 @@ QColor White(double share) {
     return QColor::fromRgbF(1, 1, 1, static_cast<float>(share));
 }
 
+/// What was set on a painter comes back on every way out, a drawing that cannot be painted
+/// included.
+class Kept_State {
+public:
+    explicit Kept_State(QPainter& painter) : painter_(painter) { painter_.save(); }
+
+    Kept_State(const Kept_State&) = delete;
+    Kept_State& operator=(const Kept_State&) = delete;
+
+    ~Kept_State() { painter_.restore(); }
+
+private:
+    QPainter& painter_;
+};
+
 class Qt_Step_Painter : public Step_Painter {
 public:
     explicit Qt_Step_Painter(QPainter& painter) : painter_(painter) {
@@ -124,7 +139,7 @@ void Replay(const Drawing& drawing, const std::optional<Logo_Picture>& logo, QPa
 
 void Paint_Picture(const Drawing& drawing, const std::optional<Logo_Picture>& logo,
                    QPainter& painter, const Picture_Place& place) {
-    painter.save();
+    const Kept_State state(painter);
     painter.setClipRect(place.target.toAlignedRect()); // a curve may run on and on
     painter.fillRect(place.target, Qt::white);
     painter.translate(place.target.topLeft());
@@ -132,7 +147,6 @@ void Paint_Picture(const Drawing& drawing, const std::optional<Logo_Picture>& lo
                   place.target.height() / place.area.height());
     painter.translate(-place.area.topLeft());
     Replay(drawing, logo, painter);
-    painter.restore();
 }
 
 } // namespace kestrum::painting

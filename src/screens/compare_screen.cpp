@@ -9,19 +9,15 @@ namespace {
 using enum Control_Kind;
 using enum Key_Filter;
 
+/// Below the row of the labels.
 constexpr Control_Entry Table_Head(std::string_view array) {
-    return Captions(array, 10, 15, "");
-}
-
-/// The same of a column whose first row is another line of the table.
-constexpr Control_Entry Rest_Of_Head(std::string_view array) {
     return Captions(array, 11, 15, "");
 }
 
-/// Label of a test, over its two columns.
-constexpr Control_Entry Test_Label(std::string_view array, int column) {
+/// Label of a test over its card, since a name is long.
+constexpr Control_Entry Test_Label(std::string_view array, int column, int columns = 3) {
     constexpr int row = 10;
-    return Caption(array, row, "").At(column, row, 2);
+    return Caption(array, row, "").At(column, row, columns);
 }
 
 constexpr Control_Entry Table_Rows(std::string_view array) {
@@ -57,33 +53,35 @@ constexpr std::string_view marker_tip =
     "will not work if both the FROM and TO tests are the same."
 
 constexpr auto compare_table = std::to_array<Control_Entry>({
+    Blanks("Text101", 10, 10),
     Table_Head("Text101"),
     Table_Rows("Text101"),
-    Test_Label("Text102", 1),
-    Rest_Of_Head("Text102"),
+    Test_Label("Text102", 0),
+    Table_Head("Text102"),
     Table_Rows("Text102"),
     Blanks("Text103", 10, 10),
-    Rest_Of_Head("Text103"),
+    Table_Head("Text103"),
     Table_Rows("Text103"),
     Test_Label("Text104", 3),
-    Rest_Of_Head("Text104"),
+    Table_Head("Text104"),
     Table_Rows("Text104"),
     Blanks("Text105", 10, 10),
-    Rest_Of_Head("Text105"),
+    Table_Head("Text105"),
     Table_Rows("Text105"),
+    Blanks("Text106", 10, 10),
     Table_Head("Text106"),
     Table_Rows("Text106"),
-    Test_Label("Text107", 6),
-    Rest_Of_Head("Text107"),
+    Test_Label("Text107", 6, 2),
+    Table_Head("Text107"),
     Table_Rows("Text107"),
     Blanks("Text108", 10, 10),
-    Rest_Of_Head("Text108"),
+    Table_Head("Text108"),
     Table_Rows("Text108"),
-    Test_Label("Text109", 8),
-    Rest_Of_Head("Text109"),
+    Test_Label("Text109", 8, 2),
+    Table_Head("Text109"),
     Table_Rows("Text109"),
     Blanks("Text110", 10, 10),
-    Rest_Of_Head("Text110"),
+    Table_Head("Text110"),
     Table_Rows("Text110"),
 
     Lone(Frame, "Frame1", "Compare Flow").At(0, 0, 2, 6),

@@ -1,3 +1,4 @@
+#include "graph/graph_state.h"
 #include "tests/desktop/desktop_bench.h"
 
 #include <QApplication>
@@ -323,6 +324,36 @@ TEST(Keys, The_Caret_Leaves_A_Field_Only_At_The_Ends_Of_Its_Text) {
     EXPECT_EQ(bench.Focus(), "Form1.Text106(17)");
     bench.Press(Qt::Key_Right);
     EXPECT_EQ(bench.Focus(), "Form1.Text107(17)");
+}
+
+TEST(Keys, The_Graph_Is_Read_And_Drawn_On_Without_A_Mouse) {
+    Desktop_Bench bench;
+    bench.Click("Main.Command50");
+    bench.Click("Form50.Command2");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(bench.Widget("Form60.Picture1").window()));
+    const auto steps = [&bench] {
+        return Graph_Of(bench.program.Its_Session()).canvas.Operations().size();
+    };
+    const std::size_t before = steps();
+    EXPECT_NE(bench.Focus(), "Form60.Picture1") << "the window does not begin with a cross";
+    bench.Tab_To("Form60.Picture1");
+    const std::string middle = bench.Text("Form60.Label19");
+    bench.Press(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_NE(bench.Text("Form60.Label19"), middle);
+    for (int units = 0; units < 10; ++units) {
+        bench.Press(Qt::Key_Left);
+    }
+    EXPECT_EQ(bench.Text("Form60.Label19"), middle);
+    EXPECT_EQ(steps(), before);
+    bench.Click("Form60.Check1");
+    bench.Tab_To("Form60.Picture1");
+    bench.Press(Qt::Key_Space);
+    bench.Press(Qt::Key_Up, Qt::ShiftModifier);
+    const std::size_t drawn = steps();
+    EXPECT_GT(drawn, before);
+    bench.Press(Qt::Key_Space);
+    bench.Press(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(steps(), drawn) << "the line has ended";
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
+#include <QStyle>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -80,6 +81,27 @@ TEST(Looks, Every_Text_Can_Be_Read_In_The_Colours_Of_The_Desktop) {
         }
         EXPECT_NE(scheme.intake.result_text, scheme.exhaust.result_text);
     }
+}
+
+TEST(Looks, Cells_Follow_When_The_Desktop_Changes_Its_Colours) {
+    Desktop_Bench bench;
+    bench.Open_Sheet();
+    const auto back_of = [&bench](std::string_view address) {
+        return bench.Widget(address).grab().toImage().pixel(6, 2);
+    };
+    const QRgb before = back_of("Form1.Text104(6)");
+    for (const Desktop_Colours& desktop : desktops) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, desktop.back);
+        palette.setColor(QPalette::WindowText, desktop.ink);
+        const Colour_Scheme scheme = Scheme_For(palette);
+        QApplication::style()->polish(palette);
+        EXPECT_EQ(back_of("Form1.Text104(6)"), scheme.card) << desktop.name;
+        EXPECT_EQ(back_of("Form1.Text102(20)"), scheme.intake.result_back) << desktop.name;
+    }
+    QPalette usual;
+    QApplication::style()->polish(usual);
+    EXPECT_EQ(back_of("Form1.Text104(6)"), before);
 }
 
 TEST(Looks, The_Valves_Are_Told_Apart_Without_Colours) {
