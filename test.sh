@@ -46,6 +46,10 @@ bench/desktop_start.py --rounds 1
 step "Example cases"
 python3 tests/cases/check.py build/release/kestrum-cli
 
+step "Package"
+./package.sh
+tools/check_package.py
+
 step "clang-tidy"
 cmake --preset tidy -Wno-dev >/dev/null
 tools/run_tidy.py

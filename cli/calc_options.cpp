@@ -1,14 +1,11 @@
 #include "cli/calc_options.h"
 
 #include "cli/argument_reader.h"
+#include "cli/usage_texts.h"
 
 namespace kestrum::cli {
 
 namespace {
-
-constexpr std::string_view usage =
-    "kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
-    "       kestrum-cli calc [--metric] [--csv | --json] --files-from -";
 
 void Take_Option(Argument_Reader& reader, Calc_Options& options) {
     if (reader.Is("--metric")) {
@@ -29,7 +26,7 @@ void Take_Option(Argument_Reader& reader, Calc_Options& options) {
 
 Calc_Options Calc_Options_From(std::span<const char* const> arguments) {
     Calc_Options options;
-    Argument_Reader reader("calc", usage, arguments);
+    Argument_Reader reader("calc", usage::calc, arguments);
     while (reader.Next()) {
         if (reader.Is_Option()) {
             Take_Option(reader, options);

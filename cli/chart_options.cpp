@@ -2,16 +2,11 @@
 
 #include "base/text.h"
 #include "cli/line_text.h"
+#include "cli/usage_texts.h"
 
 namespace kestrum::cli {
 
 namespace {
-
-constexpr std::string_view usage =
-    "kestrum-cli chart FILE... [-o PICTURE.svg|pdf|png] [--csv | --json]\n"
-    "           [--quantity flow|velocity|per-area|cd|effective-cd|swirl]\n"
-    "           [--side intake|exhaust|both] [--at PRESSURE] [--to LIFT] [--cam LIFT]\n"
-    "           [--step LIFT] [--units us|metric] [--metric]";
 
 void Take_Side(Argument_Reader& reader, Chart_Request& request) {
     const int side = reader.Choice({"intake", "exhaust", "both"});
@@ -71,7 +66,7 @@ void Take_Option(Argument_Reader& reader, Chart_Options& options) {
 
 Chart_Options Chart_Options_From(std::span<const char* const> arguments) {
     Chart_Options options;
-    Argument_Reader reader("chart", usage, arguments);
+    Argument_Reader reader("chart", usage::chart, arguments);
     while (reader.Next()) {
         if (reader.Is_Option()) {
             Take_Option(reader, options);

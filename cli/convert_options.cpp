@@ -2,6 +2,7 @@
 
 #include "cli/argument_reader.h"
 #include "cli/line_text.h"
+#include "cli/usage_texts.h"
 
 #include <filesystem>
 
@@ -10,11 +11,6 @@ namespace kestrum::cli {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view usage =
-    "kestrum-cli convert FILE... -o FILE|FOLDER [--to dat|dfw|csv]\n"
-    "           [--from ptpfa|flw|dfw|dyn|dym|csv|dat] [--engine-analyzer] [--metric]\n"
-    "           [--force] [--files-from -]";
 
 Test_Format Format_Of_Value(Argument_Reader& reader, bool to_write) {
     const std::string_view name = reader.Value();
@@ -79,13 +75,13 @@ Arguments Read_Arguments(Argument_Reader& reader) {
 } // namespace
 
 Usage_Error Several_Files_Refused(const std::string& output) {
-    return Argument_Reader("convert", usage, {})
+    return Argument_Reader("convert", usage::convert, {})
         .Wrong_Call("several files need a folder that is there, and " + Quoted(output) +
                     " is none");
 }
 
 Convert_Options Convert_Options_From(std::span<const char* const> arguments) {
-    Argument_Reader reader("convert", usage, arguments);
+    Argument_Reader reader("convert", usage::convert, arguments);
     auto [options, to] = Read_Arguments(reader);
     if (options.files.empty() && !options.names_from_input) {
         throw reader.Wrong_Call("no file is named");

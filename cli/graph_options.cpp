@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "cli/argument_reader.h"
+#include "cli/usage_texts.h"
 #include "graph/compare_types.h"
 
 #include <algorithm>
@@ -12,20 +13,11 @@ namespace kestrum::cli {
 
 namespace {
 
-constexpr std::string_view graph_usage =
-    "kestrum-cli graph FROM.dat TO.dat --type 0..17 [--x lift|intake|exhaust] [--metric]\n"
-    "           [--plus FROM2.dat TO2.dat]... [--y-low N] [--y-high N] [--points] [--quarter]\n"
-    "           [--auto-lines] [--caption TEXT]... [--logo PICTURE] [--dpi N] [--paper a4|letter]\n"
-    "           -o FILE.(png|svg|pdf|bmp)";
-constexpr std::string_view compare_usage =
-    "kestrum-cli compare FROM.dat TO.dat --type 0..17 [--x lift|intake|exhaust]\n"
-    "           [--metric] [--csv]";
-
 /// Takes the arguments of both verbs, of which one draws.
 class Graph_Arguments {
 public:
     Graph_Arguments(std::span<const char* const> arguments, bool draws)
-        : reader_(draws ? "graph" : "compare", draws ? graph_usage : compare_usage, arguments),
+        : reader_(draws ? "graph" : "compare", draws ? usage::graph : usage::compare, arguments),
           draws_(draws) {}
 
     [[nodiscard]] Graph_Options Read() {

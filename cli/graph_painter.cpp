@@ -1,10 +1,11 @@
 #include "cli/graph_painter.h"
 
 #include "base/run_time_error.h"
+#include "platform/program_files.h"
 
 #include <dlfcn.h>
 #include <filesystem>
-#include <system_error>
+#include <string_view>
 
 namespace kestrum::cli {
 
@@ -12,10 +13,13 @@ namespace {
 
 Painter* Load_Painter() {
     using Maker = Painter* (*)();
+    constexpr std::string_view name = "kestrum-painting.so";
     // By its whole path: a bare name is looked for in the system's folders.
-    std::error_code ignored;
-    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", ignored);
-    const std::filesystem::path path = program.parent_path() / "kestrum-painting.so";
+    const std::filesystem::path path = Program_File(Program_Part::Library, name);
+    if (path.empty()) {
+        throw Run_Time_Error(error::invalid_picture,
+                             "This program has no painting: " + std::string(name) + " is missing");
+    }
     void* const module = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     void* const maker = module == nullptr ? nullptr : ::dlsym(module, "Kestrum_Painter");
     if (maker == nullptr) {

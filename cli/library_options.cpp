@@ -1,15 +1,12 @@
 #include "cli/library_options.h"
 
 #include "cli/line_text.h"
+#include "cli/usage_texts.h"
 #include "library/library_columns.h"
 
 namespace kestrum::cli {
 
 namespace {
-
-constexpr std::string_view usage =
-    "kestrum-cli library FOLDER [--csv | --json] [--where TEXT] [--sort COLUMN] [--jobs N]\n"
-    "           [--metric]";
 
 void Take_Option(Argument_Reader& reader, Library_Options& options) {
     if (Takes_Format(reader, options.format)) {
@@ -37,7 +34,7 @@ void Take_Option(Argument_Reader& reader, Library_Options& options) {
 Library_Options Library_Options_From(std::span<const char* const> arguments) {
     Library_Options options;
     options.jobs = Usual_Jobs();
-    Argument_Reader reader("library", usage, arguments);
+    Argument_Reader reader("library", usage::library, arguments);
     while (reader.Next()) {
         if (reader.Is_Option()) {
             Take_Option(reader, options);

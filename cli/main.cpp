@@ -12,6 +12,7 @@
 #include "cli/script_runner.h"
 #include "cli/standard_streams.h"
 #include "cli/usage_error.h"
+#include "cli/usage_texts.h"
 
 #include <algorithm>
 #include <array>
@@ -95,37 +96,53 @@ int Tell_Version(std::span<const char* const> /*arguments*/) {
 
 struct Verb {
     std::string_view name;
+    std::string_view usage;
     int (*run)(std::span<const char* const> arguments);
 };
 
-constexpr auto verbs = std::to_array<Verb>({{"script", Run_Script},
-                                            {"calc", Calculate},
-                                            {"convert", Convert},
-                                            {"compare", Compare},
-                                            {"graph", Draw},
-                                            {"print", Print},
-                                            {"report", Report},
-                                            {"chart", Chart},
-                                            {"library", List_Library},
-                                            {"--version", Tell_Version}});
+constexpr auto verbs = std::to_array<Verb>({{"script", usage::script, Run_Script},
+                                            {"calc", usage::calc, Calculate},
+                                            {"convert", usage::convert, Convert},
+                                            {"compare", usage::compare, Compare},
+                                            {"graph", usage::graph, Draw},
+                                            {"print", usage::print, Print},
+                                            {"report", usage::report, Report},
+                                            {"chart", usage::chart, Chart},
+                                            {"library", usage::library, List_Library},
+                                            {"--version", "kestrum-cli --version", Tell_Version}});
+
+constexpr std::string_view short_usage =
+    "usage: kestrum-cli script [OPTIONS] FILE\n"
+    "       kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
+    "       kestrum-cli convert FILE... -o FILE|FOLDER [--to dat|dfw|csv]\n"
+    "       kestrum-cli compare FROM.dat TO.dat --type 0..17 [--csv]\n"
+    "       kestrum-cli graph FROM.dat TO.dat --type 0..17 -o FILE.png\n"
+    "       kestrum-cli print FILE.dat... -o FILE.pdf\n"
+    "       kestrum-cli report [--main FILE.dta] [--config FILE.cfg] FILE.dat...\n"
+    "       kestrum-cli chart FILE... [-o FILE.svg|FILE.pdf|FILE.png]\n"
+    "       kestrum-cli library FOLDER\n"
+    "       kestrum-cli --version\n"
+    "       kestrum-cli [VERB] --help";
+
+bool Asks_For_Help(std::span<const char* const> arguments) {
+    return arguments.size() == 1 && std::string_view(arguments.front()) == "--help";
+}
 
 int Run_Verb(std::span<const char* const> arguments) {
+    if (Asks_For_Help(arguments)) {
+        std::cout << short_usage << '\n';
+        return 0;
+    }
     const std::string_view name = arguments.empty() ? std::string_view() : arguments.front();
     const auto* const verb = std::ranges::find(verbs, name, &Verb::name);
-    if (verb != verbs.end()) {
-        return verb->run(arguments.subspan(1));
+    if (verb == verbs.end()) {
+        throw Usage_Error(std::string(short_usage));
     }
-    throw Usage_Error(
-        "usage: kestrum-cli script [OPTIONS] FILE\n"
-        "       kestrum-cli calc [--metric] [--csv | --json] FILE.dat...\n"
-        "       kestrum-cli convert FILE... -o FILE|FOLDER [--to dat|dfw|csv]\n"
-        "       kestrum-cli compare FROM.dat TO.dat --type 0..17 [--csv]\n"
-        "       kestrum-cli graph FROM.dat TO.dat --type 0..17 -o FILE.png\n"
-        "       kestrum-cli print FILE.dat... -o FILE.pdf\n"
-        "       kestrum-cli report [--main FILE.dta] [--config FILE.cfg] FILE.dat...\n"
-        "       kestrum-cli chart FILE... [-o FILE.svg|FILE.pdf|FILE.png]\n"
-        "       kestrum-cli library FOLDER\n"
-        "       kestrum-cli --version");
+    if (Asks_For_Help(arguments.subspan(1))) {
+        std::cout << "usage: " << verb->usage << '\n';
+        return 0;
+    }
+    return verb->run(arguments.subspan(1));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "cli/argument_reader.h"
 #include "cli/graph_extras.h"
 #include "cli/line_text.h"
+#include "cli/usage_texts.h"
 #include "graph/compare_types.h"
 
 #include <string_view>
@@ -11,13 +12,6 @@
 namespace kestrum::cli {
 
 namespace {
-
-constexpr std::string_view usage =
-    "kestrum-cli print FILE.dat... -o FILE.pdf [--metric] [--company FILE.dcn]\n"
-    "           [--logo PICTURE] [--head left|centre|right] [--paper a4|letter]\n"
-    "           [--now YYYY-MM-DDTHH:MM:SS] [--locale NAME]\n"
-    "       kestrum-cli print --compare FROM.dat TO.dat --type 0..17 [--x lift|intake|exhaust] "
-    "-o FILE.pdf ...";
 
 /// What the arguments say, before it is known whether they fit together.
 struct Arguments {
@@ -74,7 +68,7 @@ void Take_Option(Arguments& read, Argument_Reader& reader) {
 
 Print_Options Print_Options_From(std::span<const char* const> arguments) {
     Arguments read;
-    Argument_Reader reader("print", usage, arguments);
+    Argument_Reader reader("print", usage::print, arguments);
     while (reader.Next()) {
         if (reader.Is_Option()) {
             Take_Option(read, reader);

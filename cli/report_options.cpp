@@ -2,6 +2,7 @@
 
 #include "cli/argument_reader.h"
 #include "cli/line_text.h"
+#include "cli/usage_texts.h"
 #include "screens/flow_sheet.h"
 
 #include <string_view>
@@ -9,9 +10,6 @@
 namespace kestrum::cli {
 
 namespace {
-
-constexpr std::string_view usage = "kestrum-cli report [--main FILE.dta] [--config FILE.cfg]\n"
-                                   "           [--metric] FILE.dat... [-o FILE]";
 
 /// The place of the option's value, null for one that has none.
 std::string* Value_Of(Report_Options& options, const Argument_Reader& reader) {
@@ -41,7 +39,7 @@ void Take_Option(Report_Options& options, Argument_Reader& reader) {
 
 Report_Options Report_Options_From(std::span<const char* const> arguments) {
     Report_Options options;
-    Argument_Reader reader("report", usage, arguments);
+    Argument_Reader reader("report", usage::report, arguments);
     while (reader.Next()) {
         if (reader.Is_Option()) {
             Take_Option(options, reader);

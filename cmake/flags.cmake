@@ -18,6 +18,12 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(kestrum_flags INTERFACE -Wno-restrict)
 endif()
 
+# What ships reads files of strangers: guards that Debian asks of every program.
+target_compile_options(kestrum_flags INTERFACE
+  "$<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+target_link_options(kestrum_flags INTERFACE
+  "$<$<CONFIG:Release>:LINKER:-z,relro;LINKER:-z,now;LINKER:--as-needed>")
+
 if(KESTRUM_SANITIZE)
   set(sanitizers -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
     -fno-omit-frame-pointer)

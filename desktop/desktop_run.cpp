@@ -2,6 +2,7 @@
 
 #include "application/version.h"
 #include "base/run_time_error.h"
+#include "desktop/arrivals.h"
 #include "desktop/desktop_dialogs.h"
 #include "desktop/program.h"
 #include "desktop/program_icon.h"
@@ -10,9 +11,12 @@
 #include "desktop/text_access.h"
 #include "desktop/text_bridge.h"
 #include "desktop/theme_style.h"
+#include "platform/running_program.h"
 
 #include <QApplication>
+#include <QDir>
 
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -25,8 +29,14 @@ namespace {
 constexpr int unusable = 2;
 
 const char* const usage =
-    "usage: kestrum [--folder DIR] [ARGUMENTS OF THE SESSION]\n"
+    "usage: kestrum [OPTIONS] [--] [FILE...]\n"
     "       kestrum --help | --version\n\n"
+    "Opens flow tests in the first free sheets and engine data (.dta) on Main. A program that "
+    "runs\n"
+    "already in the same folder is used.\n\n"
+    "  --new-test     begin a new test in the first free sheet\n"
+    "  --library      open the library of tests\n"
+    "  --new-instance start another program even if one runs already\n"
     "  --folder DIR   the program's own folder, for the session file and the choosers;\n"
     "                 also taken from the environment variable KESTRUM_FOLDER\n"
     "  /fs, /fn, /mp  full screen, full screen with a free aspect ratio, plain mouse pointer\n";
@@ -43,15 +53,40 @@ bool Answers_At_Once(const Start_Options& options) {
     return options.wants_help || options.wants_version || !options.fault.empty();
 }
 
+/// Where this start meets others; empty when it can meet nobody.
+std::string Place_To_Meet(const std::string& folder) {
+    const std::string meeting =
+        Meeting_Folder(From_Qt(qEnvironmentVariable("XDG_RUNTIME_DIR")), From_Qt(QDir::tempPath()));
+    const QString display = qEnvironmentVariable("WAYLAND_DISPLAY") + QLatin1Char(' ') +
+                            qEnvironmentVariable("DISPLAY");
+    return meeting.empty() ? meeting : Meeting_Place(meeting, folder, From_Qt(display));
+}
+
+/// Whether a program that runs already does what this start is for.
+bool Is_Done_By_Another(Running_Program& running, const Start_Options& options,
+                        const std::string& folder) {
+    constexpr std::chrono::seconds patience{5};
+    const std::string place = Place_To_Meet(folder);
+    if (place.empty() || running.Take(place) || options.is_new_instance) {
+        return false;
+    }
+    return Tell_Running_Program(place, Words_For_Running(options), patience);
+}
+
 /// What can wait until `Main` is to be seen.
-void Do_The_Rest_When_Painted(Program& program) {
+void Do_The_Rest_When_Painted(Program& program, Arrivals& arrivals, Running_Program& running,
+                              const Start_Options& options) {
     Screen_Window& window = *program.Its_Windows().Window_Of(program.Its_Session().Main());
-    window.on_first_paint = [&program, before = window.on_first_paint] {
+    window.on_first_paint = [&, before = window.on_first_paint] {
         if (before) {
             before();
         }
         QApplication::setWindowIcon(Program_Icon());
         program.Keep_Rescue_Copies();
+        arrivals.Take(options);
+        if (running.Handle() >= 0) {
+            arrivals.Listen(running);
+        }
     };
 }
 
@@ -64,13 +99,18 @@ int Run(const Start_Options& options, const Program_Hook& before_start) {
         dialogs.Show_Box({.text = failure.Description(), .title = {}, .icon = Box_Icon::Stop});
         return 1;
     }
+    Running_Program running;
+    if (Is_Done_By_Another(running, options, folder)) {
+        return 0;
+    }
     Program program(dialogs, Present_Surroundings(options, folder));
     dialogs.Set_Title(program.Its_Session().title_text);
     if (before_start) {
         before_start(program);
     }
+    Arrivals arrivals(program);
     if (program.Start()) {
-        Do_The_Rest_When_Painted(program);
+        Do_The_Rest_When_Painted(program, arrivals, running, options);
         QApplication::exec();
     }
     return program.Exit_Status();

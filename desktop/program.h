@@ -39,6 +39,9 @@ public:
     /// The status that the process ends with.
     [[nodiscard]] int Exit_Status() const { return started_ ? 0 : 1; }
 
+    /// Whether the exit has run: nothing may come to the session any more.
+    [[nodiscard]] bool Has_Ended() const { return ended_; }
+
     [[nodiscard]] Session& Its_Session() { return session_; }
 
     [[nodiscard]] Desktop_Windows& Its_Windows() { return windows_; }

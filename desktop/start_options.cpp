@@ -2,6 +2,7 @@
 
 #include "application/version.h"
 #include "base/run_time_error.h"
+#include "base/text.h"
 #include "desktop/text_bridge.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,7 @@
 #include <QLocale>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include <cmath>
 #include <string_view>
@@ -20,6 +22,8 @@ namespace kestrum::desktop {
 namespace {
 
 constexpr std::string_view folder_option = "--folder";
+constexpr std::string_view new_test_option = "--new-test";
+constexpr std::string_view library_option = "--library";
 const char* const session_file = "zxqw1234.sav";
 
 bool Is_Portable(const QString& folder) {
@@ -43,30 +47,78 @@ QString Wanted_Folder(const Start_Options& options) {
            QLatin1String("/kestrum");
 }
 
+bool Is_Session_Switch(const std::string& argument) {
+    const std::string lower = Lower_Copy(argument);
+    return lower == "/fs" || lower == "/fn" || lower == "/mp";
+}
+
+/// Takes an argument that is a switch by itself; false when it is none.
+bool Take_Switch(Start_Options& options, const std::string& argument) {
+    const std::string with_value = std::string(folder_option) + "=";
+    if (argument == "--help" || argument == "-h") {
+        options.wants_help = true;
+    } else if (argument == "--version") {
+        options.wants_version = true;
+    } else if (argument == new_test_option) {
+        options.wants_new_test = true;
+    } else if (argument == library_option) {
+        options.wants_library = true;
+    } else if (argument == "--new-instance") {
+        options.is_new_instance = true;
+    } else if (argument.starts_with(with_value)) {
+        options.folder = argument.substr(with_value.size());
+    } else if (Is_Session_Switch(argument)) {
+        options.command_line += (options.command_line.empty() ? "" : " ") + argument;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void Take_Files(Start_Options& options, std::span<const std::string> names) {
+    for (const std::string& name : names) {
+        const QUrl url(To_Qt(name));
+        const QString path = url.isLocalFile() ? url.toLocalFile() : To_Qt(name);
+        if (!path.isEmpty()) {
+            options.files.push_back(From_Qt(QFileInfo(path).absoluteFilePath()));
+        }
+    }
+}
+
 } // namespace
 
 Start_Options Options_From(std::span<const std::string> arguments) {
     Start_Options options;
     for (std::size_t index = 0; index < arguments.size(); ++index) {
         const std::string& argument = arguments[index];
-        const std::string with_value = std::string(folder_option) + "=";
-        if (argument == "--help" || argument == "-h") {
-            options.wants_help = true;
-        } else if (argument == "--version") {
-            options.wants_version = true;
-        } else if (argument == folder_option) {
+        if (argument == "--") {
+            Take_Files(options, arguments.subspan(index + 1));
+            break;
+        }
+        if (argument == folder_option) {
             if (index + 1 == arguments.size()) {
                 options.fault = "--folder wants the name of a folder";
                 break;
             }
             options.folder = arguments[++index];
-        } else if (argument.starts_with(with_value)) {
-            options.folder = argument.substr(with_value.size());
-        } else {
-            options.command_line += (options.command_line.empty() ? "" : " ") + argument;
+        } else if (!Take_Switch(options, argument)) {
+            Take_Files(options, arguments.subspan(index, 1));
         }
     }
     return options;
+}
+
+std::vector<std::string> Words_For_Running(const Start_Options& options) {
+    std::vector<std::string> words;
+    if (options.wants_new_test) {
+        words.emplace_back(new_test_option);
+    }
+    if (options.wants_library) {
+        words.emplace_back(library_option);
+    }
+    words.emplace_back("--");
+    words.insert(words.end(), options.files.begin(), options.files.end());
+    return words;
 }
 
 std::string Program_Folder(const Start_Options& options) {

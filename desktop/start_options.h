@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 namespace kestrum::desktop {
 
@@ -13,14 +14,24 @@ struct Start_Options {
     bool wants_version = false;
     /// Program folder that was asked for; empty: the program chooses.
     std::string folder;
-    /// What is left for the session, joined by blanks.
+    /// The session's switches, joined by blanks.
     std::string command_line;
+    /// Files to be opened, by their whole paths.
+    std::vector<std::string> files;
+    bool wants_new_test = false;
+    bool wants_library = false;
+    /// Whether it is a program of its own, even if one runs already.
+    bool is_new_instance = false;
     /// What is wrong with the arguments; empty: nothing.
     std::string fault;
 };
 
-/// Reads the arguments without the program's own path.
+/// Reads the arguments without the program's own path. A switch is a whole argument; one that is no
+/// switch is the name of a file, and so are all behind "--".
 [[nodiscard]] Start_Options Options_From(std::span<const std::string> arguments);
+
+/// What a second start tells the program that runs already; `Options_From` reads it there.
+[[nodiscard]] std::vector<std::string> Words_For_Running(const Start_Options& options);
 
 /// The folder of session file, settings and choosers: the one asked for, that of a portable
 /// installation, or the user's data folder. It is made at need. Raises `Run_Time_Error` when it

@@ -1,17 +1,21 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that the project needs and that are not there yet.
-#   tools/install_packages.sh run    to build the programs and run them
-#   tools/install_packages.sh test   to test them as well
+#   tools/install_packages.sh run       to build the programs and run them
+#   tools/install_packages.sh package   to make the Debian package of them
+#   tools/install_packages.sh test      to test all of it as well
 set -euo pipefail
 
 to_run=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core)
-to_test=(libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format clang-tidy
+to_package=(lowdown dpkg-dev file)
+to_test=(appstream desktop-file-utils libglib2.0-bin lintian mandoc shared-mime-info
+         libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format clang-tidy
          git python3 xvfb)
 
 case "${1:-}" in
     run) wanted=("${to_run[@]}") ;;
-    test) wanted=("${to_run[@]}" "${to_test[@]}") ;;
-    *) echo "usage: tools/install_packages.sh run|test" >&2; exit 2 ;;
+    package) wanted=("${to_run[@]}" "${to_package[@]}") ;;
+    test) wanted=("${to_run[@]}" "${to_package[@]}" "${to_test[@]}") ;;
+    *) echo "usage: tools/install_packages.sh run|package|test" >&2; exit 2 ;;
 esac
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then

@@ -1,7 +1,6 @@
 #include "desktop/desktop_dialogs.h"
 #include "desktop/desktop_shell.h"
 #include "desktop/file_filters.h"
-#include "desktop/start_options.h"
 #include "desktop/text_bridge.h"
 
 #include <QApplication>
@@ -122,16 +121,6 @@ TEST(Sounds, Are_Played_By_A_Program_Of_Their_Own_And_Only_If_They_Are_Sounds) {
     EXPECT_TRUE(QTest::qWaitFor([&played] { return played.exists(); }));
     ASSERT_TRUE(played.open(QIODevice::ReadOnly));
     EXPECT_EQ(played.readAll().trimmed(), "-q " + path("a b.wav").toLocal8Bit());
-}
-
-TEST(Arguments, What_Is_No_Option_Goes_To_The_Session) {
-    const std::vector<std::string> arguments{"--folder", "/home/x/fs1", "/FS", "and", "/mp"};
-    const Start_Options options = Options_From(arguments);
-    EXPECT_EQ(options.folder, "/home/x/fs1");
-    EXPECT_EQ(options.command_line, "/FS and /mp");
-    EXPECT_EQ(Options_From(std::vector<std::string>{"--folder=here"}).folder, "here");
-    EXPECT_FALSE(Options_From(std::vector<std::string>{"--folder"}).fault.empty());
-    EXPECT_TRUE(Options_From(std::vector<std::string>{"--version"}).wants_version);
 }
 
 } // namespace

@@ -1,0 +1,24 @@
+#include "platform/program_files.h"
+
+#include <initializer_list>
+#include <system_error>
+
+namespace kestrum {
+
+std::filesystem::path Program_File(Program_Part part, std::string_view name) {
+    namespace fs = std::filesystem;
+    std::error_code fault;
+    // A program that was started by its bare name does not know its place otherwise.
+    const fs::path here = fs::read_symlink("/proc/self/exe", fault).parent_path();
+    const bool is_library = part == Program_Part::Library;
+    const fs::path built = is_library ? here : here / "doc";
+    const fs::path installed = here / (is_library ? KESTRUM_LIBRARIES : KESTRUM_DOCUMENTS);
+    for (const fs::path& folder : {built, installed}) {
+        if (fs::exists(folder / name, fault)) {
+            return folder / name;
+        }
+    }
+    return {};
+}
+
+} // namespace kestrum
