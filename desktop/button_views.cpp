@@ -117,7 +117,7 @@ void Button_View::Paint_Caption(QPainter& painter) const {
     letters.setBold(is_primary_);
     painter.setFont(letters);
     painter.setPen(QColor::fromRgb(Ink()));
-    Paint_Wrapped(painter, rect().adjusted(4, 1, -4, -1),
+    Paint_Wrapped(painter, rect().adjusted(4, 0, -4, 0),
                   static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextShowMnemonic),
                   text());
 }

@@ -57,14 +57,14 @@ Report_Viewer::Report_Viewer(Control& its_control, const View_Facts& its_facts, 
 
 /// As large as those of its window, and a little larger, since they are narrow.
 void Report_Viewer::Set_Letters() {
-    const int pixels = window()->font().pixelSize() + 1;
-    if (font().pixelSize() == pixels) {
+    const int pixels = window()->font().pixelSize();
+    if (font().pixelSize() == pixels + 1) {
         return;
     }
     QFont letters = Letters_Of_One_Width();
-    letters.setPixelSize(pixels);
+    letters.setPixelSize(pixels + 1);
     setFont(letters);
-    hint_->setFont(window()->font());
+    hint_->setFont(theme::Text_Font(1.0 * pixels / theme::text_pixels));
     setViewportMargins(0, hint_->sizeHint().height(), 0, 0);
 }
 
