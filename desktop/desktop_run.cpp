@@ -26,7 +26,7 @@ namespace kestrum::desktop {
 
 namespace {
 
-constexpr int unusable = 2;
+constexpr int exit_unusable = 2;
 
 const char* const usage =
     "usage: kestrum [OPTIONS] [--] [FILE...]\n"
@@ -124,7 +124,7 @@ int Run_Desktop(int count, char* values[],
         const Start_Options first_look =
             Options_From(std::vector<std::string>(values + 1, values + count));
         if (Answers_At_Once(first_look)) {
-            return first_look.fault.empty() ? 0 : unusable;
+            return first_look.fault.empty() ? 0 : exit_unusable;
         }
         // Takes its own arguments out of the list.
         const Safe_Application application(count, values);

@@ -2,6 +2,7 @@
 
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "drawing/paper.h"
 #include "painting/png_writer.h"
 
 #include <QBuffer>
@@ -12,8 +13,6 @@
 namespace kestrum::painting {
 
 namespace {
-
-constexpr int points_in_inch = 72;
 
 QColor Colour_Of(int colour, double opacity = 1) {
     QColor result(QRgb(0xFF000000U | static_cast<unsigned>(colour)));

@@ -1,6 +1,7 @@
 #include "painting/qt_painter.h"
 
 #include "base/run_time_error.h"
+#include "drawing/paper.h"
 #include "painting/figure_painter.h"
 #include "painting/page_painter.h"
 #include "painting/picture_area.h"
@@ -22,8 +23,6 @@ struct Subject {
     std::optional<Logo_Picture> logo;
     Picture_Settings settings;
 };
-
-constexpr int points_in_inch = 72;
 
 QImage Painted(const Subject& subject, int dots_in_inch, double shift) {
     constexpr double inches_in_metre = 1 / 0.0254;

@@ -5,8 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -20,11 +18,6 @@ namespace fs = std::filesystem;
 class Convert_Verb : public ::testing::Test {
 protected:
     static std::string Example(const std::string& name) { return KESTRUM_EXAMPLES "/" + name; }
-
-    static std::string Bytes(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
 
     int Run(std::vector<std::string> words, const std::string& names = {}) {
         std::vector<const char*> arguments;
@@ -52,7 +45,7 @@ protected:
     /// The records of a `.dat` file by their keys.
     std::map<std::string, std::string> Records(const std::string& path) {
         std::map<std::string, std::string> records;
-        std::istringstream lines(Bytes(path));
+        std::istringstream lines(Bytes_Of(path));
         std::string line;
         while (std::getline(lines, line) && line.find(" = ") != std::string::npos) {
             const std::size_t mark = line.find(" = ");
@@ -94,7 +87,7 @@ TEST_F(Convert_Verb, A_Head_Comes_Back_From_A_Dfw_File) {
     const std::string dfw = folder_.File("jeep.dfw");
     const std::string again = folder_.File("again.dat");
     EXPECT_EQ(Run({Example(jeep), "-o", dfw, "--engine-analyzer"}), 0);
-    EXPECT_NE(Bytes(dfw).find("IVol = 203\r\n"), std::string::npos);
+    EXPECT_NE(Bytes_Of(dfw).find("IVol = 203\r\n"), std::string::npos);
     EXPECT_EQ(Run({"--from", "dfw", dfw, "-o", again, "--to", "dat"}), 0);
     const auto before = Records(Example(jeep));
     const auto after = Records(again);
@@ -116,8 +109,8 @@ TEST_F(Convert_Verb, No_File_Finds_Anything_Of_The_One_Before) {
                   second + "\r\n\n"),
               0);
     EXPECT_EQ(Run({second, "-o", folder_.File("alone"), "--to", "dfw"}), 0);
-    EXPECT_EQ(Bytes(folder_.File("all/2.dfw")), Bytes(folder_.File("alone/2.dfw")));
-    EXPECT_NE(Bytes(folder_.File("all/1.dfw")).find("\r\n1 2.5\r\n"), std::string::npos);
+    EXPECT_EQ(Bytes_Of(folder_.File("all/2.dfw")), Bytes_Of(folder_.File("alone/2.dfw")));
+    EXPECT_NE(Bytes_Of(folder_.File("all/1.dfw")).find("\r\n1 2.5\r\n"), std::string::npos);
 }
 
 TEST_F(Convert_Verb, A_Failed_Calculation_Lends_No_Flow_Of_Another_Test) {
@@ -133,7 +126,7 @@ TEST_F(Convert_Verb, What_Is_There_Stays_Without_Force) {
     const std::string target = folder_.Write("a.dat", "old");
     EXPECT_EQ(Run({table, "-o", target}), 1);
     EXPECT_EQ(errors_, table + ": '" + target + "' is there already: use --force to replace it\n");
-    EXPECT_EQ(Bytes(target), "old");
+    EXPECT_EQ(Bytes_Of(target), "old");
     EXPECT_EQ(Run({table, "-o", target, "--force"}), 0);
     EXPECT_EQ(Records(target).at("Text106_17"), "60");
 }
@@ -158,7 +151,7 @@ TEST_F(Convert_Verb, Tells_Each_File_That_Did_Not_Convert) {
             ": No Flow File Selected -- File not found\n");
     EXPECT_EQ(folder_.Names(), (std::vector<std::string>{"a.csv", "b.csv", "c.xyz", "in", "out"}));
     EXPECT_EQ(Run({unknown, "--from", "csv", "--metric", "-o", folder_.File("out/c.csv")}), 0);
-    EXPECT_TRUE(Bytes(folder_.File("out/c.csv")).starts_with("lift_mm,"));
+    EXPECT_TRUE(Bytes_Of(folder_.File("out/c.csv")).starts_with("lift_mm,"));
 }
 
 TEST_F(Convert_Verb, Refuses_Calls_That_Cannot_Be_Used) {

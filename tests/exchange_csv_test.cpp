@@ -3,20 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <ostream>
 
 namespace kestrum {
 
 namespace {
 
-std::string Data(const std::string& name) {
-    std::ifstream file(KESTRUM_TEST_DATA "/csv/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+std::string Csv_Data(const std::string& name) {
+    return Bytes_Of(KESTRUM_TEST_DATA "/csv/" + name);
 }
 
-const std::string refused = "exclamation box: Data from CSV File has Not been Loaded";
+const std::string csv_refused = "exclamation box: Data from CSV File has Not been Loaded";
 
 class CSV_Import : public ::testing::Test {
 protected:
@@ -34,14 +31,14 @@ protected:
     }
 
     static Events Refused(const std::string& place_and_reason) {
-        return {refused + "\r\n\r\n" + place_and_reason};
+        return {csv_refused + "\r\n\r\n" + place_and_reason};
     }
 };
 
 TEST_F(CSV_Import, Takes_All_Columns_Of_Its_Own_Export) {
     Test_Bench bench;
     bench.Set("Form1.Text207(25)", "77");
-    EXPECT_EQ(Import(bench, Data("our_export.csv")), Read("2"));
+    EXPECT_EQ(Import(bench, Csv_Data("our_export.csv")), Read("2"));
     Expect_Texts(bench, {{"Form1.Text101(16)", "0"},
                          {"Form1.Text101(17)", "100"},
                          {"Form1.Text108(17)", "100"},
@@ -61,7 +58,7 @@ TEST_F(CSV_Import, Takes_All_Columns_Of_Its_Own_Export) {
 TEST_F(CSV_Import, Sorts_Converts_And_Names_What_It_Passes_Over) {
     Test_Bench bench;
     const Events told{"plain box: 2 Records Read\r\n\r\nColumns Not Used: Bench"};
-    EXPECT_EQ(Import(bench, Data("metric_semicolons.csv")), told);
+    EXPECT_EQ(Import(bench, Csv_Data("metric_semicolons.csv")), told);
     Expect_Texts(bench, {{"Form1.Text101(17)", "100"}, // 2.54 mm
                          {"Form1.Text106(17)", "1.25"},
                          {"Form1.Text107(17)", "0.0"}, // an empty cell is 0 and is converted
@@ -70,7 +67,7 @@ TEST_F(CSV_Import, Sorts_Converts_And_Names_What_It_Passes_Over) {
                          {"Form1.Text207(18)", "-7"}});
     Test_Bench commas({.point = ","});
     commas.Click("Main.Check2");
-    EXPECT_EQ(Import(commas, Data("metric_semicolons.csv")), told);
+    EXPECT_EQ(Import(commas, Csv_Data("metric_semicolons.csv")), told);
     Expect_Texts(commas, {{"Form1.Text101(17)", "2,54"},
                           {"Form1.Text106(17)", "1,25"},
                           {"Form1.Text107(18)", "1,5"}});
@@ -148,7 +145,7 @@ TEST_P(CSV_Refusal, Leaves_The_Sheet_As_It_Stood) {
     Test_Bench bench;
     bench.platform.Choose(bench.folder.Write("bad.csv", GetParam().bytes));
     EXPECT_EQ(bench.Click("Form1.Import_CSV"),
-              (Events{"chooser to open", refused + "\r\n\r\n" + GetParam().box}));
+              (Events{"chooser to open", csv_refused + "\r\n\r\n" + GetParam().box}));
     Expect_Texts(bench,
                  {{"Form1.Text101(17)", "50"}, {"Form1.Text106(30)", "285"}, {"Form1.Text39", ""}});
 }
@@ -187,12 +184,12 @@ TEST_F(CSV_Import, A_Sheet_That_Cannot_Be_Calculated_Keeps_The_Rows) {
 TEST_F(CSV_Import, Every_Beginning_Of_A_File_Is_Loaded_Or_Refused) {
     Test_Bench bench;
     for (const char* const name : {"our_export.csv", "metric_semicolons.csv"}) {
-        const std::string whole = Data(name);
+        const std::string whole = Csv_Data(name);
         for (std::size_t length = 0; length <= whole.size(); ++length) {
             const Events events = Import(bench, whole.substr(0, length));
             ASSERT_FALSE(events.empty());
             const std::string& last = events.back();
-            EXPECT_TRUE((last.starts_with(refused) && events.size() == 1) ||
+            EXPECT_TRUE((last.starts_with(csv_refused) && events.size() == 1) ||
                         last.find(" Records Read") != std::string::npos)
                 << name << length << last;
         }

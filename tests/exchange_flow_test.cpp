@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 namespace kestrum {
 
 namespace {
@@ -17,9 +14,8 @@ const std::string many_points = "exclamation box: There are more than 10 Data Po
                                 "cuase problems with some software.";
 const std::string not_saved = "plain box: Problem - DFW File was Not Saved";
 
-std::string Data(const std::string& name) {
-    std::ifstream file(KESTRUM_TEST_DATA "/flow/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+std::string Flow_Data(const std::string& name) {
+    return Bytes_Of(KESTRUM_TEST_DATA "/flow/" + name);
 }
 
 /// The lines of a `.flw` file with this many equal points.
@@ -54,7 +50,7 @@ protected:
 
 TEST_F(Flow_Import, Merges_The_Two_Sides_By_Lift) {
     Test_Bench bench;
-    EXPECT_EQ(Import(bench, "test.flw", Data("merged_lifts.flw")),
+    EXPECT_EQ(Import(bench, "test.flw", Flow_Data("merged_lifts.flw")),
               Events{"plain box: 20 Records Read"});
     Expect_Texts(bench,
                  {{"Form1.Text102(3)", "2.02"},    {"Form1.Text104(3)", "1.6"},
@@ -74,16 +70,17 @@ TEST_F(Flow_Import, Merges_The_Two_Sides_By_Lift) {
 TEST_F(Flow_Import, Each_Layout_Finds_Its_Points) {
     Test_Bench bench;
     // The ending needs no point; a marker of another case is none.
-    EXPECT_EQ(Import(bench, "old_DYN", Data("sections.dyn")), Events{"plain box: 21 Records Read"});
+    EXPECT_EQ(Import(bench, "old_DYN", Flow_Data("sections.dyn")),
+              Events{"plain box: 21 Records Read"});
     Expect_Texts(bench, {{"Form1.Text106(18)", "110.0"}, {"Form1.Text107(18)", "80.0"}});
-    EXPECT_EQ(Import(bench, "test.dym", Data("five_sections.dym")),
+    EXPECT_EQ(Import(bench, "test.dym", Flow_Data("five_sections.dym")),
               Events{"plain box: 25 Records Read"});
     Expect_Texts(bench, {{"Form1.Text106(18)", "110.0"},
                          {"Form1.Text107(17)", "40.0"},
                          {"Form1.Text107(18)", "0"},
                          {"Form1.Text106(6)", "2"},
                          {"Form1.Text108(6)", " 1"}});
-    std::string wrong = Data("merged_lifts.flw");
+    std::string wrong = Flow_Data("merged_lifts.flw");
     wrong.replace(wrong.find("1 2.02"), 1, "2");
     EXPECT_EQ(Import(bench, "test.flw", wrong), Events{"plain box: NO Flow Infomation Found!!!"});
     EXPECT_EQ(bench.Get("Form1.Text106(18)"), "110.0"); // as it stood
@@ -92,7 +89,7 @@ TEST_F(Flow_Import, Each_Layout_Finds_Its_Points) {
 TEST_F(Flow_Import, Decimal_Commas_And_Flush_Right) {
     Test_Bench bench({.point = ","});
     bench.Click("Main.AligRight");
-    EXPECT_EQ(Import(bench, "test.flw", Data("merged_lifts.flw")),
+    EXPECT_EQ(Import(bench, "test.flw", Flow_Data("merged_lifts.flw")),
               Events{"plain box: 20 Records Read"});
     Expect_Texts(bench, {{"Form1.Text102(3)", "2,0200"},
                          {"Form1.Text108(7)", "28,0000"},
@@ -104,7 +101,7 @@ TEST_F(Flow_Import, Decimal_Commas_And_Flush_Right) {
 
 TEST_F(Flow_Import, A_Reading_Failure_Keeps_The_Rows) {
     Test_Bench bench;
-    const std::string whole = Data("merged_lifts.flw");
+    const std::string whole = Flow_Data("merged_lifts.flw");
     const std::string cut = whole.substr(0, whole.find("1 60.5"));
     EXPECT_EQ(Import(bench, "cut.flw", cut), (Events{problem, "plain box: 9 Records Read"}));
     Expect_Texts(bench, {{"Form1.Text108(7)", "28.0"},
@@ -132,7 +129,7 @@ TEST_F(Flow_Import, Points_Beyond_Rows_And_Places) {
 
 TEST_F(Flow_Import, A_Bad_Valve_Count_Is_Told_Behind_The_Rows) {
     Test_Bench bench;
-    std::string bytes = Data("five_sections.dym");
+    std::string bytes = Flow_Data("five_sections.dym");
     bytes.resize(bytes.rfind("2\n"));
     EXPECT_EQ(Import(bench, "test.dym", bytes + "two\n1\n"),
               (Events{"plain box: 25 Records Read", problem, "plain box: 25 Records Read"}));
@@ -155,7 +152,7 @@ TEST_F(Flow_Import, The_Chooser_Keeps_The_Entry_That_Was_Picked) {
 TEST_F(Flow_Import, Every_Beginning_Of_A_File_Is_Loaded_Or_Refused) {
     Test_Bench bench;
     for (const char* const name : {"merged_lifts.flw", "sections.dyn", "five_sections.dym"}) {
-        const std::string whole = Data(name);
+        const std::string whole = Flow_Data(name);
         for (std::size_t length = 0; length <= whole.size(); ++length) {
             const Events events = Import(bench, name, whole.substr(0, length));
             ASSERT_FALSE(events.empty());

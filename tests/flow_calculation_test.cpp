@@ -13,7 +13,7 @@ const std::string zero_hint =
     "\r\n\r\nCheck for a Field that has a Value of Zero that should not be Zero";
 const std::string overflow_box = "stop box: Error Number 6 -- Overflow" + after_error;
 const std::string mismatch_box = "stop box: Error Number 13 -- Type mismatch" + after_error;
-const std::string zero_box =
+const std::string division_box =
     "stop box: Error Number 11 -- Division by zero" + after_error + zero_hint;
 const std::string ratio_box =
     "exclamation box: Problem Calculating Exisiting Intake / Exhaust Ratio\r\nOne possible cause "
@@ -306,14 +306,14 @@ TEST(Flow_Calculation, Tells_Of_A_Failure_And_Keeps_What_It_Wrote) {
     };
 
     const Case cases[] = {
-        {"no test pressure", "Form1.Text108(7)", "0", zero_box, {"Form1.Text110(8)", "1.0"}},
-        {"no length", "Form1.Text102(8)", "0", zero_box, {"Form1.Text102(2)", "2.306"}},
-        {"no valve", "Form1.Text102(3)", "0", zero_box, {"Form1.Text113(7)", "0.7673"}},
+        {"no test pressure", "Form1.Text108(7)", "0", division_box, {"Form1.Text110(8)", "1.0"}},
+        {"no length", "Form1.Text102(8)", "0", division_box, {"Form1.Text102(2)", "2.306"}},
+        {"no valve", "Form1.Text102(3)", "0", division_box, {"Form1.Text113(7)", "0.7673"}},
         {"no number", "Form1.Text102(3)", "2.02x", mismatch_box, {"Form1.Text102(5)", "3.205"}},
         {"foreign mark", "Form1.Text104(1)", "7,5", mismatch_box, {"Form1.Text104(2)", "1.589"}},
         {"blank CR", "Form1.Text110(5)", "", mismatch_box, {"Form1.Text113(10)", "0.755"}},
         {"too large", "Form1.Text102(6)", "1E200", overflow_box, {"Form1.Text102(7)", "1.89"}},
-        {"no valves", "Form1.Text108(6)", "0", zero_box, {"Form1.Text107(5)", "0.844"}},
+        {"no valves", "Form1.Text108(6)", "0", division_box, {"Form1.Text107(5)", "0.844"}},
     };
     for (const Case& c : cases) {
         Test_Bench bench;

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace kestrum {
 
@@ -19,11 +17,10 @@ const std::string not_saved = "exclamation box: Flow Data File has NOT been Save
 
 /// A file of which every record differs from the sample head's and from every other.
 std::string Dart_215() {
-    std::ifstream file(KESTRUM_TEST_DATA "/dart_215.dat", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return Bytes_Of(KESTRUM_TEST_DATA "/dart_215.dat");
 }
 
-Events Load(Test_Bench& bench, std::string_view bytes) {
+Events Load_Sheet(Test_Bench& bench, std::string_view bytes) {
     bench.platform.Choose(bench.folder.Write("test.dat", bytes));
     return bench.Click("Form1.Load_Data");
 }
@@ -37,7 +34,8 @@ TEST(Flow_Data_File, A_Round_Trip_Changes_No_Byte_But_One) {
     Test_Bench bench;
     const std::string bytes = Dart_215();
     ASSERT_EQ(std::ranges::count(bytes, '\n'), 126);
-    EXPECT_EQ(Load(bench, bytes), Loaded("126")); // 124 records, the comment has two more lines
+    EXPECT_EQ(Load_Sheet(bench, bytes),
+              Loaded("126")); // 124 records, the comment has two more lines
     Expect_Texts(bench, {{"Form1.Text102(0)", "Dart 215 CNC"},
                          {"Form1.Text108(19)", "120"},
                          {"Form1.Text107(17)", "21.05"},

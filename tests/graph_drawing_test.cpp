@@ -1,6 +1,7 @@
 #include "application/events.h"
 #include "application/variables.h"
 #include "graph/curve_fit.h"
+#include "graph/graph_frame.h"
 #include "graph/graph_state.h"
 #include "tests/graph_test_bench.h"
 
@@ -13,9 +14,6 @@ namespace kestrum {
 
 namespace {
 
-constexpr int black = 0x000000;
-constexpr int blue = 0x0000FF;
-constexpr int red = 0xFF0000;
 constexpr double thin = 2;
 constexpr double thick = 4;
 

@@ -10,15 +10,12 @@ namespace kestrum {
 
 namespace {
 
-const std::string failed =
+const std::string graph_failed =
     "exclamation box: There is a Problem Generating your Graph\r\n\r\nThere is one known Problem "
     "which can cause this error and that is not having enough data point to Graph.\r\n\r\nOne "
     "cause of this is trying to Graph % Change when the 2 lift curve are Identical\r\n\r\nIf this "
     "is not the case then PLEASE SEND a Print Screen of the Compare Screen to Customer "
     "Support.\r\n";
-
-constexpr int blue = 0x0000FF;
-constexpr int red = 0xFF0000;
 
 /// Whether any of the four curves of a first graph stands on the canvas.
 bool Shows_Curves(const Graph_Bench& bench) {
@@ -49,7 +46,7 @@ TEST(Graph_Failures, No_Lift_Asks_For_More_Than_2000_Lines) {
         bench.Fill("Form2.Text101", {"0", "10", "20", "30", "40", one.lift});
         bench.Click("Form50.Check2");
         const bool fails = one.lines == 10;
-        EXPECT_EQ(bench.Draw(0), fails ? Events{failed} : Events{});
+        EXPECT_EQ(bench.Draw(0), fails ? Events{graph_failed} : Events{});
         EXPECT_EQ(Graph_Of(bench.session).x_line_count, one.lines);
         EXPECT_EQ(Shows_Curves(bench), !fails);
         EXPECT_EQ(bench.Lines(0, 3).size(), 1U + 3U) << "the frame stands";
@@ -65,20 +62,20 @@ TEST(Graph_Failures, An_Axis_Without_A_Length_Is_Told_Of_Once_For_Each_Drawing) 
         }
         bench.Set(std::string(column) + "(16)", "0");
     }
-    EXPECT_EQ(bench.Draw(0), Events{failed});
+    EXPECT_EQ(bench.Draw(0), Events{graph_failed});
     EXPECT_FALSE(Shows_Curves(bench));
     EXPECT_EQ(Graph_Of(bench.session).plus_count, 0);
-    EXPECT_EQ(bench.Click("Form50.Graph_Plus"), (Events{failed}));
+    EXPECT_EQ(bench.Click("Form50.Graph_Plus"), (Events{graph_failed}));
     EXPECT_EQ(Graph_Of(bench.session).plus_count, 1);
-    EXPECT_EQ(bench.Draw(9), Events{failed}) << "and no zero line, whose place nobody knows";
+    EXPECT_EQ(bench.Draw(9), Events{graph_failed}) << "and no zero line, whose place nobody knows";
 }
 
 TEST(Graph_Failures, Graph_Plus_Goes_On_After_A_Graph_Of_One_Test_With_Itself) {
     Graph_Bench bench;
     bench.Click("Form50.Option2(0)");
-    EXPECT_EQ(bench.Draw(9), Events{failed});
+    EXPECT_EQ(bench.Draw(9), Events{graph_failed});
     bench.Click("Form50.Option2(1)");
-    EXPECT_EQ(bench.Click("Form50.Graph_Plus"), Events{failed});
+    EXPECT_EQ(bench.Click("Form50.Graph_Plus"), Events{graph_failed});
     EXPECT_EQ(Graph_Of(bench.session).plus_count, 1);
     EXPECT_TRUE(bench.Lines(0x006400, 2).empty()) << "the intake of an overlay";
 }
@@ -95,7 +92,7 @@ TEST(Graph_Failures, A_Limit_At_The_Other_End_Of_The_Axis_Leaves_No_Height) {
     const Events events = bench.Draw(9);
     ASSERT_EQ(events.size(), 2U);
     EXPECT_NE(events[0].find("High Y_Axis of -14 is Lower"), std::string::npos);
-    EXPECT_EQ(events[1], failed);
+    EXPECT_EQ(events[1], graph_failed);
     EXPECT_EQ(Graph_Of(bench.session).y_low, -14);
     EXPECT_EQ(Graph_Of(bench.session).y_high, -14);
     EXPECT_EQ(bench.Times_Written("0.0 - Zero Line "), 0U);

@@ -9,6 +9,10 @@
 
 namespace kestrum {
 
+// Colours of the first and the second test.
+inline constexpr int blue = 0x0000FF;
+inline constexpr int red = 0xFF0000;
+
 /// A session whose first two sheets hold tests that are easy to follow by hand, Form50 and Form60.
 class Graph_Bench : public Test_Bench {
 public:

@@ -29,7 +29,7 @@ const std::string all_values = "Check1 = Yes\r\nCheck2 = No\r\nCheck3 = Yes\r\n"
                                "Text109_3 = 6543\r\nText111_3 = 6\r\n"
                                "Comments = Two lines\r\nof Comment\r\n";
 
-Events Load(Test_Bench& bench, std::string_view bytes) {
+Events Load_Main(Test_Bench& bench, std::string_view bytes) {
     Load_Main_File(bench.session, bench.folder.Write("main.dta", bytes));
     return bench.Take_Events();
 }
@@ -46,7 +46,7 @@ TEST(Main_Data_File, A_Round_Trip_Changes_No_Byte_But_One) {
     for (const char* const name : {"one.dat", "two.dat", "three.dat", "four.dat", "five.dat"}) {
         bench.folder.Write(name, "Text102_0 = " + std::string(name) + "\r\n");
     }
-    EXPECT_EQ(Load(bench, all_values), Events{});
+    EXPECT_EQ(Load_Main(bench, all_values), Events{});
     Expect_Texts(bench, {{"Form1.Text102(0)", "one.dat"}, {"Form5.Text102(0)", "five.dat"}});
     const Position& logo = bench.session.Form60().Picture2.Moved_To();
     EXPECT_EQ(logo.top, 21.5);
@@ -58,12 +58,12 @@ TEST(Main_Data_File, A_Round_Trip_Changes_No_Byte_But_One) {
 
 TEST(Main_Data_File, Says_In_Which_Units_It_Is) {
     Test_Bench bench;
-    EXPECT_EQ(Load(bench, "Check2 = Yes\r\nText104_3 = 101.6\r\n"), Events{});
+    EXPECT_EQ(Load_Main(bench, "Check2 = Yes\r\nText104_3 = 101.6\r\n"), Events{});
     EXPECT_EQ(bench.At("Main.Check2").Value(), 1);
     // 1.28 inches of the sample head are 32.512 mm; the bore counts as it stands in the file.
     Expect_Texts(bench, {{"Form1.Text104(6)", "32.512"}, {"Main.Text104(3)", "101.6"}});
     EXPECT_NE(Saved(bench).find("Check2 = Yes\r\n"), std::string::npos);
-    EXPECT_EQ(Load(bench, "Check2 = yes \r\n"), Events{}) << "exactly yes";
+    EXPECT_EQ(Load_Main(bench, "Check2 = yes \r\n"), Events{}) << "exactly yes";
     EXPECT_EQ(bench.At("Main.Check2").Value(), 0);
     EXPECT_EQ(bench.Get("Main.Text104(3)"), "4.0");
 }
@@ -75,7 +75,7 @@ TEST(Main_Data_File, A_Name_Of_Four_Characters_Loads_Nothing) {
         bench.folder.Write("x.dat", "Text102_0 = Five\r\n");
         const auto name_and_load = [&](const std::string& name) {
             if (!by_panel) {
-                return Load(bench, "Flow3 = " + name + "\r\n");
+                return Load_Main(bench, "Flow3 = " + name + "\r\n");
             }
             bench.Set("Main.Text1(2)", name);
             return bench.Click("Main.Command46");
@@ -94,8 +94,8 @@ TEST(Main_Data_File, Names_Of_Both_Kinds_Are_Meant_In_The_Programs_Folder) {
     std::filesystem::create_directories(bench.folder.File("Shop/Pictures"));
     bench.folder.Write("Shop/Pictures/Logo.gif", std::string_view("GIF89a\x40\0\x30\0", 10));
     bench.folder.Write("Shop/Head.dat", "Text102_0 = Found\r\n");
-    EXPECT_EQ(Load(bench, "Flow2 = Shop/Head.dat\r\nLogo_SW = 1\r\n"
-                          "Logo_Name = shop/pictures/logo.GIF\r\n"),
+    EXPECT_EQ(Load_Main(bench, "Flow2 = Shop/Head.dat\r\nLogo_SW = 1\r\n"
+                               "Logo_Name = shop/pictures/logo.GIF\r\n"),
               Events{});
     EXPECT_EQ(bench.Get("Form2.Text102(0)"), "Found");
     EXPECT_EQ(bench.session.settings.logo.file, "shop/pictures/logo.GIF");
@@ -119,8 +119,8 @@ TEST(Main_Data_File, Files_Of_Both_Separators_Serve_In_One_Session) {
         Test_Bench bench({.point = point});
         bench.folder.Write("dots.dat", "Text104_6 = 1.31\r\n");
         bench.folder.Write("commas.dat", "Text104_6 = 1,32\r\n");
-        EXPECT_EQ(Load(bench, "Flow1 = dots.dat\r\nFlow2 = commas.dat\r\nText104_3 = 4,25\r\n"
-                              "Logo_Top = 1.5\r\nLogo_Left = 2,5\r\nText105_3 = 3.5\r\n"),
+        EXPECT_EQ(Load_Main(bench, "Flow1 = dots.dat\r\nFlow2 = commas.dat\r\nText104_3 = 4,25\r\n"
+                                   "Logo_Top = 1.5\r\nLogo_Left = 2,5\r\nText105_3 = 3.5\r\n"),
                   Events{});
         const std::string mark(point);
         Expect_Texts(bench, {{"Form1.Text104(6)", "1" + mark + "31"},

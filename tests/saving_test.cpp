@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string not_saved = "exclamation box: Flow Data File has NOT been Saved";
+const std::string flow_data_not_saved = "exclamation box: Flow Data File has NOT been Saved";
 
 /// Runs a routine in a process of its own and gives whether it returned true.
 template <typename Routine>
@@ -67,7 +67,8 @@ TEST(Saving, A_Full_Disk_Leaves_The_Old_File_Whole) {
             Limit_File_Size(bytes);
             bench.platform.Choose(path);
             return Error_Of([&] { Write_Whole_File(path, std::string(4000, 'x')); }) == 61 &&
-                   bench.Click("Form1.Save_Data") == Events{"chooser to save", not_saved} &&
+                   bench.Click("Form1.Save_Data") ==
+                       Events{"chooser to save", flow_data_not_saved} &&
                    bench.Get("Form1.Text39").empty();
         })) << bytes;
         EXPECT_EQ(bench.folder.Read("head.dat"), old) << bytes;
@@ -82,7 +83,7 @@ TEST(Saving, A_Folder_That_May_Not_Be_Written_Keeps_Its_File) {
     EXPECT_TRUE(Holds_In_Child([&] {
         Become_Nobody();
         bench.platform.Choose(path);
-        return bench.Click("Form1.Save_Data") == Events{"chooser to save", not_saved};
+        return bench.Click("Form1.Save_Data") == Events{"chooser to save", flow_data_not_saved};
     }));
     ::chmod(bench.folder.Path().c_str(), 0);
     EXPECT_TRUE(Holds_In_Child([&] { // a folder below one that may not be looked into
@@ -106,7 +107,8 @@ TEST(Saving, Targets_That_Are_No_Files_Are_Refused) {
          {bench.folder.File("folder"), bench.folder.File("no/such/folder.dat"),
           std::string("/dev/null"), std::string(), bench.folder.File(std::string(300, 'x'))}) {
         bench.platform.Choose(target);
-        EXPECT_EQ(bench.Click("Form1.Save_Data"), (Events{"chooser to save", not_saved})) << target;
+        EXPECT_EQ(bench.Click("Form1.Save_Data"), (Events{"chooser to save", flow_data_not_saved}))
+            << target;
     }
     EXPECT_EQ(bench.folder.Names(), Events{"folder"});
     EXPECT_TRUE(fs::is_empty(bench.folder.File("folder")));

@@ -32,12 +32,16 @@ std::string Temp_Folder::Write(std::string_view name, std::string_view bytes) co
     return File(name);
 }
 
-std::string Temp_Folder::Read(std::string_view name) const {
-    std::ifstream file(File(name), std::ios::binary);
+std::string Bytes_Of(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
     if (!file) {
-        throw std::runtime_error("there is no file " + File(name));
+        throw std::runtime_error("there is no file " + path);
     }
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string Temp_Folder::Read(std::string_view name) const {
+    return Bytes_Of(File(name));
 }
 
 std::vector<std::string> Temp_Folder::Names() const {

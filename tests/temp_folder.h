@@ -6,6 +6,9 @@
 
 namespace kestrum {
 
+/// The bytes of a file, as they are.
+[[nodiscard]] std::string Bytes_Of(const std::string& path);
+
 /// A folder of its own for one test, gone with all its files at the end of it.
 class Temp_Folder {
 public:

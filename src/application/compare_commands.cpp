@@ -15,7 +15,7 @@ void Copy_Switch(Session& session, Control& control) {
     session.settings.*variable = Switch_Of(control.Value());
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto compare_commands = std::to_array<Command>({
     {"Command1", Run<Fill_Compare_Table>},
     {"Command2", Run<Draw_Fresh_Graph>},
     {"Graph_Plus", Run<Draw_Graph_Overlay>},
@@ -31,7 +31,7 @@ constexpr auto commands = std::to_array<Command>({
 } // namespace
 
 std::span<const Command> Compare_Commands() {
-    return commands;
+    return compare_commands;
 }
 
 } // namespace kestrum

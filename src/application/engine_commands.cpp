@@ -124,7 +124,7 @@ void Show_About(Session& session, Control& /*control*/) {
                     Box_Icon::Information);
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto engine_commands = std::to_array<Command>({
     {"Command51", Run<Calc_Engine>},
     {"Load_Data", Load_Engine},
     {"Save_Data", Save_Engine},
@@ -183,7 +183,7 @@ constexpr auto commands = std::to_array<Command>({
 } // namespace
 
 std::span<const Command> Engine_Commands() {
-    return commands;
+    return engine_commands;
 }
 
 } // namespace kestrum

@@ -24,7 +24,7 @@ void Print_Owner(Session& session, Control& control) {
     Print_Screen(session, control.Owner());
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto graph_commands = std::to_array<Command>({
     {"Logo", Run<Toggle_Logo>},
     {"Command4", Pick_Line_Colour},
     {"Combo1", Pick_Line_Width},
@@ -37,7 +37,7 @@ constexpr auto commands = std::to_array<Command>({
 } // namespace
 
 std::span<const Command> Graph_Commands() {
-    return commands;
+    return graph_commands;
 }
 
 } // namespace kestrum

@@ -19,7 +19,7 @@ void Tick_All(Session& session, Control& /*control*/) {
     Tick_All_For_Report(session.Form70(), ticked);
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto report_commands = std::to_array<Command>({
     {"Command2", Run<Create_Text_Report>},
     {"Load", Run_On_Choice<Load_Report_Config>},
     {"Save", Run_On_Choice<Save_Report_Config>},
@@ -32,7 +32,7 @@ constexpr auto commands = std::to_array<Command>({
 } // namespace
 
 std::span<const Command> Report_Commands() {
-    return commands;
+    return report_commands;
 }
 
 } // namespace kestrum

@@ -49,7 +49,7 @@ void Load_Sheet(Session& session, Control& control) {
     session.windows.Focus(sheet.Text101(zero_lift_row));
 }
 
-constexpr auto commands = std::to_array<Command>({
+constexpr auto sheet_commands = std::to_array<Command>({
     {"Command1", Run_On_Sheet<Calc_Flow_Test>},
     {"Sort", Sort_Rows},
     {"NextPage", Show_Page_2},
@@ -69,7 +69,7 @@ constexpr auto commands = std::to_array<Command>({
 } // namespace
 
 std::span<const Command> Sheet_Commands() {
-    return commands;
+    return sheet_commands;
 }
 
 } // namespace kestrum

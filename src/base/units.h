@@ -9,6 +9,7 @@ namespace kestrum {
 
 namespace factor {
 inline constexpr double inch = 25.4;                   // millimetres
+inline constexpr double thousandths = 1000;            // in an inch
 inline constexpr double square_inch = 645.16;          // square millimetres
 inline constexpr double cubic_foot = 0.02831684659;    // cubic metres
 inline constexpr double litre = 61.023744;             // cubic inches

@@ -9,7 +9,7 @@ namespace kestrum {
 namespace {
 
 constexpr double number_size = 8;
-constexpr double title_size = 8.5;
+constexpr double axis_title_size = 8.5;
 constexpr double tick_length = 3.5;
 constexpr double axis_width = 0.8;
 
@@ -62,7 +62,7 @@ void Chart_Frame::Draw_Lift_Axis(const std::string& title) const {
         figure_.Add(Figure_Text{.x = (box_.left + box_.right) / 2,
                                 .y = box_.bottom + title_drop,
                                 .text = title,
-                                .size = title_size,
+                                .size = axis_title_size,
                                 .colour = colours_.ink,
                                 .anchor = Text_Anchor::Centre});
     }
@@ -86,7 +86,7 @@ void Chart_Frame::Draw_Value_Axis(const std::string& title) const {
     figure_.Add(Figure_Text{.x = box_.left - title_gap,
                             .y = (box_.top + box_.bottom) / 2,
                             .text = title,
-                            .size = title_size,
+                            .size = axis_title_size,
                             .colour = colours_.ink,
                             .anchor = Text_Anchor::Centre,
                             .upwards = true});

@@ -4,7 +4,7 @@ namespace kestrum {
 
 namespace {
 
-constexpr double title_size = 9.5;
+constexpr double table_title_size = 9.5;
 constexpr double title_height = 15;
 constexpr double head_height = 14;
 constexpr double space_below = 10;
@@ -18,11 +18,11 @@ double Page_Table::Height() const {
 
 double Page_Table::Draw(Figure& figure, const Figure_Box& page, double top,
                         const Chart_Colours& colours) const {
-    double line = top + title_size;
+    double line = top + table_title_size;
     figure.Add(Figure_Text{.x = page.left,
                            .y = line,
                            .text = title,
-                           .size = title_size,
+                           .size = table_title_size,
                            .colour = colours.ink,
                            .bold = true});
     const auto put = [&](std::size_t column, const Table_Cell& cell, double size, int colour) {

@@ -1,14 +1,13 @@
 #include "chart/test_figures.h"
 
 #include "base/text.h"
+#include "base/units.h"
 
 #include <algorithm>
 
 namespace kestrum {
 
 namespace {
-
-constexpr double thousandths = 1000; // in an inch
 
 std::optional<double> Number_In(const Numeric_Text& numbers, const Control& field) {
     try {
@@ -74,7 +73,7 @@ private:
             if (!(lift > 0)) {
                 continue;
             }
-            const Row row{.number = number, .lift = lift / thousandths};
+            const Row row{.number = number, .lift = lift / factor::thousandths};
             const bool has_intake = Has_Flow(Side::Intake, number);
             const bool has_exhaust = Has_Flow(Side::Exhaust, number);
             if (has_intake) {

@@ -8,6 +8,9 @@
 
 namespace kestrum {
 
+/// Sizes of letters and of vector pages are in points.
+inline constexpr int points_in_inch = 72;
+
 /// The part of a sheet of paper that can be printed on, in twips, 1440 to the inch.
 struct Paper {
     double width = 12240;

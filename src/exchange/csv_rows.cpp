@@ -14,7 +14,6 @@ namespace {
 using enum Csv_Quantity;
 
 constexpr std::size_t most_rows = last_lift_row - zero_lift_row + 1;
-constexpr double thousandths = 1000; // in an inch
 
 /// A cell's number with its text, which has a point.
 struct Csv_Value {
@@ -160,16 +159,16 @@ private:
             case Csv_Unit::Inch:
                 return numbers_.Fmt_Eight_Wide(lift.number * factor::inch);
             case Csv_Unit::Thousandth:
-                return numbers_.Fmt_Eight_Wide(lift.number / thousandths * factor::inch);
+                return numbers_.Fmt_Eight_Wide(lift.number / factor::thousandths * factor::inch);
             default:
                 return As_It_Stands(lift);
             }
         }
         switch (lift_unit_) {
         case Csv_Unit::Inch:
-            return numbers_.Fmt_Whole(lift.number * thousandths);
+            return numbers_.Fmt_Whole(lift.number * factor::thousandths);
         case Csv_Unit::Millimetre:
-            return numbers_.Fmt_Whole(lift.number / factor::inch * thousandths);
+            return numbers_.Fmt_Whole(lift.number / factor::inch * factor::thousandths);
         default:
             return numbers_.Fmt_Whole(lift.number);
         }

@@ -1,6 +1,7 @@
 #include "exchange/dfw_export.h"
 
 #include "base/text.h"
+#include "base/units.h"
 #include "platform/file_store.h"
 #include "records/named_files.h"
 
@@ -8,7 +9,7 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter = "Flow Data Files (*.dfw)|*.dfw";
+constexpr std::string_view dfw_filter = "Flow Data Files (*.dfw)|*.dfw";
 
 struct Point_Lines {
     std::string lifts;
@@ -26,7 +27,6 @@ void Add_Value(std::string& text, std::string_view value) {
 
 /// Rows with a lift and a flow. All are read, so that a text that is no number is never passed by.
 Point_Lines Points_Of(Numeric_Text& numbers, const Flow_Sheet& sheet, const Control_Array& flows) {
-    constexpr int thousandths = 1000;
     const auto read = [&numbers](const Control& field) {
         return numbers.Read_Either_Mark(field.Text());
     };
@@ -35,7 +35,7 @@ Point_Lines Points_Of(Numeric_Text& numbers, const Flow_Sheet& sheet, const Cont
         const Real lift = read(sheet.Text101(row));
         const Real flow = read(flows(row));
         if (lift != 0 && flow != 0) {
-            Add_Value(points.lifts, numbers.Fmt_Six_Place(lift / thousandths));
+            Add_Value(points.lifts, numbers.Fmt_Six_Place(lift / factor::thousandths));
             Add_Value(points.flows, numbers.Fmt_Six_Place(flow));
             ++points.count;
         }
@@ -107,7 +107,7 @@ void Export_DFW_File(Session& session, const Flow_Sheet& sheet) {
     const bool for_engine_analyzer = Is_For_Engine_Analyzer(session);
     Dfw_File file;
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 1);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, dfw_filter, 1);
         // Composed first: a text that is no number must not cost the file that is there.
         file = Dfw_File_Of(session, sheet, for_engine_analyzer);
         Keep_File(session, session.file.path, file.text);

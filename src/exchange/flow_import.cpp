@@ -1,6 +1,7 @@
 #include "exchange/flow_import.h"
 
 #include "base/text.h"
+#include "base/units.h"
 #include "core/decimal_switch.h"
 #include "exchange/lift_rows.h"
 #include "platform/file_store.h"
@@ -11,7 +12,7 @@ namespace kestrum {
 namespace {
 
 // The second entry has lost its pattern, which moves all that follow; users know it so.
-constexpr std::string_view filter =
+constexpr std::string_view flow_filter =
     "Flow Files (*.flw, *.dfw)|*.flw; *.dfw|DeskTop Dyno Files (*.dyn)|Dynomation Files "
     "(*.dym)|*.dym|All Files (*.*)|*.*";
 
@@ -61,8 +62,7 @@ private:
     }
 
     void Put_Lift_In_Thousandths(int row, Real inches) {
-        constexpr int thousandths = 1000;
-        Put_Lift(sheet_, row, numbers_.Fmt_Whole(inches * thousandths));
+        Put_Lift(sheet_, row, numbers_.Fmt_Whole(inches * factor::thousandths));
     }
 
     void Put_Intake(int row) {
@@ -108,8 +108,8 @@ bool Read_And_Merge(Session& session, Flow_Sheet& sheet, Flow_Layout layout,
 void Import_Flow_File(Session& session, Flow_Sheet& sheet) {
     std::string bytes;
     try {
-        const Chosen_Path choice =
-            Choice_Of_File(session, Chooser_Mode::Open, filter, session.settings.flow_filter_index);
+        const Chosen_Path choice = Choice_Of_File(session, Chooser_Mode::Open, flow_filter,
+                                                  session.settings.flow_filter_index);
         session.settings.flow_filter_index = choice.filter_index;
         session.file.path = choice.path;
         bytes = Read_Whole_File(session.file.path);

@@ -11,7 +11,7 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter = "PTPFA Files (*.pti)|*.pti|All Files (*.*)|*.*";
+constexpr std::string_view ptpfa_filter = "PTPFA Files (*.pti)|*.pti|All Files (*.*)|*.*";
 
 void Report_Failure(Session& session, const Run_Time_Error& failure) {
     session.Message("Error Number " + session.numbers.Fmt_Whole(failure.Number()) + " -- " +
@@ -25,7 +25,7 @@ void Report_Failure(Session& session, const Run_Time_Error& failure) {
 void Import_PTPFA_File(Session& session, Flow_Sheet& sheet) {
     std::string bytes;
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
+        session.file.path = Chosen_File(session, Chooser_Mode::Open, ptpfa_filter, 1);
         bytes = Read_Whole_File(session.file.path);
     } catch (const Run_Time_Error&) {
         session.Message("Data from PTPFA File has Not been Loaded", Box_Icon::Exclamation);

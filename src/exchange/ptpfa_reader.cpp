@@ -1,6 +1,7 @@
 #include "exchange/ptpfa_reader.h"
 
 #include "base/text.h"
+#include "base/units.h"
 #include "core/decimal_switch.h"
 #include "exchange/lift_rows.h"
 #include "records/records.h"
@@ -163,8 +164,7 @@ void PTPFA_Reader::Take_Exhaust_Line(std::string_view line) {
 
 void PTPFA_Reader::Put_Lift_In_Inches(std::string_view line) {
     if (!line.empty()) {
-        constexpr int thousandths = 1000;
-        Put_Lift(sheet_, row_, session_.numbers.Fmt_Whole(Number_In(line) * thousandths));
+        Put_Lift(sheet_, row_, session_.numbers.Fmt_Whole(Number_In(line) * factor::thousandths));
     }
 }
 

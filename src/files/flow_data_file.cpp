@@ -15,13 +15,13 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter =
+constexpr std::string_view flow_data_filter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Flow Data Files (*.dat)|*.dat";
 constexpr std::string_view loading_failed =
     "Error Loading Flow Data File --- If you have Not edited the file Please Contact us!";
-constexpr Reading_Words reading_words{.not_handled_title = "TARVEX - Error Message",
-                                      .stopped = loading_failed,
-                                      .stopped_icon = Box_Icon::Exclamation};
+constexpr Reading_Words flow_data_reading{.not_handled_title = "TARVEX - Error Message",
+                                          .stopped = loading_failed,
+                                          .stopped_icon = Box_Icon::Exclamation};
 
 constexpr std::array volume_rows{0, 1, 3, 4, 6, 8, 10};
 constexpr std::array exhaust_rows{0, 1, 3, 4, 6, 8};
@@ -164,7 +164,7 @@ std::string Flow_File_Text(Session& session, const Flow_Sheet& sheet) {
 
 void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, flow_data_filter, 3);
         Keep_File(session, session.file.path, Flow_File_Text(session, sheet));
     } catch (const Run_Time_Error&) {
         session.Message("Flow Data File has NOT been Saved", Box_Icon::Exclamation);
@@ -178,7 +178,7 @@ void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
 void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) {
     std::string bytes;
     try {
-        bytes = Bytes_Of_File(session, name, filter);
+        bytes = Bytes_Of_File(session, name, flow_data_filter);
     } catch (const Run_Time_Error&) {
         session.Message("Flow Data File has Not been Loaded", Box_Icon::Exclamation);
         return;
@@ -199,7 +199,7 @@ bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view byt
     };
     try {
         Clear_Last_Rows(sheet);
-        if (!Read_Records(session, lines, sheet.Text38, reading_words, put)) {
+        if (!Read_Records(session, lines, sheet.Text38, flow_data_reading, put)) {
             return false;
         }
         Apply_Decimal_Mode(session.numbers, sheet);

@@ -14,7 +14,7 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter =
+constexpr std::string_view gui_filter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|GUI Files (*.gui)|*.gui";
 constexpr int gui_files = 3;
 
@@ -131,7 +131,7 @@ void Put_Graph_Colour(Session& session, std::string_view value) {
 }
 
 /// False when no key fits.
-bool Put_Line(Session& session, std::string_view text) {
+bool Put_Look(Session& session, std::string_view text) {
     Gui_Line line(text);
     if (Put_Font(session, line)) {
         return true;
@@ -158,7 +158,7 @@ bool Take_Lines(Session& session, std::string_view content) {
     Line_Reader lines(content);
     while (lines.Next()) {
         Count_Record(session.file.records_read);
-        if (!Put_Line(session, lines.Line()) && !Goes_On_After(session, lines.Line())) {
+        if (!Put_Look(session, lines.Line()) && !Goes_On_After(session, lines.Line())) {
             return false;
         }
     }
@@ -195,7 +195,7 @@ void Read_GUI_File(Session& session) {
 
 void Read_GUI(Session& session) {
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Open, filter, gui_files);
+        session.file.path = Chosen_File(session, Chooser_Mode::Open, gui_filter, gui_files);
     } catch (const Run_Time_Error&) {
         session.Message("Parameter File has Not been Read");
         return;
@@ -227,7 +227,7 @@ std::string GUI_Text(Session& session) {
 
 void Write_GUI(Session& session) {
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, gui_files);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, gui_filter, gui_files);
         Keep_File(session, session.file.path, GUI_Text(session));
     } catch (const Run_Time_Error&) {
         session.Message("GUI File has NOT been Saved");

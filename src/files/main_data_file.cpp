@@ -12,9 +12,9 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter =
+constexpr std::string_view main_data_filter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Main Data Files (*.dta)|*.dta";
-constexpr Reading_Words reading_words{
+constexpr Reading_Words main_data_reading{
     .not_handled_title = "MAIN - Error Message",
     .stopped = "Error Loading Main Data File --- If you have Not edited the file Please Contact "
                "us!"};
@@ -43,7 +43,7 @@ std::string Main_File_Text(Session& session) {
 bool Save_Main_File(Session& session) {
     try {
         if (session.file.path.empty()) {
-            session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, 3);
+            session.file.path = Chosen_File(session, Chooser_Mode::Save, main_data_filter, 3);
         }
         Calc_Engine(session);
         Keep_File(session, session.file.path, Main_File_Text(session));
@@ -57,7 +57,7 @@ bool Save_Main_File(Session& session) {
 bool Load_Main_File(Session& session, std::string_view name) {
     std::string bytes;
     try {
-        bytes = Bytes_Of_File(session, name, filter);
+        bytes = Bytes_Of_File(session, name, main_data_filter);
     } catch (const Run_Time_Error&) {
         session.Message("MAIN Data File has Not been Loaded");
         return false;
@@ -71,7 +71,7 @@ bool Read_Main_Records(Session& session, std::string_view bytes) {
     Engine_Screen& main = session.Main();
     const auto put = [&session](const Record& record) { return Put_Main_Record(session, record); };
     try {
-        if (!Read_Records(session, lines, main.Text38, reading_words, put)) {
+        if (!Read_Records(session, lines, main.Text38, main_data_reading, put)) {
             return false;
         }
         Apply_Decimal_Mode(session.numbers, main);

@@ -9,14 +9,14 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter = "Flow Data Files (*.dat)|*.dat";
+constexpr std::string_view preload_filter = "Flow Data Files (*.dat)|*.dat";
 constexpr std::size_t shortest_name = 5;
 
 } // namespace
 
 void Choose_Preload(Session& session, int index) {
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
+        session.file.path = Chosen_File(session, Chooser_Mode::Open, preload_filter, 1);
     } catch (const Run_Time_Error&) {
         return;
     }

@@ -12,9 +12,9 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter =
+constexpr std::string_view config_filter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Configuration Files (*.cfg)|*.cfg";
-constexpr Reading_Words reading_words{
+constexpr Reading_Words config_reading{
     .not_handled_title = "TARVEX - Error Message",
     .stopped = "Error Loading Configuration Data File --- If you have Not edited the file Please "
                "Contact us!",
@@ -75,7 +75,7 @@ bool Read_Lines(Session& session, Report_Screen& screen, Line_Reader& lines) {
         Count_Record(session.file.records_read);
         record.Take(lines.Line());
         if (!Put_Record(session.numbers, screen, record) &&
-            !Goes_On_After(session, record.Line(), reading_words)) {
+            !Goes_On_After(session, record.Line(), config_reading)) {
             return false;
         }
     }
@@ -108,7 +108,7 @@ std::string Report_Config_Text(Session& session, const Report_Screen& screen) {
 void Save_Report_Config(Session& session, const Report_Screen& screen) {
     try {
         constexpr int config_files = 3;
-        session.file.path = Chosen_File(session, Chooser_Mode::Save, filter, config_files);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, config_filter, config_files);
         Keep_File(session, session.file.path, Report_Config_Text(session, screen));
     } catch (const Run_Time_Error&) {
         session.Message("Configuration File has NOT been Saved", Box_Icon::Exclamation);
@@ -120,7 +120,7 @@ void Save_Report_Config(Session& session, const Report_Screen& screen) {
 void Load_Report_Config(Session& session, Report_Screen& screen) {
     std::string bytes;
     try {
-        bytes = Bytes_Of_File(session, "", filter);
+        bytes = Bytes_Of_File(session, "", config_filter);
     } catch (const Run_Time_Error&) {
         session.Message("Configuration File has Not been Loaded", Box_Icon::Exclamation);
         return;

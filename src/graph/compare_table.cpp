@@ -12,8 +12,6 @@ namespace kestrum {
 
 namespace {
 
-constexpr int first_heading_row = 13;
-
 const Control_Array& X_Column(const Compare_Screen& table, const Flow_Sheet& sheet) {
     switch (Compare_Screen::Chosen(table.Option4)) {
     case 0:

@@ -15,7 +15,6 @@ namespace kestrum {
 
 namespace {
 
-constexpr int black = 0x000000;
 constexpr std::size_t fewest_points = 3;
 
 /// One of the four curves.

@@ -14,8 +14,6 @@ namespace kestrum {
 
 namespace {
 
-constexpr int black = 0x000000;
-
 /// Lifts between two X lines, up to a highest lift.
 struct Line_Step {
     double up_to;

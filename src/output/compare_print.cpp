@@ -16,7 +16,6 @@ constexpr int name_row = 10;
 constexpr int first_value_row = 16;
 constexpr int last_row = 30;
 constexpr double heading_size = 10;
-constexpr double value_size = 11;
 
 /// The name of the From test as it is printed.
 struct Fitted_Name {

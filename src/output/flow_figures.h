@@ -8,10 +8,6 @@
 
 namespace kestrum {
 
-// Rows of the three-line headings above the lift rows.
-inline constexpr int first_heading_row = 13;
-inline constexpr int last_heading_row = 15;
-
 /// A derived figure of a flow sheet, for those who print it outside of the sheet. It points into
 /// the sheet and lives no longer than that.
 struct Flow_Figure {

@@ -13,11 +13,8 @@ namespace kestrum {
 
 namespace {
 
-constexpr int full_width = 99;
 constexpr int behind_last_column = 12;
-constexpr int first_heading_row = 13;
 constexpr double label_size = 10;
-constexpr double value_size = 11;
 constexpr double block_gap = 100;
 
 void Label(Print_Page& page, std::string_view text, int column, int behind) {

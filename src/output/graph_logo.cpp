@@ -7,7 +7,7 @@ namespace kestrum {
 
 namespace {
 
-constexpr std::string_view filter =
+constexpr std::string_view logo_filter =
     "Bit Map Image Files (*.bmp)|*.bmp|GIF Files (*.gif)|*.gif|JPG Files (*.jpg)|*.jpg|All Files "
     "(*.*)|*.*";
 
@@ -32,7 +32,7 @@ void Toggle_Logo(Session& session) {
         return Put_Logo(session, {});
     }
     try {
-        const std::string path = Chosen_File(session, Chooser_Mode::Open, filter, 1);
+        const std::string path = Chosen_File(session, Chooser_Mode::Open, logo_filter, 1);
         Take_Logo(session, path);
         Put_Logo(session, path);
     } catch (const Run_Time_Error&) {

@@ -10,7 +10,6 @@ namespace {
 
 constexpr int left_limit = 97;
 constexpr int right_limit = 98;
-constexpr int full_width = 99;
 constexpr double inner_left = 150;
 
 Text_Anchor Head_Anchor(const Engine_Screen& main) {

@@ -48,13 +48,11 @@ void Print_Page::Print_Aligned(std::string_view text, double left, double right,
 }
 
 void Print_Page::Print(std::string_view text) {
-    constexpr int full_width = 99;
     Print_Aligned(text, x, Tab(full_width), Text_Anchor::Left);
 }
 
 void Print_Page::Rule(double below, double width) {
     constexpr double left = 50;
-    constexpr int full_width = 99;
     y += below;
     x = Tab(full_width);
     pages_.back().Line(left, y, x, y, 0, width);
@@ -93,7 +91,6 @@ void Print_Page::Print_Label_Font() {
 }
 
 void Print_Page::Print_Value_Font() {
-    constexpr double value_size = 11;
     Return_To_Row();
     Set_Font(value_size, false);
 }

@@ -7,6 +7,11 @@
 
 namespace kestrum {
 
+/// The tab at the right edge of a page.
+inline constexpr int full_width = 99;
+/// Letters of values, in points.
+inline constexpr double value_size = 11;
+
 /// A printer as a layout drives it: by its current position, its font and its measures. What comes
 /// out are pages in twips.
 class Print_Page {

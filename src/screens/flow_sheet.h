@@ -7,6 +7,9 @@
 
 namespace kestrum {
 
+// Rows of the three-line headings, then those of the lifts.
+inline constexpr int first_heading_row = 13;
+inline constexpr int last_heading_row = 15;
 inline constexpr int zero_lift_row = 16;
 inline constexpr int first_test_row = 17;
 inline constexpr int last_lift_row = 30;

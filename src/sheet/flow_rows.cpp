@@ -9,7 +9,6 @@ namespace {
 
 /// Flow in a cubic foot per minute and square inch at a discharge coefficient of 1.
 constexpr double full_flow_per_area = 146;
-constexpr double circle = 3.14159265358979;
 
 /// One lift row of one side.
 struct Row_Side {

@@ -7,7 +7,6 @@ namespace kestrum {
 namespace {
 
 // These digits, not the library's: the last places of the results depend on them.
-constexpr double circle = 3.14159265358979;
 constexpr double degree = 0.017453292519943278;
 
 } // namespace

@@ -6,6 +6,9 @@
 
 namespace kestrum {
 
+/// Of a circle by its diameter, with the digits that the trade uses.
+inline constexpr double circle = 3.14159265358979;
+
 /// Reads one side's seat dimensions into the session's set. Raises the error of a field that is no
 /// number.
 void Seat_Geometry_Setup(const Numeric_Text& numbers, const Valve_Side& side, const Units& units);

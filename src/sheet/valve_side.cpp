@@ -6,9 +6,8 @@ namespace kestrum {
 
 namespace {
 
-using enum Cell_Role;
-
 Valve_Cells Cells_Of(const Flow_Sheet& sheet, Side side) {
+    using enum Cell_Role;
     const auto cell = [&](Cell_Role role) -> Control& { return sheet.Cell(side, role); };
     return {.port_volume = cell(Port_Volume),
             .port_length = cell(Port_Length),
@@ -39,6 +38,7 @@ Valve_Cells Cells_Of(const Flow_Sheet& sheet, Side side) {
 }
 
 Valve_Columns Columns_Of(const Flow_Sheet& sheet, Side side) {
+    using enum Cell_Role;
     const auto column = [&](Cell_Role role) -> const Control_Array& {
         return sheet.Column(side, role);
     };
