@@ -1,11 +1,7 @@
 #include "cli/graph_painter.h"
 
 #include "base/run_time_error.h"
-#include "platform/program_files.h"
-
-#include <dlfcn.h>
-#include <filesystem>
-#include <string_view>
+#include "platform/program_module.h"
 
 namespace kestrum::cli {
 
@@ -13,20 +9,12 @@ namespace {
 
 Painter* Load_Painter() {
     using Maker = Painter* (*)();
-    constexpr std::string_view name = "kestrum-painting.so";
-    // By its whole path: a bare name is looked for in the system's folders.
-    const std::filesystem::path path = Program_File(Program_Part::Library, name);
-    if (path.empty()) {
+    const Module_Routine maker = Routine_Of_Module("kestrum-painting", "Kestrum_Painter");
+    if (maker.routine == nullptr) {
         throw Run_Time_Error(error::invalid_picture,
-                             "This program has no painting: " + std::string(name) + " is missing");
+                             "This program has no painting: " + maker.failure);
     }
-    void* const module = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    void* const maker = module == nullptr ? nullptr : ::dlsym(module, "Kestrum_Painter");
-    if (maker == nullptr) {
-        throw Run_Time_Error(error::invalid_picture,
-                             "This program has no painting: " + std::string(::dlerror()));
-    }
-    return reinterpret_cast<Maker>(maker)();
+    return reinterpret_cast<Maker>(maker.routine)();
 }
 
 } // namespace

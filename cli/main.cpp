@@ -13,6 +13,7 @@
 #include "cli/standard_streams.h"
 #include "cli/usage_error.h"
 #include "cli/usage_texts.h"
+#include "platform/program_start.h"
 
 #include <algorithm>
 #include <array>
@@ -21,8 +22,10 @@
 #include <fstream>
 #include <iostream>
 #include <span>
+#include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace {
 
@@ -35,7 +38,7 @@ int Run_Script(std::span<const char* const> arguments) {
     if (options.file == "-") {
         return runner.Run(std::cin, failure);
     }
-    std::ifstream script(options.file);
+    std::ifstream script{std::filesystem::path(options.file)};
     std::error_code ignored;
     if (!script || std::filesystem::is_directory(options.file, ignored)) {
         throw Stream_Error(failure);
@@ -45,7 +48,7 @@ int Run_Script(std::span<const char* const> arguments) {
 
 int Calculate(std::span<const char* const> arguments) {
     Calc_Options options = Calc_Options_From(arguments);
-    options.to_terminal = Prints_To_Terminal();
+    options.to_terminal = kestrum::Prints_To_Terminal();
     return Run_Calc(options, std::cin, std::cout, std::cerr);
 }
 
@@ -55,7 +58,7 @@ int Convert(std::span<const char* const> arguments) {
 
 int Compare(std::span<const char* const> arguments) {
     Graph_Options options = Compare_Options_From(arguments);
-    options.to_terminal = Prints_To_Terminal();
+    options.to_terminal = kestrum::Prints_To_Terminal();
     return Run_Compare(options, std::cout, std::cerr);
 }
 
@@ -78,14 +81,14 @@ int Report(std::span<const char* const> arguments) {
 
 int Chart(std::span<const char* const> arguments) {
     Chart_Options options = Chart_Options_From(arguments);
-    options.to_terminal = Prints_To_Terminal();
+    options.to_terminal = kestrum::Prints_To_Terminal();
     Late_Painter painter;
     return Run_Chart(options, painter, std::cout, std::cerr);
 }
 
 int List_Library(std::span<const char* const> arguments) {
     Library_Options options = Library_Options_From(arguments);
-    options.to_terminal = Prints_To_Terminal();
+    options.to_terminal = kestrum::Prints_To_Terminal();
     return Run_Library(options, std::cout, std::cerr);
 }
 
@@ -149,10 +152,15 @@ int Run_Verb(std::span<const char* const> arguments) {
 
 int main(int count, char* values[]) { // NOLINT(*-avoid-c-arrays)
     constexpr int unusable = 2;
-    Hold_Closed_Streams();
+    kestrum::Prepare_Standard_Streams();
     std::ios::sync_with_stdio(false);
     try {
-        const int status = Run_Verb(std::span(values, static_cast<std::size_t>(count)).subspan(1));
+        const std::vector<std::string> texts = kestrum::Program_Arguments(count, values);
+        std::vector<const char*> arguments;
+        for (const std::string& text : texts) {
+            arguments.push_back(text.c_str());
+        }
+        const int status = Run_Verb(arguments);
         Finish(std::cout, "the output cannot be written");
         return status;
     } catch (const std::exception& fault) {

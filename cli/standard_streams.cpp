@@ -1,23 +1,6 @@
 #include "cli/standard_streams.h"
 
-#include <cerrno>
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace kestrum::cli {
-
-void Hold_Closed_Streams() {
-    for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (::fcntl(number, F_GETFD) == -1 && errno == EBADF) {
-            // Opened the wrong way round, so that its use fails. It gets the lowest free number.
-            static_cast<void>(::open("/dev/null", number == STDIN_FILENO ? O_WRONLY : O_RDONLY));
-        }
-    }
-}
-
-bool Prints_To_Terminal() {
-    return ::isatty(STDOUT_FILENO) == 1;
-}
 
 void Finish(std::ostream& out, const std::string& failure) {
     out.flush();

@@ -13,13 +13,6 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Fills the places of standard streams that are closed. Otherwise the next file that is opened
-/// gets the number of the output, and what is printed goes into it.
-void Hold_Closed_Streams();
-
-/// Whether what is printed goes to a terminal, which obeys the control characters in it.
-[[nodiscard]] bool Prints_To_Terminal();
-
 /// Hands all that was printed to the system. Raises `Stream_Error` with the text when any of it
 /// could not be written.
 void Finish(std::ostream& out, const std::string& failure);

@@ -2,6 +2,7 @@
 
 #include "files/logo.h"
 #include "graph/graph_state.h"
+#include "platform/file_store.h"
 
 #include <algorithm>
 #include <iterator>
@@ -46,7 +47,7 @@ std::string Step_Name(const Session& session, const std::string& words) {
         return "Change of a Field";
     }
     const std::string& path = session.file.path;
-    return Reads_A_File(words) ? words + " " + path.substr(path.rfind('/') + 1) : words;
+    return Reads_A_File(words) ? words + " " + Bare_Name(path) : words;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "base/run_time_error.h"
 #include "base/units.h"
+#include "platform/file_store.h"
 
 #include <algorithm>
 
@@ -50,7 +51,7 @@ Chart_Entry Entry_For(const Chart_Test& test, const Chart_Request& request) {
                       .valve_diameter = {},
                       .comment = test.figures.comment};
     if (entry.name.empty()) {
-        entry.name = test.file.substr(test.file.rfind('/') + 1);
+        entry.name = Bare_Name(test.file);
     }
     for (const Chart_Side side : chart_sides) {
         if (request.shows[side]) {

@@ -56,7 +56,7 @@ Size Bitmap_Size(std::string_view head, std::uint64_t file_size) {
 Size Jpeg_Size(const Open_File& file) {
     constexpr int most_markers = 4096;
     constexpr std::size_t longest_head = 9;
-    off_t offset = 2;
+    std::uint64_t offset = 2;
     for (int markers = 0; markers < most_markers; ++markers) {
         const std::string head = file.Piece(offset, longest_head);
         if (head.size() < longest_head || Byte_At(head, 0) != 0xFF) {
@@ -68,7 +68,7 @@ Size Jpeg_Size(const Open_File& file) {
         if (is_frame) {
             return {.width = Big_Endian(head, 7, 2), .height = Big_Endian(head, 5, 2)};
         }
-        offset += 2 + static_cast<off_t>(Big_Endian(head, 2, 2));
+        offset += 2 + Big_Endian(head, 2, 2);
     }
     return {};
 }
@@ -77,7 +77,7 @@ Size Size_In_Header(const Open_File& file) {
     constexpr std::size_t longest_head = 64;
     const std::string head = file.Piece(0, longest_head);
     if (head.starts_with("BM")) {
-        return Bitmap_Size(head, static_cast<std::uint64_t>(file.Facts().st_size));
+        return Bitmap_Size(head, file.Size());
     }
     if (head.starts_with("GIF87a") || head.starts_with("GIF89a")) {
         return {.width = Little_Endian(head, 6, 2), .height = Little_Endian(head, 8, 2)};

@@ -5,6 +5,7 @@
 #include "exchange/flow_import.h"
 #include "exchange/ptpfa_import.h"
 #include "files/flow_data_file.h"
+#include "platform/file_store.h"
 
 #include <algorithm>
 #include <array>
@@ -56,7 +57,7 @@ Flow_Layout Layout_Of(Test_Format format) {
 } // namespace
 
 std::optional<Test_Format> Format_Of_Ending(std::string_view path) {
-    const std::string_view name = path.substr(path.rfind('/') + 1);
+    const std::string_view name = Bare_Name(path);
     const std::size_t point = name.rfind('.');
     if (point == std::string_view::npos) {
         return std::nullopt;

@@ -93,6 +93,7 @@ void Rescue_Folder::Leave() {
         Remove_Left_Overs(path_); // of killed programs; they would keep the folder
         // Last, for then another program may come in.
         Remove_File(Join_Path(path_, lock_name));
+        lock_.Release(); // some systems keep the name until then
         Remove_Empty_Folder(path_);
     }
     lock_.Release();

@@ -161,7 +161,7 @@ std::string Put_Copy_Aside(const Session& session, const std::string& path) {
     const std::string aside = Join_Path(session.surroundings.folder, "rescue-declined");
     std::string kept = Make_Folder(aside) ? Move_To_Fresh_Name(path, aside) : std::string();
     if (kept.empty()) { // another name beside it keeps it from being written over as well
-        kept = Move_To_Fresh_Name(path, path.substr(0, path.rfind('/')));
+        kept = Move_To_Fresh_Name(path, Folder_Of(path));
     }
     return kept.empty() ? path : kept;
 }

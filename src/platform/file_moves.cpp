@@ -1,34 +1,16 @@
 #include "platform/file_moves.h"
 
+#include "platform/file_store.h"
+
 #include <array>
-#include <cerrno>
 #include <charconv>
-#include <cstdio>
-#include <fcntl.h>
 #include <filesystem>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace kestrum {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Gives a file another name, never over one that bears it; the outcome as the system's number.
-int Rename_Without_Loss(const std::string& from, const std::string& to) {
-    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
-        return 0;
-    }
-    if (errno != EINVAL && errno != ENOSYS) {
-        return errno;
-    }
-    // A file system that cannot promise it: a second name never replaces either.
-    if (::link(from.c_str(), to.c_str()) != 0) {
-        return errno;
-    }
-    return ::unlink(from.c_str()) == 0 ? 0 : errno;
-}
 
 std::string Numbered_Name(const fs::path& name, int number) {
     std::array<char, 12> digits{};
@@ -39,25 +21,17 @@ std::string Numbered_Name(const fs::path& name, int number) {
 
 } // namespace
 
-bool Remove_File(const std::string& path) {
-    return ::unlink(path.c_str()) == 0 || errno == ENOENT || errno == ENOTDIR;
-}
-
-void Remove_Empty_Folder(const std::string& path) {
-    static_cast<void>(::rmdir(path.c_str()));
-}
-
 std::string Move_To_Fresh_Name(const std::string& path, std::string_view folder) {
     constexpr int most_names = 100000;
     const fs::path name = fs::path(path).filename();
     for (int number = 1; number <= most_names; ++number) {
-        const fs::path fresh =
-            fs::path(folder) / (number == 1 ? name.string() : Numbered_Name(name, number));
-        const int failure = Rename_Without_Loss(path, fresh.string());
-        if (failure == 0) {
-            return fresh.string();
+        const std::string fresh =
+            Join_Path(folder, number == 1 ? name.string() : Numbered_Name(name, number));
+        const Rename_Outcome outcome = Rename_Without_Loss(path, fresh);
+        if (outcome == Rename_Outcome::Done) {
+            return fresh;
         }
-        if (failure != EEXIST) {
+        if (outcome == Rename_Outcome::Failed) {
             return {};
         }
     }
@@ -65,12 +39,9 @@ std::string Move_To_Fresh_Name(const std::string& path, std::string_view folder)
 }
 
 std::int64_t Moment_Of_File(const std::string& path) {
-    struct stat facts {};
-
     constexpr std::int64_t second = 1'000'000'000;
-    return ::stat(path.c_str(), &facts) == 0
-               ? std::int64_t{facts.st_mtim.tv_sec} * second + facts.st_mtim.tv_nsec
-               : 0;
+    const std::optional<File_Time> written = Last_Write(path);
+    return written ? written->seconds * second + written->nanoseconds : 0;
 }
 
 } // namespace kestrum

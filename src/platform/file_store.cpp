@@ -1,13 +1,11 @@
 #include "platform/file_store.h"
 
-#include "base/run_time_error.h"
+#include "platform/file_moves.h"
+#include "platform/system_clock.h"
 
-#include <algorithm>
-#include <ctime>
+#include <array>
+#include <chrono>
 #include <filesystem>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <vector>
 
 namespace kestrum {
 
@@ -15,44 +13,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Lower(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    });
-    return text;
-}
-
-/// The name under which a folder holds what is wanted: the exact one, else the first in byte order
-/// that differs in case alone; empty when there is none.
-std::string Name_As_Held(const fs::path& folder, const std::string& wanted) {
-    std::error_code failed;
-    if (fs::exists(folder / wanted, failed)) {
-        return wanted;
-    }
-    std::string first;
-    for (fs::directory_iterator entry(folder.empty() ? "." : folder, failed), end;
-         !failed && entry != end; entry.increment(failed)) {
-        std::string name = entry->path().filename().string();
-        if (Lower(name) == Lower(wanted) && (first.empty() || name < first)) {
-            first = std::move(name);
-        }
-    }
-    return first;
-}
+/// What stands between the parts of a path; one twice where there is only one.
+constexpr std::array letters_between{'/', static_cast<char>(fs::path::preferred_separator)};
+constexpr std::string_view separators(letters_between.data(), letters_between.size());
 
 struct Time_Marks {
     std::string_view before_hour;
     std::string_view at_end;
 };
 
-std::string Time_Of_File(const std::string& path, std::tm* (*broken_down)(const time_t*, std::tm*),
-                         const Time_Marks& marks) {
-    struct stat facts {};
-
-    std::tm moment{};
-    if (::stat(path.c_str(), &facts) != 0 || broken_down(&facts.st_mtime, &moment) == nullptr) {
-        return {};
-    }
+std::string Time_Text(const Moment& moment, const Time_Marks& marks) {
     std::string text;
     const auto put = [&text](int number, std::size_t digits, std::string_view mark) {
         const std::size_t at = text.size();
@@ -62,14 +32,26 @@ std::string Time_Of_File(const std::string& path, std::tm* (*broken_down)(const 
         }
         text += mark;
     };
-    constexpr int first_year = 1900;
-    put(moment.tm_year + first_year, 4, "-");
-    put(moment.tm_mon + 1, 2, "-");
-    put(moment.tm_mday, 2, marks.before_hour);
-    put(moment.tm_hour, 2, ":");
-    put(moment.tm_min, 2, ":");
-    put(moment.tm_sec, 2, marks.at_end);
+    put(moment.year, 4, "-");
+    put(moment.month, 2, "-");
+    put(moment.day, 2, marks.before_hour);
+    put(moment.hour, 2, ":");
+    put(moment.minute, 2, ":");
+    put(moment.second, 2, marks.at_end);
     return text;
+}
+
+Moment Utc_Moment(std::int64_t seconds) {
+    const std::chrono::sys_seconds moment{std::chrono::seconds(seconds)};
+    const auto midnight = std::chrono::floor<std::chrono::days>(moment);
+    const std::chrono::year_month_day day(midnight);
+    const std::chrono::hh_mm_ss time(moment - midnight);
+    return {.year = int{day.year()},
+            .month = static_cast<int>(unsigned{day.month()}),
+            .day = static_cast<int>(unsigned{day.day()}),
+            .hour = static_cast<int>(time.hours().count()),
+            .minute = static_cast<int>(time.minutes().count()),
+            .second = static_cast<int>(time.seconds().count())};
 }
 
 } // namespace
@@ -80,60 +62,31 @@ std::string Join_Path(std::string_view folder, std::string_view name) {
 
 std::string Name_In_Folder(std::string_view folder, const std::string& path) {
     const std::string inside = Join_Path(folder, "");
-    return path.starts_with(inside) ? path.substr(inside.size())
-                                    : fs::path(path).filename().string();
+    return path.starts_with(inside) ? path.substr(inside.size()) : Bare_Name(path);
+}
+
+std::string Bare_Name(std::string_view path) {
+    return std::string(path.substr(path.find_last_of(separators) + 1));
+}
+
+std::string Folder_Of(std::string_view path) {
+    return std::string(path.substr(0, path.find_last_of(separators)));
 }
 
 bool Holds_Separator(std::string_view name) {
-    return name.find('/') != std::string_view::npos ||
-           name.find(static_cast<char>(fs::path::preferred_separator)) != std::string_view::npos;
-}
-
-std::string Find_Case_Blind(const std::string& path) {
-    // No system opens a longer one, and each part of it costs a look into a folder.
-    constexpr std::size_t longest_path = 4096;
-    if (path.size() > longest_path || File_Exists(path)) {
-        return path;
-    }
-    const fs::path wanted(path);
-    fs::path found = wanted.root_path();
-    for (const fs::path& part : wanted.relative_path()) {
-        const std::string name = Name_As_Held(found, part.string());
-        if (name.empty()) {
-            return path;
-        }
-        found /= name;
-    }
-    return found.string();
-}
-
-bool File_Exists(const std::string& path) {
-    std::error_code failed;
-    return fs::exists(path, failed);
-}
-
-bool Can_Be_Read(const std::string& path) {
-    std::error_code failed;
-    return fs::is_regular_file(path, failed) && ::access(path.c_str(), R_OK) == 0;
-}
-
-bool Make_Folder(const std::string& path) {
-    std::error_code failed;
-    fs::create_directories(path, failed);
-    return fs::is_directory(path, failed);
-}
-
-void Move_File(const std::string& from, const std::string& to) {
-    std::error_code ignored;
-    fs::rename(from, to, ignored);
+    return name.find_first_of(separators) != std::string_view::npos;
 }
 
 std::string Time_Of_File(const std::string& path) {
-    return Time_Of_File(path, ::localtime_r, {.before_hour = " ", .at_end = ""});
+    const std::optional<File_Time> written = Last_Write(path);
+    const Moment moment = written ? Local_Moment(written->seconds) : Moment{.month = 0};
+    return moment.month == 0 ? "" : Time_Text(moment, {.before_hour = " ", .at_end = ""});
 }
 
 std::string Utc_Time_Of_File(const std::string& path) {
-    return Time_Of_File(path, ::gmtime_r, {.before_hour = "T", .at_end = "Z"});
+    const std::optional<File_Time> written = Last_Write(path);
+    return written ? Time_Text(Utc_Moment(written->seconds), {.before_hour = "T", .at_end = "Z"})
+                   : "";
 }
 
 } // namespace kestrum

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kestrum {
 
@@ -15,9 +16,16 @@ namespace kestrum {
 /// Whether a name names its folder too.
 [[nodiscard]] bool Holds_Separator(std::string_view name);
 
+/// The last part of a path, without its folder, and the folder, without the separator.
+[[nodiscard]] std::string Bare_Name(std::string_view path);
+[[nodiscard]] std::string Folder_Of(std::string_view path);
+
+/// The names of all that lies in a folder, in no order; those read so far when it cannot be read.
+[[nodiscard]] std::vector<std::string> Names_In_Folder(const std::string& folder);
+
 /// Finds a file: as it stands first, then without regard to case in every part of its path (an
 /// exact match is preferred, then the first in byte order). Gives the path as it stands when
-/// nothing fits.
+/// nothing fits, and where the system itself looks without regard to case.
 [[nodiscard]] std::string Find_Case_Blind(const std::string& path);
 
 [[nodiscard]] bool File_Exists(const std::string& path);

@@ -1,9 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
-#include <sys/types.h>
 
 namespace kestrum {
 
@@ -21,10 +20,9 @@ public:
 
     [[nodiscard]] int Handle() const { return handle_; }
 
-    /// What was opened, which a look at the name cannot tell for sure.
-    [[nodiscard]] struct stat Facts() const;
+    [[nodiscard]] std::uint64_t Size() const;
     /// Reads up to so many bytes from a place on; fewer at the end of the file only.
-    [[nodiscard]] std::string Piece(off_t offset, std::size_t bytes) const;
+    [[nodiscard]] std::string Piece(std::uint64_t offset, std::size_t bytes) const;
     void Write_All(std::string_view content) const;
     /// Puts all that was written onto the disk.
     void Flush() const;
@@ -38,5 +36,9 @@ private:
 /// Opens a regular file for reading and never waits for one that is none, such as a pipe. Raises
 /// 53, 70, 75 or 76.
 [[nodiscard]] Open_File Open_To_Read(const std::string& path);
+
+/// Makes a file under a name that nothing bears, and gives its handle for an `Open_File`; below
+/// zero when the name is taken. Raises 70, 75 or 76. A `secret` one is for this user alone.
+[[nodiscard]] int Handle_Of_New_File(const std::string& path, bool secret = false);
 
 } // namespace kestrum

@@ -1,5 +1,7 @@
 #include "platform/program_files.h"
 
+#include "platform/program_module.h"
+
 #include <initializer_list>
 #include <system_error>
 
@@ -8,8 +10,7 @@ namespace kestrum {
 std::filesystem::path Program_File(Program_Part part, std::string_view name) {
     namespace fs = std::filesystem;
     std::error_code fault;
-    // A program that was started by its bare name does not know its place otherwise.
-    const fs::path here = fs::read_symlink("/proc/self/exe", fault).parent_path();
+    const fs::path here = Program_Folder();
     const bool is_library = part == Program_Part::Library;
     const fs::path built = is_library ? here : here / "doc";
     const fs::path installed = here / (is_library ? KESTRUM_LIBRARIES : KESTRUM_DOCUMENTS);

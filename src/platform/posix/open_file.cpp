@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kestrum {
@@ -61,21 +62,21 @@ Open_File::~Open_File() {
     }
 }
 
-struct stat Open_File::Facts() const {
+std::uint64_t Open_File::Size() const {
     struct stat facts {};
 
     if (::fstat(handle_, &facts) != 0) {
         Fail_With_System_Error(errno);
     }
-    return facts;
+    return static_cast<std::uint64_t>(facts.st_size);
 }
 
-std::string Open_File::Piece(off_t offset, std::size_t bytes) const {
+std::string Open_File::Piece(std::uint64_t offset, std::size_t bytes) const {
     std::string piece(bytes, '\0');
     std::size_t filled = 0;
     while (filled < bytes) {
         const ssize_t got = ::pread(handle_, piece.data() + filled, bytes - filled,
-                                    offset + static_cast<off_t>(filled));
+                                    static_cast<off_t>(offset + filled));
         if (got < 0 && errno == EINTR) {
             continue;
         }
@@ -120,6 +121,21 @@ void Open_File::Close() {
 
 Open_File Open_To_Read(const std::string& path) {
     return Open_File(Handle_Of_Regular_File(path));
+}
+
+int Handle_Of_New_File(const std::string& path, bool secret) {
+    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    constexpr mode_t nobody_else = 0600;
+    constexpr mode_t usual = 0666;
+    const int handle =
+        ::open(path.c_str(), flags, secret ? nobody_else : usual); // NOLINT(*-vararg)
+    if (handle < 0 && errno == ENOENT) {
+        Fail(error::path_not_found); // the folder, for the file is to be made
+    }
+    if (handle < 0 && errno != EEXIST) {
+        Fail_With_System_Error(errno);
+    }
+    return handle;
 }
 
 } // namespace kestrum

@@ -8,15 +8,16 @@ namespace kestrum {
 
 std::string Read_Whole_File(const std::string& path) {
     const Open_File file = Open_To_Read(path);
-    const auto told_size = static_cast<std::size_t>(file.Facts().st_size);
+    const std::uint64_t told_size = file.Size();
     if (told_size > most_text_bytes) {
         Fail(error::path_or_file_access);
     }
     // Most files come in one piece, which is not much larger than they are.
-    const std::size_t piece = std::clamp<std::size_t>(told_size + 1, 4096, 65536);
+    const auto piece =
+        static_cast<std::size_t>(std::clamp<std::uint64_t>(told_size + 1, 4096, 65536));
     std::string content;
     for (;;) {
-        const std::string more = file.Piece(static_cast<off_t>(content.size()), piece);
+        const std::string more = file.Piece(content.size(), piece);
         content += more;
         // Some systems tell no size, and a file may grow while it is read.
         if (content.size() > most_text_bytes) {
@@ -26,6 +27,13 @@ std::string Read_Whole_File(const std::string& path) {
             return content;
         }
     }
+}
+
+void Write_Whole_File(const std::string& path, std::string_view content) {
+    if (content.size() > most_text_bytes) {
+        Fail(error::path_or_file_access);
+    }
+    Replace_File(path, content);
 }
 
 } // namespace kestrum
