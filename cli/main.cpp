@@ -156,10 +156,8 @@ int main(int count, char* values[]) { // NOLINT(*-avoid-c-arrays)
     std::ios::sync_with_stdio(false);
     try {
         const std::vector<std::string> texts = kestrum::Program_Arguments(count, values);
-        std::vector<const char*> arguments;
-        for (const std::string& text : texts) {
-            arguments.push_back(text.c_str());
-        }
+        std::vector<const char*> arguments(texts.size());
+        std::ranges::transform(texts, arguments.begin(), &std::string::c_str);
         const int status = Run_Verb(arguments);
         Finish(std::cout, "the output cannot be written");
         return status;

@@ -57,7 +57,7 @@ Flow_Layout Layout_Of(Test_Format format) {
 } // namespace
 
 std::optional<Test_Format> Format_Of_Ending(std::string_view path) {
-    const std::string_view name = Bare_Name(path);
+    const std::string name = Bare_Name(path);
     const std::size_t point = name.rfind('.');
     if (point == std::string_view::npos) {
         return std::nullopt;

@@ -25,7 +25,7 @@ std::string Move_To_Fresh_Name(const std::string& path, std::string_view folder)
     constexpr int most_names = 100000;
     const fs::path name = fs::path(path).filename();
     for (int number = 1; number <= most_names; ++number) {
-        const std::string fresh =
+        std::string fresh =
             Join_Path(folder, number == 1 ? name.string() : Numbered_Name(name, number));
         const Rename_Outcome outcome = Rename_Without_Loss(path, fresh);
         if (outcome == Rename_Outcome::Done) {

@@ -56,10 +56,6 @@ Moment Utc_Moment(std::int64_t seconds) {
 
 } // namespace
 
-std::string Join_Path(std::string_view folder, std::string_view name) {
-    return (fs::path(folder) / fs::path(name)).string();
-}
-
 std::string Name_In_Folder(std::string_view folder, const std::string& path) {
     const std::string inside = Join_Path(folder, "");
     return path.starts_with(inside) ? path.substr(inside.size()) : Bare_Name(path);

@@ -35,6 +35,10 @@ std::string Name_As_Held(const fs::path& folder, const std::string& wanted) {
 
 } // namespace
 
+std::string Join_Path(std::string_view folder, std::string_view name) {
+    return (fs::path(folder) / fs::path(name)).string();
+}
+
 std::vector<std::string> Names_In_Folder(const std::string& folder) {
     std::vector<std::string> names;
     std::error_code failed;

@@ -1,0 +1,47 @@
+#include "platform/program_module.h"
+
+#include "platform/program_files.h"
+#include "platform/windows/system_path.h"
+
+#include <filesystem>
+#include <windows.h>
+
+namespace kestrum {
+
+namespace {
+
+std::string Words_Of_Failure(DWORD failure) {
+    std::wstring words(512, L'\0');
+    words.resize(::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                  nullptr, failure, 0, words.data(),
+                                  static_cast<DWORD>(words.size()), nullptr));
+    words.erase(words.find_last_not_of(L"\r\n ") + 1);
+    return Narrow_Text(words);
+}
+
+} // namespace
+
+std::string Program_Folder() {
+    constexpr std::size_t longest_path = 32768;
+    std::wstring program(longest_path, L'\0');
+    program.resize(
+        ::GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+    return Narrow_Text(program.substr(0, program.find_last_of(L'\\')));
+}
+
+Module_Routine Routine_Of_Module(std::string_view module, const char* routine) {
+    const std::string name = std::string(module) + ".dll";
+    // By its whole path: a bare name is looked for in the system's folders.
+    const std::filesystem::path path = Program_File(Program_Part::Library, name);
+    if (path.empty()) {
+        return {.failure = name + " is missing"};
+    }
+    const HMODULE loaded = ::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    const FARPROC found = loaded == nullptr ? nullptr : ::GetProcAddress(loaded, routine);
+    if (found == nullptr) {
+        return {.failure = Words_Of_Failure(::GetLastError())};
+    }
+    return {.routine = reinterpret_cast<void*>(found)};
+}
+
+} // namespace kestrum
