@@ -31,6 +31,26 @@ int Number_Of(HANDLE file) {
     return handle;
 }
 
+int Number_For(int system_error) {
+    switch (system_error) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+        return error::file_not_found;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_WRITE_PROTECT:
+        return error::permission_denied;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+    case quota_exceeded:
+    case ERROR_FILE_TOO_LARGE:
+        return error::disk_full;
+    default:
+        return error::path_or_file_access;
+    }
+}
+
 [[noreturn]] void Fail_With_Last_Error() {
     Fail_With_System_Error(static_cast<int>(::GetLastError()));
 }
@@ -54,23 +74,7 @@ int Number_Of(HANDLE file) {
 } // namespace
 
 void Fail_With_System_Error(int system_error) {
-    switch (system_error) {
-    case ERROR_FILE_NOT_FOUND:
-    case ERROR_PATH_NOT_FOUND:
-        Fail(error::file_not_found);
-    case ERROR_ACCESS_DENIED:
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION:
-    case ERROR_WRITE_PROTECT:
-        Fail(error::permission_denied);
-    case ERROR_DISK_FULL:
-    case ERROR_HANDLE_DISK_FULL:
-    case quota_exceeded:
-    case ERROR_FILE_TOO_LARGE:
-        Fail(error::disk_full);
-    default:
-        Fail(error::path_or_file_access);
-    }
+    Fail(Number_For(system_error));
 }
 
 Open_File::Open_File(int handle) : handle_(handle) {
