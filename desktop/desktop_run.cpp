@@ -4,6 +4,7 @@
 #include "base/run_time_error.h"
 #include "desktop/arrivals.h"
 #include "desktop/desktop_dialogs.h"
+#include "desktop/field_tips.h"
 #include "desktop/program.h"
 #include "desktop/program_icon.h"
 #include "desktop/safe_application.h"
@@ -109,6 +110,7 @@ int Run(const Start_Options& options, const Program_Hook& before_start) {
         before_start(program);
     }
     Arrivals arrivals(program);
+    const Field_Tips tips(program);
     if (program.Start()) {
         Do_The_Rest_When_Painted(program, arrivals, running, options);
         QApplication::exec();
