@@ -8,7 +8,6 @@
 #include "presentation/field_help.h"
 
 #include <QApplication>
-#include <QHelpEvent>
 #include <QMenuBar>
 #include <QPainter>
 #include <QToolTip>

@@ -2,9 +2,8 @@
 
 #include "desktop/program.h"
 
+#include <QHelpEvent>
 #include <QObject>
-
-class QHelpEvent;
 
 namespace kestrum::desktop {
 
