@@ -35,6 +35,7 @@ void Notes_Field::Refresh() {
         setPlainText(Lines_To_Qt(std::string_view(shown_).substr(0, longest_text)));
         setReadOnly(too_long || control.Present_Look().locked);
     }
+    Notes_Field::Take_Letters();
     QTextOption option = document()->defaultTextOption();
     if (option.alignment() != Alignment_Of(control)) {
         option.setAlignment(Alignment_Of(control));
@@ -49,6 +50,17 @@ void Notes_Field::Show_Selection(const Selection& selection) {
     } else {
         moveCursor(QTextCursor::End);
     }
+}
+
+/// Without a font of its own it has its page's, which grows with the window.
+void Notes_Field::Take_Letters() {
+    const bool chosen = theme::Chosen_Font(control) != Font();
+    if (chosen) {
+        setFont(theme::Font_Of(control, parentWidget()->font()));
+    } else if (own_letters_) {
+        setFont(QFont());
+    }
+    own_letters_ = chosen;
 }
 
 void Notes_Field::Name_Anew() {

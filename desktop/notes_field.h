@@ -14,6 +14,7 @@ public:
     void Refresh() override;
     void Show_Selection(const Selection& selection) override;
     void Name_Anew() override;
+    void Take_Letters() override;
     [[nodiscard]] QRect Area_In(const QRect& cell) const override;
 
 protected:
@@ -23,6 +24,7 @@ private:
     void Take_Typed();
 
     std::string shown_;
+    bool own_letters_ = false;
 };
 
 } // namespace kestrum::desktop

@@ -231,7 +231,8 @@ TEST(Looks, Rows_Stay_Aligned_In_Large_Letters_And_On_A_Stretched_Screen) {
     };
     const int before = letters("Form1.Text101(17)");
     bench.program.Its_Gate().Enter([&] {
-        for (const std::string_view address : {"Form1.Text101(17)", "Form1.Text106(17)"}) {
+        for (const std::string_view address :
+             {"Form1.Text101(17)", "Form1.Text106(17)", "Main.Text38"}) {
             Look look = bench.At(address).Present_Look();
             look.font = {.name = "DejaVu Sans", .size = 2 * Font().size, .bold = true};
             bench.At(address).Set_Look(look);
@@ -239,6 +240,8 @@ TEST(Looks, Rows_Stay_Aligned_In_Large_Letters_And_On_A_Stretched_Screen) {
     });
     QWidget& large = bench.Widget("Form1.Text101(17)");
     EXPECT_TRUE(large.font().bold());
+    EXPECT_TRUE(bench.Widget("Main.Text38").font().bold());
+    EXPECT_GT(letters("Main.Text38"), letters("Main.Command51") * 3 / 2);
     EXPECT_GT(letters("Form1.Text101(17)"), before * 3 / 2);
     EXPECT_GE(large.height(), QFontMetrics(large.font()).height());
     for (const char* const address :
