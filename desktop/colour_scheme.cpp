@@ -16,7 +16,7 @@ constexpr Colour_Scheme light{
     .line = 0xFFC3CBD5,
     .ink = 0xFF1C2530,
     .quiet_ink = 0xFF515D6B,
-    .faint_ink = 0xFF687380,
+    .faint_ink = 0xFF636E7B,
     .accent = 0xFF17696A,
     .accent_hover = 0xFF1E7B7C,
     .on_accent = 0xFFFFFFFF,

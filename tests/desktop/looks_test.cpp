@@ -71,12 +71,15 @@ TEST(Looks, Every_Text_Can_Be_Read_In_The_Colours_Of_The_Desktop) {
                 EXPECT_GE(Contrast_Of(back, ink), readable) << std::hex << back << ' ' << ink;
             }
         }
-        EXPECT_GE(Contrast_Of(scheme.card, scheme.faint_ink), readable);
-        EXPECT_GE(Contrast_Of(scheme.card, scheme.failure), readable);
+        for (const QRgb back : {scheme.window, scheme.card}) {
+            EXPECT_GE(Contrast_Of(back, scheme.faint_ink), readable);
+            EXPECT_GE(Contrast_Of(back, scheme.failure), readable);
+        }
         EXPECT_GE(Contrast_Of(scheme.on_accent, scheme.accent), readable);
         EXPECT_GE(Contrast_Of(scheme.on_accent, scheme.accent_hover), readable);
         for (const Side_Colours& side : {scheme.neutral, scheme.intake, scheme.exhaust}) {
             EXPECT_GE(Contrast_Of(side.result_back, side.result_text), readable);
+            EXPECT_GE(Contrast_Of(scheme.accent_soft, side.result_text), readable);
             EXPECT_GE(Contrast_Of(scheme.card, side.mark), 3); // of lines and signs
         }
         EXPECT_NE(scheme.intake.result_text, scheme.exhaust.result_text);
