@@ -28,7 +28,9 @@ bool Take_Request(Argument_Reader& reader, Chart_Request& request) {
     } else if (reader.Is("--step")) {
         request.step = reader.Positive_Value();
     } else if (reader.Is("--units")) {
-        request.metric = reader.Choice({"us", "metric"}) == 1;
+        const bool metric = reader.Choice({"us", "metric"}) == 1;
+        request.lift_unit = metric ? Lift_Unit::Millimetre : Lift_Unit::Inch;
+        request.flow_unit = metric ? Flow_Unit::Cubic_Metres : Flow_Unit::Cubic_Feet;
     } else {
         return false;
     }

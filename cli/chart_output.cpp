@@ -108,9 +108,9 @@ std::string Chart_Json(const Chart& chart) {
     out += R"(,"quantity":)";
     Append_Json_Text(out, Entry_Of(request.quantity).name);
     out += R"(,"lift_unit":)";
-    Append_Json_Text(out, request.Lift_Unit());
+    Append_Json_Text(out, Entry_Of(request.lift_unit).name);
     out += R"(,"unit":)";
-    Append_Json_Text(out, request.Unit());
+    Append_Json_Text(out, request.Unit().name);
     out += R"(,"tests":[)";
     for (const Chart_Entry& test : chart.tests) {
         out += &test == &chart.tests.front() ? "" : ",";
@@ -205,10 +205,10 @@ std::string Or_Dash(std::string text) {
 }
 
 std::string Curve_Words(const Chart_Curve& curve, const Chart_Request& request) {
-    const int decimals = request.Decimals();
+    const int decimals = request.Unit().decimals;
     std::string words = "peak ";
     words += curve.peak ? Fixed_Text(curve.peak->value, decimals) + " at " +
-                              Lift_Text(curve.peak->lift, request.metric)
+                              Lift_Text(curve.peak->lift, request.lift_unit)
                         : "-";
     words += ", mean " + Or_Dash(Fixed_Text(curve.mean, decimals));
     if (request.cam_lift) {
@@ -233,9 +233,9 @@ std::string Chart_Text(const Chart& chart) {
     const Chart_Quantity_Entry& entry = Entry_Of(request.quantity);
     const std::vector<Chart_Side> sides = Shown_Sides(request);
     std::string out(entry.title);
-    out += request.Unit().empty() ? "" : " [" + std::string(request.Unit()) + "]";
+    out += request.Unit().name.empty() ? "" : " [" + std::string(request.Unit().name) + "]";
     out += " at " + Bare_Text(request.pressure, 4) + " in. H2O, lifts [" +
-           std::string(request.Lift_Unit()) + "], the first test is the baseline\n";
+           std::string(Entry_Of(request.lift_unit).name) + "], the first test is the baseline\n";
     for (const Chart_Entry& test : chart.tests) {
         out += One_Line(test.name);
         for (const Chart_Side side : sides) {
@@ -245,11 +245,11 @@ std::string Chart_Text(const Chart& chart) {
         out += test.ratio ? "  ratio " + Fixed_Text(test.ratio, 3) + "\n" : "\n";
     }
     for (const Chart_Row& row : chart.table) {
-        out += Lift_Text(row.lift, request.metric);
+        out += Lift_Text(row.lift, request.lift_unit);
         for (const Chart_Side side : sides) {
             out.append("  ").append(Name_Of(side));
             for (const Chart_Cell& cell : row.cells[side]) {
-                out += "  " + Cell_Words(cell, request.Decimals());
+                out += "  " + Cell_Words(cell, request.Unit().decimals);
             }
         }
         out += '\n';

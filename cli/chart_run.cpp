@@ -36,11 +36,11 @@ Chart Laid_Out(const std::vector<Chart_Test>& tests, const Chart_Request& reques
 bool Save(const Chart& chart, const Chart_Options& options, Painter& painter,
           std::ostream& errors) {
     try {
-        const Figure page = Chart_Page(chart, {});
+        const std::vector<Figure> pages = Chart_Pages(chart, {}, {});
         // SVG is letters: the painting, which takes its time to start, has no part in it.
         Write_Whole_File(options.output, options.picture == Picture_Format::Svg
-                                             ? Figure_Svg(page)
-                                             : painter.Picture_Of(page, options.picture));
+                                             ? Figure_Svg(Below_Each_Other(pages))
+                                             : painter.Picture_Of(pages, options.picture));
     } catch (const Run_Time_Error& failure) {
         errors << Escaped(options.output) + ": the chart has not been saved -- " +
                       failure.Description() + "\n";

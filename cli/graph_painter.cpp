@@ -31,8 +31,8 @@ std::string Late_Painter::Picture_Of(const Drawing& drawing, Picture_Format form
     return Loaded().Picture_Of(drawing, format, logo);
 }
 
-std::string Late_Painter::Picture_Of(const Figure& figure, Picture_Format format) {
-    return Loaded().Picture_Of(figure, format);
+std::string Late_Painter::Picture_Of(std::span<const Figure> pages, Picture_Format format) {
+    return Loaded().Picture_Of(pages, format);
 }
 
 void Late_Painter::Use(const Picture_Settings& settings) {

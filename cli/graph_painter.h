@@ -11,7 +11,8 @@ public:
     /// All raise 481 also when there is no such module, as in a build without Qt.
     [[nodiscard]] std::string Picture_Of(const Drawing& drawing, Picture_Format format,
                                          const std::optional<Placed_Logo>& logo) override;
-    [[nodiscard]] std::string Picture_Of(const Figure& figure, Picture_Format format) override;
+    [[nodiscard]] std::string Picture_Of(std::span<const Figure> pages,
+                                         Picture_Format format) override;
     void Use(const Picture_Settings& settings) override;
     [[nodiscard]] std::string Pdf_Of(const Document& document, Paper_Size paper) override;
 

@@ -1,24 +1,24 @@
 #include "desktop/chart_window.h"
 
 #include "base/run_time_error.h"
-#include "chart/chart_page.h"
-#include "chart/chart_picture.h"
 #include "chart/figure_text.h"
 #include "desktop/desktop_printers.h"
-#include "desktop/print_preview.h"
 #include "desktop/text_bridge.h"
 #include "desktop/theme.h"
+#include "drawing/picture_file.h"
 #include "painting/figure_painter.h"
 #include "platform/file_store.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -27,280 +27,251 @@ namespace kestrum::desktop {
 
 namespace {
 
-QString Number_Or_Nothing(std::optional<double> value, int decimals) {
-    return To_Qt(Fixed_Text(value, decimals));
-}
+constexpr int row_height = 24; // of the tables
 
 /// A picture's or table's file as the user names it; one that has no ending gets the usual one.
 QString Chosen_Name(QWidget* parent, const QString& title, const QString& filter,
                     const QString& ending) {
     QString path = QFileDialog::getSaveFileName(parent, title, QString(), filter);
-    if (!path.isEmpty() && !path.contains(QLatin1Char('.'))) {
+    const QString name = path.section(QLatin1Char('/'), -1);
+    if (!path.isEmpty() && !name.contains(QLatin1Char('.'))) {
         path += ending;
     }
     return path;
 }
 
+QStringList Names_Of(const std::vector<Chart_Test>& tests) {
+    QStringList names;
+    for (const Chart_Test& test : tests) {
+        names += Digits_Of(static_cast<int>(names.size()) + 1) + QLatin1Char(' ') +
+                 To_Qt(test.figures.name.empty() ? test.file : test.figures.name);
+    }
+    return names;
+}
+
+/// The shop's logo as the prints have it; a page without one is still a page.
+std::optional<Figure_Picture> Logo_Of(const Session& session) {
+    const std::string& file = session.settings.logo.file;
+    if (!session.settings.logo.on || file.empty()) {
+        return std::nullopt;
+    }
+    try {
+        const std::optional<Picture_Size> size = Size_Of_Picture_File(file);
+        return size ? std::optional(
+                          Figure_Picture{.box = {.left = 0,
+                                                 .top = 0,
+                                                 .right = static_cast<double>(size->width),
+                                                 .bottom = static_cast<double>(size->height)},
+                                         .bytes = Read_Whole_File(file)})
+                    : std::nullopt;
+    } catch (const Run_Time_Error&) {
+        return std::nullopt;
+    }
+}
+
+bool Paint_Pages(const std::vector<Figure>& pages, QPagedPaintDevice& device) {
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        return false;
+    }
+    for (const Figure& page : pages) {
+        if (&page != &pages.front()) {
+            device.newPage();
+        }
+        const double scale = std::min(painter.viewport().width() / page.width,
+                                      painter.viewport().height() / page.height);
+        painter.save();
+        painter.scale(scale, scale);
+        painting::Paint_Figure(page, painter);
+        painter.restore();
+    }
+    return true;
+}
+
 } // namespace
 
-Chart_View::Chart_View(QWidget* parent) : QWidget(parent) {
-    constexpr QSize least(560, 300);
-    setMinimumSize(least);
-    setAccessibleName(QStringLiteral("Chart"));
-}
-
-void Chart_View::Show_Chart(const Chart& chart) {
-    chart_ = chart;
-    update();
-}
-
-void Chart_View::paintEvent(QPaintEvent* /*event*/) {
-    // Letters of the chart are set in points of paper; on a screen they want to be larger.
-    constexpr double scale = 1.3;
-    constexpr double margin = 8;
-    QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
-    painter.scale(scale, scale);
-    Figure figure(width() / scale, height() / scale);
-    Draw_Chart(figure, {margin, margin, figure.width - margin, figure.height - margin}, chart_, {});
-    painting::Paint_Figure(figure, painter);
-}
-
 Chart_Window::Chart_Window(Session& session, std::vector<Chart_Test> tests)
-    : session_(session), tests_(std::move(tests)) {
+    : session_(session),
+      tests_(std::move(tests)),
+      view_(new Chart_View(this)),
+      tabs_(new QTabWidget(this)),
+      settings_(new Chart_Settings(this, Names_Of(tests_), session.Main().Is_Metric())) {
     setWindowTitle(QStringLiteral("Chart of flow tests"));
     setObjectName(QStringLiteral("Chart"));
     setAttribute(Qt::WA_QuitOnClose, false);
+    tables_ = {Table(QStringLiteral("Whole curve")), Table(QStringLiteral("At equal lifts"))};
+    auto* const left = new QSplitter(Qt::Vertical, this);
+    left->addWidget(view_);
+    left->addWidget(tabs_);
+    left->setStretchFactor(0, 1);
+    left->setChildrenCollapsible(false);
     auto* const row = new QHBoxLayout(this);
-    auto* const left = new QVBoxLayout;
-    view_ = new Chart_View(this);
-    table_ = new QTableWidget(this);
-    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table_->verticalHeader()->hide();
-    table_->setAccessibleName(QStringLiteral("Figures"));
-    left->addWidget(view_, 3);
-    left->addWidget(table_, 1);
-    row->addLayout(left, 1);
-    row->addWidget(Settings());
-    constexpr QSize usual_size(1160, 760);
-    resize(usual_size);
+    row->setContentsMargins(theme::page_margin, theme::page_margin, theme::page_margin,
+                            theme::page_margin);
+    row->addWidget(left, 1);
+    row->addWidget(Side());
+    auto* const copy = new QAction(this);
+    copy->setShortcut(QKeySequence::Copy);
+    addAction(copy);
+    connect(copy, &QAction::triggered, this, [this] { Copy_Tables(); });
+    settings_->changed = [this] { Show_Changes(); };
+    constexpr QSize usual_size(1200, 760);
+    resize(usual_size.boundedTo(screen()->availableSize()));
+    // A line for each test shows, if the chart leaves it.
+    constexpr int head_height = 104;
+    const int lines = head_height + static_cast<int>(tests_.size()) * row_height;
+    left->setSizes({height() - lines, lines});
     Show_Changes();
+    view_->setFocus();
 }
 
-QDoubleSpinBox* Chart_Window::Number_Box(const QString& name, double most) {
-    auto* const box = new QDoubleSpinBox(this);
-    box->setRange(0, most);
-    box->setDecimals(3);
-    box->setAccessibleName(name);
-    connect(box, &QDoubleSpinBox::valueChanged, this, [this] { Show_Changes(); });
-    return box;
+QTableWidget* Chart_Window::Table(const QString& name) {
+    auto* const table = new QTableWidget(tabs_);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(row_height);
+    table->setAccessibleName(name);
+    tabs_->addTab(table, name);
+    return table;
 }
 
-QWidget* Chart_Window::Settings() {
-    auto* const panel = new QWidget(this);
-    auto* const form = new QFormLayout(panel);
-    const auto choice = [&](const QString& name, const QStringList& items) {
-        auto* const box = new QComboBox(panel);
-        box->addItems(items);
-        box->setAccessibleName(name);
-        form->addRow(name, box);
-        connect(box, &QComboBox::currentIndexChanged, this, [this] { Show_Changes(); });
-        return box;
+QWidget* Chart_Window::Side() {
+    auto* const side = new QWidget(this);
+    auto* const column = new QVBoxLayout(side);
+    column->setContentsMargins({});
+    column->addWidget(settings_);
+    const auto button = [&](const QString& words, auto act) {
+        auto* const made = new QPushButton(words, side);
+        column->addWidget(made);
+        connect(made, &QPushButton::clicked, this, act);
     };
-    QStringList quantities;
-    for (const Chart_Quantity_Entry& entry : Chart_Quantity_Entries()) {
-        quantities += To_Qt(entry.title);
-    }
-    QStringList names;
-    for (const Chart_Test& test : tests_) {
-        names += To_Qt(test.figures.name.empty() ? test.file : test.figures.name);
-    }
-    quantity_ = choice(QStringLiteral("Quantity"), quantities);
-    sides_ = choice(QStringLiteral("Sides"),
-                    {QStringLiteral("Both"), QStringLiteral("Intake"), QStringLiteral("Exhaust")});
-    units_ = choice(QStringLiteral("Units"), {QStringLiteral("US"), QStringLiteral("Metric")});
-    baseline_ = choice(QStringLiteral("Baseline"), names);
-    constexpr int name_width = 150;
-    baseline_->setMaximumWidth(name_width);
-    pressure_ = Number_Box(QStringLiteral("Pressure"), 1000);
-    mean_to_ = Number_Box(QStringLiteral("Mean to lift"), 100);
-    cam_ = Number_Box(QStringLiteral("Cam lift"), 100);
-    mean_to_->setSpecialValueText(QStringLiteral("common"));
-    cam_->setSpecialValueText(QStringLiteral("none"));
-    for (QDoubleSpinBox* const box : {mean_to_, cam_}) {
-        box->setSingleStep(0.05);
-    }
-    pressure_->setMinimum(0.1);
-    pressure_->setValue(full_flow_pressure);
-    form->addRow(QStringLiteral("At in. H\u2082O"), pressure_);
-    form->addRow(QStringLiteral("Mean to lift"), mean_to_);
-    form->addRow(QStringLiteral("Cam lift"), cam_);
-    const auto button = [&](const QString& words, void (Chart_Window::*act)()) {
-        auto* const made = new QPushButton(words, panel);
-        form->addRow(made);
-        connect(made, &QPushButton::clicked, this, [this, act] { (this->*act)(); });
-    };
-    auto* const copy = new QPushButton(QStringLiteral("&Copy Table"), panel);
-    form->addRow(copy);
-    connect(copy, &QPushButton::clicked, this, [this] { Copy_Table(); });
-    button(QStringLiteral("Save &Table..."), &Chart_Window::Save_Table);
-    button(QStringLiteral("Save &Page..."), &Chart_Window::Save_Picture);
-    button(QStringLiteral("P&rint..."), &Chart_Window::Print);
-    message_ = new QLabel(panel);
+    button(QStringLiteral("&Whole Chart"), [this] { view_->Show_Whole(); });
+    button(QStringLiteral("Cop&y Tables"), [this] { Copy_Tables(); });
+    button(QStringLiteral("Save &Tables..."), [this] { Save_Tables(); });
+    button(QStringLiteral("Save &Page..."), [this] { Save_Page(); });
+    button(QStringLiteral("P&rint..."), [this] { Print(); });
+    message_ = new QLabel(side);
     message_->setWordWrap(true);
-    form->addRow(message_);
-    return panel;
-}
-
-Chart_Request Chart_Window::Request() const {
-    Chart_Request request;
-    request.quantity = static_cast<Chart_Quantity>(quantity_->currentIndex());
-    request.shows = {.intake = sides_->currentIndex() != 2, .exhaust = sides_->currentIndex() != 1};
-    request.metric = units_->currentIndex() == 1;
-    request.pressure = pressure_->value();
-    if (mean_to_->value() > 0) {
-        request.mean_to = mean_to_->value();
-    }
-    if (cam_->value() > 0) {
-        request.cam_lift = cam_->value();
-    }
-    return request;
-}
-
-/// The baseline stands first.
-std::vector<Chart_Test> Chart_Window::Ordered_Tests() const {
-    std::vector<Chart_Test> tests = tests_;
-    const auto first = tests.begin() + std::max(0, baseline_->currentIndex());
-    std::rotate(tests.begin(), first, first + 1);
-    return tests;
+    column->addWidget(message_);
+    column->addStretch(1);
+    return side;
 }
 
 void Chart_Window::Show_Changes() {
-    if (message_ == nullptr) {
-        return; // the settings are being made
+    Chart_Request request = settings_->Request();
+    message_->clear();
+    try {
+        chart_ = Chart_Of(tests_, request);
+    } catch (const Run_Time_Error&) {
+        message_->setText(QStringLiteral("The step of the table is too small"));
+        request.step.reset();
+        chart_ = Chart_Of(tests_, request);
     }
-    chart_ = Chart_Of(Ordered_Tests(), Request());
-    view_->Show_Chart(chart_);
-    Fill_Table();
+    view_->Show_Chart(chart_, settings_->Style());
+    texts_ = {Summary_Table(chart_, Table_Detail::Whole),
+              Lift_Table(chart_, Sides_With_Points(chart_), Table_Detail::Whole)};
+    for (std::size_t table = 0; table < tables_.size(); ++table) {
+        Fill(*tables_.at(table), texts_.at(table));
+    }
 }
 
-void Chart_Window::Fill_Table() {
-    const Chart_Request& request = chart_.request;
-    const int decimals = request.Decimals();
-    QStringList heads{QStringLiteral("Lift [") + To_Qt(request.Lift_Unit()) + QStringLiteral("]")};
-    std::vector<Chart_Side> sides;
-    for (const Chart_Side side : chart_sides) {
-        if (!request.shows[side]) {
-            continue;
-        }
-        sides.push_back(side);
-        for (std::size_t test = 0; test < chart_.tests.size(); ++test) {
-            const QString name =
-                To_Qt(Numbered_Name(chart_, test)) +
-                (side == Chart_Side::Intake ? QStringLiteral(" in") : QStringLiteral(" ex"));
-            heads += name;
-            if (test > 0) {
-                heads += QStringLiteral("gain");
-                heads += QStringLiteral("%");
+void Chart_Window::Fill(QTableWidget& table, const Chart_Table& texts) const {
+    table.clear();
+    table.setColumnCount(static_cast<int>(texts.columns.size()));
+    table.setRowCount(static_cast<int>(texts.rows.size()));
+    for (int column = 0; column < table.columnCount(); ++column) {
+        const Table_Column& head = texts.columns[static_cast<std::size_t>(column)];
+        table.setHorizontalHeaderItem(
+            column,
+            new QTableWidgetItem(head.group.empty() ? To_Qt(head.title)
+                                                    : To_Qt(head.group + "\n" + head.title)));
+    }
+    for (int row = 0; row < table.rowCount(); ++row) {
+        for (int column = 0; column < table.columnCount(); ++column) {
+            const Table_Cell& cell =
+                texts.rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+            auto* const item = new QTableWidgetItem(To_Qt(cell.text));
+            item->setTextAlignment(Qt::AlignVCenter | (cell.bold ? Qt::AlignLeft : Qt::AlignRight));
+            if (cell.test) {
+                item->setForeground(QColor(QRgb(view_->Layout().Colours().Curve(*cell.test))));
             }
+            table.setItem(row, column, item);
         }
     }
-    table_->clear();
-    table_->setColumnCount(static_cast<int>(heads.size()));
-    table_->setHorizontalHeaderLabels(heads);
-    table_->setRowCount(static_cast<int>(chart_.table.size()));
-    for (int row = 0; row < table_->rowCount(); ++row) {
-        const Chart_Row& figures = chart_.table[static_cast<std::size_t>(row)];
-        int column = 0;
-        const auto put = [&](const QString& text) {
-            auto* const item = new QTableWidgetItem(text);
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            table_->setItem(row, column++, item);
-        };
-        put(To_Qt(Lift_Text(figures.lift, request.metric)));
-        for (const Chart_Side side : sides) {
-            for (const Chart_Cell& cell : figures.cells[side]) {
-                put(Number_Or_Nothing(cell.value, decimals));
-                if (&cell != &figures.cells[side].front()) {
-                    put(To_Qt(Signed_Text(cell.gain, decimals)));
-                    put(To_Qt(Signed_Text(cell.percent, 1)));
-                }
-            }
-        }
-    }
-    table_->resizeColumnsToContents();
+    table.resizeColumnsToContents();
 }
 
-QString Chart_Window::Table_Text(QChar separator) const {
-    const auto field = [separator](QString text) {
-        const bool wants_quotes = text.contains(separator) || text.contains(QLatin1Char('"'));
-        return wants_quotes
-                   ? QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
-                         QLatin1Char('"')
-                   : text;
-    };
-    QString text;
-    for (int row = -1; row < table_->rowCount(); ++row) {
-        for (int column = 0; column < table_->columnCount(); ++column) {
-            const QTableWidgetItem* const item =
-                row < 0 ? table_->horizontalHeaderItem(column) : table_->item(row, column);
-            text += (column > 0 ? QString(separator) : QString()) +
-                    (item != nullptr ? field(item->text()) : QString());
-        }
-        text += QLatin1Char('\n');
-    }
-    return text;
-}
-
-Figure Chart_Window::Page() const {
+std::vector<Figure> Chart_Window::Pages() const {
     const Engine_Screen& main = session_.Main();
     std::string line;
     for (const Control* const part : {&main.Text95, &main.Text96}) {
         line += (line.empty() || part->Text().empty() ? "" : " \xC2\xB7 ") + part->Text();
     }
-    return Chart_Page(chart_, {.title = {}, .shop = main.Text94.Text(), .shop_line = line});
+    return Chart_Pages(chart_, settings_->Style(),
+                       {.title = From_Qt(settings_->Title()),
+                        .shop = main.Text94.Text(),
+                        .shop_line = line,
+                        .logo = Logo_Of(session_)});
 }
 
-void Chart_Window::Copy_Table() const {
-    QGuiApplication::clipboard()->setText(Table_Text(QLatin1Char('\t')));
-    message_->setText(QStringLiteral("The table is in the clipboard"));
+/// What is chosen of a table, or else both tables.
+void Chart_Window::Copy_Tables() const {
+    const std::size_t shown = static_cast<std::size_t>(tabs_->currentIndex());
+    const QList<QTableWidgetSelectionRange> ranges = tables_.at(shown)->selectedRanges();
+    const bool has_block = tables_.at(shown)->hasFocus() && ranges.size() == 1 &&
+                           ranges.front().rowCount() * ranges.front().columnCount() > 1;
+    if (!has_block) {
+        QGuiApplication::clipboard()->setText(To_Qt(Separated_Text(texts_, '\t')));
+        message_->setText(QStringLiteral("Both tables are in the clipboard"));
+        return;
+    }
+    const QTableWidgetSelectionRange& range = ranges.front();
+    const auto first = range.leftColumn();
+    const auto behind = range.rightColumn() + 1;
+    const Chart_Table& whole = texts_.at(shown);
+    Chart_Table block;
+    block.columns.assign(whole.columns.begin() + first, whole.columns.begin() + behind);
+    for (int row = range.topRow(); row <= range.bottomRow(); ++row) {
+        const std::vector<Table_Cell>& cells = whole.rows.at(static_cast<std::size_t>(row));
+        block.rows.emplace_back(cells.begin() + first, cells.begin() + behind);
+    }
+    QGuiApplication::clipboard()->setText(To_Qt(Separated_Text(std::array{block}, '\t')));
+    message_->setText(QStringLiteral("The chosen cells are in the clipboard"));
 }
 
-void Chart_Window::Save_Table() {
-    const QString path = Chosen_Name(this, QStringLiteral("Save the table"),
-                                     QStringLiteral("CSV files (*.csv)"), QStringLiteral(".csv"));
+void Chart_Window::Save(const QString& path, const std::function<std::string()>& bytes) {
     if (path.isEmpty()) {
         return;
     }
     try {
-        Write_Whole_File(From_Qt(path), From_Qt(Table_Text(QLatin1Char(','))));
+        Write_Whole_File(From_Qt(path), bytes());
         message_->setText(QStringLiteral("Saved ") + path);
     } catch (const Run_Time_Error& failure) {
         message_->setText(To_Qt("Not saved: " + failure.Description()));
     }
 }
 
-void Chart_Window::Save_Picture() {
+void Chart_Window::Save_Tables() {
+    Save(Chosen_Name(this, QStringLiteral("Save the tables"), QStringLiteral("CSV files (*.csv)"),
+                     QStringLiteral(".csv")),
+         [this] { return Separated_Text(texts_, ','); });
+}
+
+void Chart_Window::Save_Page() {
     const QString path =
         Chosen_Name(this, QStringLiteral("Save the page"),
                     QStringLiteral("PDF files (*.pdf);;SVG files (*.svg);;PNG files (*.png)"),
                     QStringLiteral(".pdf"));
-    if (path.isEmpty()) {
-        return;
-    }
-    constexpr int dots_in_inch = 144;
-    const bool is_svg = path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
-    const bool is_png = path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
-    try {
-        Write_Whole_File(
-            From_Qt(path),
-            is_svg ? Figure_Svg(Page())
-                   : painting::Figure_Bytes(
-                         Page(), is_png ? Picture_Format::Png : Picture_Format::Pdf, dots_in_inch));
-        message_->setText(QStringLiteral("Saved ") + path);
-    } catch (const Run_Time_Error& failure) {
-        message_->setText(To_Qt("Not saved: " + failure.Description()));
-    }
+    Save(path, [this, &path] {
+        constexpr int dots_in_inch = 144;
+        const std::vector<Figure> pages = Pages();
+        if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+            return Figure_Svg(Below_Each_Other(pages));
+        }
+        const bool is_png = path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
+        return painting::Figure_Bytes(pages, is_png ? Picture_Format::Png : Picture_Format::Pdf,
+                                      dots_in_inch);
+    });
 }
 
 void Chart_Window::Print() {
@@ -308,18 +279,11 @@ void Chart_Window::Print() {
     if (printers == nullptr) {
         return;
     }
-    const Printable printable{
-        .title = QStringLiteral("Chart"), .paint = [page = Page()](QPagedPaintDevice& device) {
-            QPainter painter;
-            if (!painter.begin(&device)) {
-                return false;
-            }
-            const double scale = std::min(painter.viewport().width() / page.width,
-                                          painter.viewport().height() / page.height);
-            painter.scale(scale, scale);
-            painting::Paint_Figure(page, painter);
-            return true;
-        }};
+    const Printable printable{.title = QStringLiteral("Chart"),
+                              .landscape = false,
+                              .paint = [pages = Pages()](QPagedPaintDevice& device) {
+                                  return Paint_Pages(pages, device);
+                              }};
     try {
         printers->show_preview(*printers, std::string(pdf_file), printable);
     } catch (const Run_Time_Error& failure) {

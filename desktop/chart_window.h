@@ -1,66 +1,49 @@
 #pragma once
 
-#include "chart/chart.h"
+#include "chart/chart_page.h"
+#include "chart/chart_table.h"
 #include "core/session.h"
-#include "desktop/printable.h"
-#include "drawing/figure.h"
+#include "desktop/chart_settings.h"
+#include "desktop/chart_view.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QWidget>
 
+#include <array>
 #include <vector>
 
 namespace kestrum::desktop {
-
-/// Shows a chart as large as it is.
-class Chart_View : public QWidget {
-public:
-    explicit Chart_View(QWidget* parent);
-
-    void Show_Chart(const Chart& chart);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    Chart chart_;
-};
 
 /// Up to eight tests side by side, with what is set of the chart at its side and its figures below.
 class Chart_Window : public QWidget {
 public:
     Chart_Window(Session& session, std::vector<Chart_Test> tests);
 
+    [[nodiscard]] const Chart_View& View() const { return *view_; }
+
 private:
-    [[nodiscard]] QWidget* Settings();
-    [[nodiscard]] QDoubleSpinBox* Number_Box(const QString& name, double most);
-    [[nodiscard]] Chart_Request Request() const;
-    [[nodiscard]] std::vector<Chart_Test> Ordered_Tests() const;
+    [[nodiscard]] QWidget* Side();
+    [[nodiscard]] QTableWidget* Table(const QString& name);
     void Show_Changes();
-    void Fill_Table();
-    [[nodiscard]] QString Table_Text(QChar separator) const;
-    [[nodiscard]] Figure Page() const;
-    void Copy_Table() const;
-    void Save_Table();
-    void Save_Picture();
+    void Fill(QTableWidget& table, const Chart_Table& texts) const;
+    [[nodiscard]] std::vector<Figure> Pages() const;
+    void Copy_Tables() const;
+    void Save_Tables();
+    void Save_Page();
     void Print();
+    /// Saves and says so, or why not.
+    void Save(const QString& path, const std::function<std::string()>& bytes);
 
     Session& session_;
     std::vector<Chart_Test> tests_;
     Chart chart_;
-    Chart_View* view_ = nullptr;
-    QTableWidget* table_ = nullptr;
-    QComboBox* quantity_ = nullptr;
-    QComboBox* sides_ = nullptr;
-    QComboBox* units_ = nullptr;
-    QComboBox* baseline_ = nullptr;
-    QDoubleSpinBox* pressure_ = nullptr;
-    QDoubleSpinBox* mean_to_ = nullptr;
-    QDoubleSpinBox* cam_ = nullptr;
+    std::vector<Chart_Table> texts_; // of the tables
+    Chart_View* view_;
+    QTabWidget* tabs_;
+    std::array<QTableWidget*, 2> tables_{};
+    Chart_Settings* settings_;
     QLabel* message_ = nullptr;
 };
 

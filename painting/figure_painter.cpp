@@ -75,6 +75,14 @@ void Paint_Step(const Figure_Text& text, QPainter& painter) {
     painter.restore();
 }
 
+void Paint_Step(const Figure_Picture& picture, QPainter& painter) {
+    const QImage image = QImage::fromData(QByteArray::fromStdString(picture.bytes));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(
+        QRectF(picture.box.left, picture.box.top, picture.box.Width(), picture.box.Height()),
+        image);
+}
+
 std::string Png_Of(const Figure& figure, int dots_in_inch) {
     constexpr double inches_in_metre = 1 / 0.0254;
     const double scale = static_cast<double>(dots_in_inch) / points_in_inch;
@@ -92,14 +100,15 @@ std::string Png_Of(const Figure& figure, int dots_in_inch) {
     return Png_Bytes(image);
 }
 
-std::string Pdf_Of(const Figure& figure) {
+std::string Pdf_Of(std::span<const Figure> pages) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setCreator(QStringLiteral("Kestrum Suite"));
     writer.setTitle(QStringLiteral("Chart"));
-    writer.setPageSize(QPageSize(QSizeF(figure.width, figure.height), QPageSize::Point));
+    writer.setPageSize(
+        QPageSize(QSizeF(pages.front().width, pages.front().height), QPageSize::Point));
     writer.setPageMargins({});
     constexpr int dots_in_point = 10;
     writer.setResolution(points_in_inch * dots_in_point);
@@ -108,7 +117,12 @@ std::string Pdf_Of(const Figure& figure) {
         Fail(error::path_or_file_access);
     }
     painter.scale(dots_in_point, dots_in_point);
-    Paint_Figure(figure, painter);
+    for (const Figure& page : pages) {
+        if (&page != &pages.front()) {
+            writer.newPage();
+        }
+        Paint_Figure(page, painter);
+    }
     painter.end();
     return bytes.toStdString();
 }
@@ -122,8 +136,9 @@ void Paint_Figure(const Figure& figure, QPainter& painter) {
     }
 }
 
-std::string Figure_Bytes(const Figure& figure, Picture_Format format, int dots_in_inch) {
-    return format == Picture_Format::Pdf ? Pdf_Of(figure) : Png_Of(figure, dots_in_inch);
+std::string Figure_Bytes(std::span<const Figure> pages, Picture_Format format, int dots_in_inch) {
+    return format == Picture_Format::Pdf ? Pdf_Of(pages)
+                                         : Png_Of(Below_Each_Other(pages), dots_in_inch);
 }
 
 } // namespace kestrum::painting

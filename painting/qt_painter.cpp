@@ -106,9 +106,9 @@ QImage Qt_Painter::Image_Of(const std::string& file) const {
     }
 }
 
-std::string Qt_Painter::Picture_Of(const Figure& figure, Picture_Format format) {
+std::string Qt_Painter::Picture_Of(std::span<const Figure> pages, Picture_Format format) {
     constexpr int usual_dots = 144;
-    return Figure_Bytes(figure, format, settings_.dots_per_inch.value_or(usual_dots));
+    return Figure_Bytes(pages, format, settings_.dots_per_inch.value_or(usual_dots));
 }
 
 std::string Qt_Painter::Pdf_Of(const Document& document, Paper_Size paper) {

@@ -15,7 +15,8 @@ public:
     [[nodiscard]] std::string Picture_Of(const Drawing& drawing, Picture_Format format,
                                          const std::optional<Placed_Logo>& logo) override;
 
-    [[nodiscard]] std::string Picture_Of(const Figure& figure, Picture_Format format) override;
+    [[nodiscard]] std::string Picture_Of(std::span<const Figure> pages,
+                                         Picture_Format format) override;
 
     void Use(const Picture_Settings& settings) override { settings_ = settings; }
 

@@ -6,17 +6,23 @@
 
 namespace kestrum {
 
+namespace {
+
+constexpr double hair = 1e-6; // of a step; as far beyond a tick an axis needs no step of its own
+
+} // namespace
+
 std::vector<double> Axis_Scale::Ticks() const {
     std::vector<double> ticks;
-    const auto first = static_cast<long long>(std::round(low / step));
-    const auto last = static_cast<long long>(std::round(high / step));
+    const auto first = static_cast<long long>(std::ceil(low / step - hair));
+    const auto last = static_cast<long long>(std::floor(high / step + hair));
     for (long long count = first; count <= last; ++count) {
         ticks.push_back(static_cast<double>(count) * step);
     }
     return ticks;
 }
 
-Axis_Scale Round_Scale(double low, double high, int about_steps) {
+Axis_Scale Exact_Scale(double low, double high, int about_steps) {
     if (!(high > low)) {
         high = low + (low == 0 ? 1 : std::abs(low) / 2);
     }
@@ -35,13 +41,16 @@ Axis_Scale Round_Scale(double low, double high, int about_steps) {
     const auto* const found = std::ranges::find_if(
         sizes, [&](const Round_Step& size) { return size.size * unit >= rough * (1 - 1e-9); });
     const Round_Step& round = found == sizes.end() ? sizes.back() : *found;
-    Axis_Scale scale;
-    scale.step = round.size * unit;
-    scale.decimals = std::max(0, round.more_decimals - static_cast<int>(power));
-    // A hair beyond a tick needs no step of its own.
-    constexpr double hair = 1e-6;
-    scale.low = std::floor(low / scale.step + hair) * scale.step;
-    scale.high = std::ceil(high / scale.step - hair) * scale.step;
+    return {.low = low,
+            .high = high,
+            .step = round.size * unit,
+            .decimals = std::max(0, round.more_decimals - static_cast<int>(power))};
+}
+
+Axis_Scale Round_Scale(double low, double high, int about_steps) {
+    Axis_Scale scale = Exact_Scale(low, high, about_steps);
+    scale.low = std::floor(scale.low / scale.step + hair) * scale.step;
+    scale.high = std::ceil(scale.high / scale.step - hair) * scale.step;
     return scale;
 }
 

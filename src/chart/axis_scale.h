@@ -18,4 +18,7 @@ struct Axis_Scale {
 /// its ticks.
 [[nodiscard]] Axis_Scale Round_Scale(double low, double high, int about_steps);
 
+/// The same over exactly the range, whose ends need not be ticks.
+[[nodiscard]] Axis_Scale Exact_Scale(double low, double high, int about_steps);
+
 } // namespace kestrum

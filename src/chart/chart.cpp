@@ -1,7 +1,6 @@
 #include "chart/chart.h"
 
 #include "base/run_time_error.h"
-#include "base/units.h"
 #include "platform/file_store.h"
 
 #include <algorithm>
@@ -21,12 +20,12 @@ const Side_Figures& Figures_On(const Test_Figures& test, Chart_Side side) {
 Chart_Curve Curve_Of(const Test_Figures& test, Chart_Side side, const Chart_Request& request) {
     const Chart_Quantity_Entry& entry = Entry_Of(request.quantity);
     const double factor = Pressure_Factor(request.quantity, test.Stated_At(), request.pressure) *
-                          (request.metric ? entry.to_metric : 1);
+                          request.Unit().factor;
+    const double lift_factor = Entry_Of(request.lift_unit).in_inch;
     Chart_Curve result;
     for (const Lift_Point& point :
          Figures_On(test, side).points.at(static_cast<std::size_t>(request.quantity))) {
-        result.points.push_back(
-            {.lift = point.lift * request.Lift_Factor(), .value = point.value * factor});
+        result.points.push_back({.lift = point.lift * lift_factor, .value = point.value * factor});
         if (!result.peak || result.points.back().value > result.peak->value) {
             result.peak = result.points.back();
         }
@@ -58,7 +57,7 @@ Chart_Entry Entry_For(const Chart_Test& test, const Chart_Request& request) {
             entry.sides[side] = Curve_Of(test.figures, side, request);
         }
         if (const auto diameter = Figures_On(test.figures, side).valve_diameter) {
-            entry.valve_diameter[side] = *diameter * request.Lift_Factor();
+            entry.valve_diameter[side] = *diameter * Entry_Of(request.lift_unit).in_inch;
         }
     }
     return entry;
@@ -107,7 +106,7 @@ void Take_Means(Chart& chart) {
 std::vector<double> Baseline_Lifts(const Chart& chart) {
     std::vector<double> lifts;
     for (const Chart_Side side : chart_sides) {
-        for (const Lift_Point& point : chart.tests.front().sides[side].points) {
+        for (const Lift_Point& point : chart.Baseline().sides[side].points) {
             lifts.push_back(point.lift);
         }
     }
@@ -137,10 +136,6 @@ std::vector<double> Stepped_Lifts(const Chart& chart, double step) {
 
 } // namespace
 
-double Chart_Request::Lift_Factor() const {
-    return metric ? factor::inch : 1;
-}
-
 Chart_Cell Compared(std::optional<double> value, std::optional<double> baseline) {
     constexpr double whole = 100;
     Chart_Cell cell{.value = value, .gain = {}, .percent = {}};
@@ -149,6 +144,19 @@ Chart_Cell Compared(std::optional<double> value, std::optional<double> baseline)
         cell.percent = *cell.gain / *baseline * whole;
     }
     return cell;
+}
+
+Chart_Row Row_At(const Chart& chart, double lift) {
+    Chart_Row row{.lift = lift, .cells = {}};
+    for (const Chart_Side side : chart_sides) {
+        const auto baseline = chart.Baseline().sides[side].curve.At(lift);
+        for (const Chart_Entry& test : chart.tests) {
+            const bool is_baseline = &test == &chart.Baseline();
+            row.cells[side].push_back(
+                Compared(test.sides[side].curve.At(lift), is_baseline ? std::nullopt : baseline));
+        }
+    }
+    return row;
 }
 
 Chart Curves_Of(std::span<const Chart_Test> tests, const Chart_Request& request) {
@@ -168,16 +176,7 @@ Chart Chart_Of(std::span<const Chart_Test> tests, const Chart_Request& request) 
     const std::vector<double> lifts =
         request.step ? Stepped_Lifts(chart, *request.step) : Baseline_Lifts(chart);
     for (const double lift : lifts) {
-        Chart_Row row{.lift = lift, .cells = {}};
-        for (const Chart_Side side : chart_sides) {
-            const auto baseline = chart.tests.front().sides[side].curve.At(lift);
-            for (const Chart_Entry& test : chart.tests) {
-                const bool is_baseline = &test == &chart.tests.front();
-                row.cells[side].push_back(Compared(test.sides[side].curve.At(lift),
-                                                   is_baseline ? std::nullopt : baseline));
-            }
-        }
-        chart.table.push_back(std::move(row));
+        chart.table.push_back(Row_At(chart, lift));
     }
     return chart;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chart/chart_quantity.h"
+#include "chart/curve_look.h"
 #include "chart/monotone_curve.h"
 #include "chart/test_figures.h"
 
@@ -11,8 +12,6 @@
 #include <vector>
 
 namespace kestrum {
-
-inline constexpr std::size_t most_chart_tests = 8;
 
 enum class Chart_Side { Intake, Exhaust };
 inline constexpr std::array chart_sides{Chart_Side::Intake, Chart_Side::Exhaust};
@@ -32,30 +31,23 @@ struct Of_Sides {
     }
 };
 
-/// How tests are to be laid side by side. Lifts are in inches, or in millimetres of a metric chart.
+/// How tests are to be laid side by side. Lifts are in the lift's unit.
 struct Chart_Request {
     Chart_Quantity quantity = Chart_Quantity::Flow;
     Of_Sides<bool> shows{.intake = true, .exhaust = true};
     double pressure = full_flow_pressure; // inches of water in either unit system
-    bool metric = false;
+    Lift_Unit lift_unit = Lift_Unit::Inch;
+    Flow_Unit flow_unit = Flow_Unit::Cubic_Feet;
     std::optional<double> mean_to{};
     std::optional<double> cam_lift{};
     std::optional<double> step{};
+    /// Place of the baseline among the tests.
+    std::size_t baseline = 0;
 
-    [[nodiscard]] std::string_view Unit() const {
-        const Chart_Quantity_Entry& entry = Entry_Of(quantity);
-        return metric ? entry.metric_unit : entry.us_unit;
+    /// Of the quantity.
+    [[nodiscard]] const Value_Unit& Unit() const {
+        return Entry_Of(quantity).units.at(static_cast<std::size_t>(flow_unit));
     }
-
-    [[nodiscard]] int Decimals() const {
-        const Chart_Quantity_Entry& entry = Entry_Of(quantity);
-        return metric ? entry.metric_decimals : entry.us_decimals;
-    }
-
-    [[nodiscard]] std::string_view Lift_Unit() const { return metric ? "mm" : "in"; }
-
-    /// What a lift in inches is multiplied by.
-    [[nodiscard]] double Lift_Factor() const;
 };
 
 /// One side of a test, in the units and at the pressure of the request.
@@ -104,10 +96,12 @@ struct Mean_Range {
 
 struct Chart {
     Chart_Request request;
-    /// The first is the baseline.
     std::vector<Chart_Entry> tests;
     std::vector<Chart_Row> table;
     Of_Sides<std::optional<Mean_Range>> mean_range;
+
+    /// There must be a test.
+    [[nodiscard]] const Chart_Entry& Baseline() const { return tests.at(request.baseline); }
 };
 
 /// The tests at equal lifts and equal pressure. Raises 6 for a step so small that the table would
@@ -116,6 +110,9 @@ struct Chart {
 
 /// The same without the table.
 [[nodiscard]] Chart Curves_Of(std::span<const Chart_Test> tests, const Chart_Request& request);
+
+/// The values of all tests at a lift.
+[[nodiscard]] Chart_Row Row_At(const Chart& chart, double lift);
 
 /// What a value is above the baseline's.
 [[nodiscard]] Chart_Cell Compared(std::optional<double> value, std::optional<double> baseline);

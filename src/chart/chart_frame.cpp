@@ -20,130 +20,112 @@ double Share(const Axis_Scale& scale, double value) {
 } // namespace
 
 double Chart_Frame::X(double lift) const {
-    return box_.left + Share(lifts_, lift) * box_.Width();
+    return box.left + Share(lifts, lift) * box.Width();
 }
 
 double Chart_Frame::Y(double value) const {
-    return box_.bottom - Share(values_, value) * box_.Height();
+    return box.bottom - Share(values, value) * box.Height();
 }
 
-void Chart_Frame::Draw_Grid() const {
+double Chart_Frame::Lift_At(double x) const {
+    return lifts.low + (x - box.left) / box.Width() * (lifts.high - lifts.low);
+}
+
+double Chart_Frame::Value_At(double y) const {
+    return values.low + (box.bottom - y) / box.Height() * (values.high - values.low);
+}
+
+bool Chart_Frame::Has(const Lift_Point& point) const {
+    const auto lies_in = [](const Axis_Scale& scale, double value) {
+        const double hair = (scale.high - scale.low) * 1e-9;
+        return value >= scale.low - hair && value <= scale.high + hair;
+    };
+    return lies_in(lifts, point.lift) && lies_in(values, point.value);
+}
+
+void Chart_Frame::Draw_Grid(Figure& figure, const Chart_Colours& colours) const {
     constexpr double grid_width = 0.6;
-    for (const double lift : lifts_.Ticks()) {
-        figure_.Line({X(lift), box_.top}, {X(lift), box_.bottom}, colours_.grid, grid_width);
+    for (const double lift : lifts.Ticks()) {
+        figure.Line({X(lift), box.top}, {X(lift), box.bottom}, colours.grid, grid_width);
     }
-    for (const double value : values_.Ticks()) {
-        figure_.Line({box_.left, Y(value)}, {box_.right, Y(value)}, colours_.grid, grid_width);
+    for (const double value : values.Ticks()) {
+        figure.Line({box.left, Y(value)}, {box.right, Y(value)}, colours.grid, grid_width);
     }
 }
 
-void Chart_Frame::Draw_Axes(const std::string& value_title, const std::string& lift_title) const {
-    Draw_Lift_Axis(lift_title);
-    Draw_Value_Axis(value_title);
-}
+namespace {
 
-void Chart_Frame::Draw_Lift_Axis(const std::string& title) const {
+/// One drawing of a frame's axes.
+struct Axis_Drawing {
+    const Chart_Frame& frame;
+    Figure& figure;
+    const Chart_Colours& colours;
+
+    void Draw_Lifts(const std::string& title) const;
+    void Draw_Values(const std::string& title) const;
+};
+
+void Axis_Drawing::Draw_Lifts(const std::string& title) const {
     constexpr double number_drop = 13;
     constexpr double title_drop = 26;
-    figure_.Line({box_.left, box_.bottom}, {box_.right, box_.bottom}, colours_.ink, axis_width);
-    for (const double lift : lifts_.Ticks()) {
-        const double x = X(lift);
-        figure_.Line({x, box_.bottom}, {x, box_.bottom + tick_length}, colours_.ink, axis_width);
+    figure.Line({frame.box.left, frame.box.bottom}, {frame.box.right, frame.box.bottom},
+                colours.ink, axis_width);
+    for (const double lift : frame.lifts.Ticks()) {
+        const double x = frame.X(lift);
+        figure.Line({x, frame.box.bottom}, {x, frame.box.bottom + tick_length}, colours.ink,
+                    axis_width);
         if (!title.empty()) {
-            figure_.Add(Figure_Text{.x = x,
-                                    .y = box_.bottom + number_drop,
-                                    .text = Fixed_Text(lift, lifts_.decimals),
-                                    .size = number_size,
-                                    .colour = colours_.ink,
-                                    .anchor = Text_Anchor::Centre});
+            figure.Add(Figure_Text{.x = x,
+                                   .y = frame.box.bottom + number_drop,
+                                   .text = Fixed_Text(lift, frame.lifts.decimals),
+                                   .size = number_size,
+                                   .colour = colours.ink,
+                                   .anchor = Text_Anchor::Centre});
         }
     }
     if (!title.empty()) {
-        figure_.Add(Figure_Text{.x = (box_.left + box_.right) / 2,
-                                .y = box_.bottom + title_drop,
-                                .text = title,
-                                .size = axis_title_size,
-                                .colour = colours_.ink,
-                                .anchor = Text_Anchor::Centre});
+        figure.Add(Figure_Text{.x = (frame.box.left + frame.box.right) / 2,
+                               .y = frame.box.bottom + title_drop,
+                               .text = title,
+                               .size = axis_title_size,
+                               .colour = colours.ink,
+                               .anchor = Text_Anchor::Centre});
     }
 }
 
-void Chart_Frame::Draw_Value_Axis(const std::string& title) const {
+void Axis_Drawing::Draw_Values(const std::string& title) const {
     constexpr double number_gap = 6;
     constexpr double number_drop = 2.8;
     constexpr double title_gap = 36;
-    figure_.Line({box_.left, box_.top}, {box_.left, box_.bottom}, colours_.ink, axis_width);
-    for (const double value : values_.Ticks()) {
-        const double y = Y(value);
-        figure_.Line({box_.left - tick_length, y}, {box_.left, y}, colours_.ink, axis_width);
-        figure_.Add(Figure_Text{.x = box_.left - number_gap,
-                                .y = y + number_drop,
-                                .text = Fixed_Text(value, values_.decimals),
-                                .size = number_size,
-                                .colour = colours_.ink,
-                                .anchor = Text_Anchor::Right});
+    figure.Line({frame.box.left, frame.box.top}, {frame.box.left, frame.box.bottom}, colours.ink,
+                axis_width);
+    for (const double value : frame.values.Ticks()) {
+        const double y = frame.Y(value);
+        figure.Line({frame.box.left - tick_length, y}, {frame.box.left, y}, colours.ink,
+                    axis_width);
+        figure.Add(Figure_Text{.x = frame.box.left - number_gap,
+                               .y = y + number_drop,
+                               .text = Fixed_Text(value, frame.values.decimals),
+                               .size = number_size,
+                               .colour = colours.ink,
+                               .anchor = Text_Anchor::Right});
     }
-    figure_.Add(Figure_Text{.x = box_.left - title_gap,
-                            .y = (box_.top + box_.bottom) / 2,
-                            .text = title,
-                            .size = axis_title_size,
-                            .colour = colours_.ink,
-                            .anchor = Text_Anchor::Centre,
-                            .upwards = true});
+    figure.Add(Figure_Text{.x = frame.box.left - title_gap,
+                           .y = (frame.box.top + frame.box.bottom) / 2,
+                           .text = title,
+                           .size = axis_title_size,
+                           .colour = colours.ink,
+                           .anchor = Text_Anchor::Centre,
+                           .upwards = true});
 }
 
-void Chart_Frame::Draw_Marker(double lift, const std::string& label, Text_Anchor anchor) const {
-    if (lift < lifts_.low || lift > lifts_.high) {
-        return;
-    }
-    constexpr double gap = 4;
-    const double x = X(lift);
-    figure_.Line({x, box_.top}, {x, box_.bottom}, colours_.quiet, axis_width, {1, 2.5});
-    figure_.Add(Figure_Text{.x = x,
-                            .y = box_.top - gap,
-                            .text = label,
-                            .size = number_size - 1,
-                            .colour = colours_.quiet,
-                            .anchor = anchor});
-}
+} // namespace
 
-void Spread(std::vector<End_Label>& labels, double line_height, double top, double bottom) {
-    std::ranges::stable_sort(labels, {}, &End_Label::wanted);
-
-    // Groups of touching labels; a group stands with its middle where its members want theirs.
-    struct Group {
-        double sum = 0; // of the places that the members want for the first of them
-        std::size_t count = 0;
-
-        [[nodiscard]] double First() const { return sum / static_cast<double>(count); }
-    };
-
-    std::vector<Group> groups;
-    const auto first_of = [&](const Group& group) {
-        const double height = static_cast<double>(group.count - 1) * line_height;
-        return std::max(top, std::min(group.First(), bottom - height));
-    };
-    for (const End_Label& label : labels) {
-        groups.push_back({.sum = label.wanted, .count = 1});
-        while (groups.size() > 1) {
-            const Group last = groups.back();
-            Group& before = groups[groups.size() - 2];
-            const double span = static_cast<double>(before.count) * line_height;
-            if (first_of(before) + span <= first_of(last)) {
-                break;
-            }
-            before.sum += last.sum - static_cast<double>(last.count) * span;
-            before.count += last.count;
-            groups.pop_back();
-        }
-    }
-    std::size_t at = 0;
-    for (const Group& group : groups) {
-        for (std::size_t member = 0; member < group.count; ++member) {
-            labels[at].place = first_of(group) + static_cast<double>(member) * line_height;
-            ++at;
-        }
-    }
+void Chart_Frame::Draw_Axes(Figure& figure, const Chart_Colours& colours,
+                            const std::string& value_title, const std::string& lift_title) const {
+    const Axis_Drawing axes{.frame = *this, .figure = figure, .colours = colours};
+    axes.Draw_Lifts(lift_title);
+    axes.Draw_Values(value_title);
 }
 
 } // namespace kestrum

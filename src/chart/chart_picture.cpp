@@ -1,23 +1,13 @@
 #include "chart/chart_picture.h"
 
-#include "chart/chart_frame.h"
 #include "chart/figure_text.h"
+#include "drawing/figure_clip.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kestrum {
 
 namespace {
-
-constexpr double axis_room = 44;   // left of the frames
-constexpr double label_room = 150; // right of them
-constexpr double marker_room = 14; // above
-constexpr double title_room = 30;  // below
-constexpr double band_gap = 16;
-constexpr double band_share = 0.25; // of the height of both frames
-constexpr double label_size = 7.5;
-constexpr double label_line = 9.5;
 
 double Line_Width(Chart_Side side) {
     constexpr double thick = 1.9;
@@ -25,275 +15,190 @@ double Line_Width(Chart_Side side) {
     return side == Chart_Side::Intake ? thick : thin;
 }
 
-std::string With_Unit(std::string_view title, std::string_view unit) {
-    return std::string(title) + (unit.empty() ? "" : "  [" + std::string(unit) + "]");
-}
-
-/// Lifts close enough together for a line without corners, those of the points among them.
-std::vector<double> Fine_Lifts(const Monotone_Curve& curve, const std::vector<Lift_Point>& points) {
-    constexpr int pieces = 90;
-    std::vector<double> lifts;
-    for (int piece = 0; piece <= pieces; ++piece) {
-        lifts.push_back(curve.First() + (curve.Last() - curve.First()) * piece / pieces);
-    }
-    for (const Lift_Point& point : points) {
-        lifts.push_back(point.lift);
-    }
-    std::ranges::sort(lifts);
-    return lifts;
-}
-
 /// One drawing of a chart.
 class Chart_Drawing {
 public:
-    Chart_Drawing(Figure& figure, const Figure_Box& box, const Chart& chart,
-                  const Chart_Colours& colours)
-        : figure_(figure), chart_(chart), request_(chart.request), colours_(colours) {
-        frames_ = {.left = box.left + axis_room,
-                   .top = box.top + marker_room,
-                   .right = box.right - label_room,
-                   .bottom = box.bottom - title_room};
-        Find_Ranges();
+    Chart_Drawing(Figure& figure, const Chart_Layout& layout)
+        : figure_(figure),
+          layout_(layout),
+          chart_(*layout.chart),
+          request_(chart_.request),
+          colours_(layout.Colours()) {}
+
+    void Draw_Main() {
+        const Chart_Frame& frame = layout_.main;
+        frame.Draw_Grid(figure_, colours_);
+        frame.Draw_Axes(figure_, colours_,
+                        With_Unit(Entry_Of(request_.quantity).title, request_.Unit().name),
+                        layout_.band ? "" : Lift_Title());
+        Draw_Markers();
+        // The baseline lies on top, for all is read against it.
+        for (std::size_t place = chart_.tests.size(); place-- > 0;) {
+            if (place != request_.baseline) {
+                Draw_Test(place);
+            }
+        }
+        if (!chart_.tests.empty()) {
+            Draw_Test(request_.baseline);
+        }
+        Draw_Labels(frame, layout_.labels);
     }
 
-    void Draw() {
-        const bool has_band = !gains_.empty();
-        Figure_Box main = frames_;
-        Figure_Box band = frames_;
-        if (has_band) {
-            main.bottom -= frames_.Height() * band_share + band_gap;
-            band.top = main.bottom + band_gap;
+    void Draw_Band() {
+        if (!layout_.band) {
+            return;
         }
-        Draw_Main(main, has_band ? "" : Lift_Title());
-        if (has_band) {
-            Draw_Band(band);
+        const Chart_Frame& frame = *layout_.band;
+        const bool intake = layout_.gain_side == Chart_Side::Intake;
+        frame.Draw_Grid(figure_, colours_);
+        Draw_Gain_Areas(frame);
+        frame.Draw_Axes(figure_, colours_,
+                        With_Unit(intake ? "Intake gain" : "Exhaust gain",
+                                  layout_.style.gain_in_percent ? "%" : request_.Unit().name),
+                        Lift_Title());
+        figure_.Line({frame.box.left, frame.Y(0)}, {frame.box.right, frame.Y(0)}, colours_.quiet,
+                     0.8);
+        for (const Gain_Curve& gain : layout_.gains) {
+            constexpr double width = 1.6;
+            Draw_Line(frame, gain.points, gain.test, width);
         }
+        Draw_Labels(frame, layout_.gain_labels);
     }
 
 private:
-    struct Gain_Curve {
-        std::size_t test;
-        std::vector<Lift_Point> points;
+    [[nodiscard]] std::string Lift_Title() const {
+        return With_Unit("Valve lift", Entry_Of(request_.lift_unit).name);
+    }
+
+    struct Marker {
+        double lift;
+        std::string label;
     };
 
-    [[nodiscard]] std::string Lift_Title() const {
-        return With_Unit("Valve lift", request_.Lift_Unit());
-    }
-
-    void Find_Ranges() {
-        bool found = false;
-        for (const Chart_Entry& test : chart_.tests) {
-            for (const Chart_Side side : chart_sides) {
-                const Monotone_Curve& curve = test.sides[side].curve;
-                for (const Lift_Point& point : test.sides[side].points) {
-                    low_ = found ? std::min(low_, point.value) : point.value;
-                    high_ = found ? std::max(high_, point.value) : point.value;
-                    last_ = std::max(last_, point.lift);
-                    found = true;
-                }
-                any_curve_ = any_curve_ || curve.Is_There();
-            }
-        }
-        // From nothing on, unless all values lie far above it.
-        constexpr double far_above = 0.6;
-        low_ = Entry_Of(request_.quantity).begins_at_zero || low_ < high_ * far_above
-                   ? std::min(0.0, low_)
-                   : low_;
-        Find_Gains();
-    }
-
-    void Find_Gains() {
-        if (chart_.tests.empty()) {
-            return;
-        }
-        const Chart_Side side = Leading_Side(chart_);
-        const Chart_Curve& baseline = chart_.tests.front().sides[side];
-        for (std::size_t test = 1; test < chart_.tests.size(); ++test) {
-            const Chart_Curve& own = chart_.tests[test].sides[side];
-            if (!baseline.curve.Is_There() || !own.curve.Is_There()) {
+    [[nodiscard]] std::vector<Marker> Markers() const {
+        constexpr double quarter = 0.25;
+        std::vector<Marker> markers;
+        const bool both = request_.shows.intake && request_.shows.exhaust;
+        for (const Chart_Side side : chart_sides) {
+            if (!request_.shows[side] || chart_.tests.empty()) {
                 continue;
             }
-            Gain_Curve gain{.test = test, .points = {}};
-            for (const double lift : Fine_Lifts(own.curve, own.points)) {
-                if (const auto base = baseline.curve.At(lift)) {
-                    gain.points.push_back({.lift = lift, .value = *own.curve.At(lift) - *base});
-                    gain_low_ = std::min(gain_low_, gain.points.back().value);
-                    gain_high_ = std::max(gain_high_, gain.points.back().value);
+            if (const auto diameter = chart_.Baseline().valve_diameter[side]) {
+                const std::string_view word = !both                        ? ""
+                                              : side == Chart_Side::Intake ? " in"
+                                                                           : " ex";
+                markers.push_back({*diameter * quarter, std::string("L/D 0.25").append(word)});
+            }
+        }
+        if (request_.cam_lift) {
+            markers.push_back(
+                {*request_.cam_lift, "cam " + Lift_Text(*request_.cam_lift, request_.lift_unit)});
+        }
+        const Chart_Part part = layout_.Part();
+        std::erase_if(markers, [&](const Marker& marker) {
+            return marker.lift < part.first_lift || marker.lift > part.last_lift;
+        });
+        std::ranges::sort(markers, {}, &Marker::lift);
+        return markers;
+    }
+
+    /// Dotted lines, their labels above the frame and beside each other.
+    void Draw_Markers() {
+        constexpr double size = 7;
+        constexpr double gap = 4;
+        const Figure_Box& box = layout_.main.box;
+        double free_from = box.left;
+        for (const Marker& marker : Markers()) {
+            const double x = layout_.main.X(marker.lift);
+            figure_.Line({x, box.top}, {x, box.bottom}, colours_.quiet, 0.8, {1, 2.5});
+            const double width = Figure_Text_Width(marker.label, size, false);
+            const double left = std::max(x - width / 2, free_from);
+            figure_.Add(Figure_Text{.x = left,
+                                    .y = box.top - gap,
+                                    .text = marker.label,
+                                    .size = size,
+                                    .colour = colours_.quiet});
+            free_from = left + width + gap;
+        }
+    }
+
+    void Draw_Test(std::size_t place) {
+        for (const Chart_Side side : chart_sides) {
+            const Chart_Curve& own = chart_.tests[place].sides[side];
+            const double width = Line_Width(side);
+            if (own.curve.Is_There()) {
+                std::vector<Lift_Point> points;
+                for (const double lift : Fine_Lifts(own, layout_.Part())) {
+                    points.push_back({.lift = lift, .value = *own.curve.At(lift)});
+                }
+                Draw_Line(layout_.main, points, place, width);
+            }
+            constexpr double mark_radius = 1.9;
+            for (const Lift_Point& point : own.points) {
+                if (layout_.main.Has(point)) {
+                    Draw_Mark(place, layout_.main.Place(point), mark_radius + width / 4,
+                              width / 2 + 0.3);
                 }
             }
-            if (gain.points.size() > 1) {
-                gains_.push_back(std::move(gain));
-            }
         }
     }
 
-    [[nodiscard]] Axis_Scale Lift_Scale() const {
-        constexpr int steps = 6;
-        return Round_Scale(0, last_, steps);
-    }
-
-    void Draw_Main(const Figure_Box& box, const std::string& lift_title) {
-        constexpr double points_in_step = 36;
-        const int steps = std::max(2, static_cast<int>(box.Height() / points_in_step));
-        const Chart_Frame frame(figure_, box, Lift_Scale(), Round_Scale(low_, high_, steps),
-                                colours_);
-        frame.Draw_Grid();
-        frame.Draw_Axes(With_Unit(Entry_Of(request_.quantity).title, request_.Unit()), lift_title);
-        Draw_Markers(frame);
-        std::vector<End_Label> labels;
-        // The baseline lies on top, for all is read against it.
-        for (std::size_t place = chart_.tests.size(); place-- > 0;) {
-            for (const Chart_Side side : chart_sides) {
-                Draw_Curve(frame, place, side, labels);
-            }
+    void Draw_Line(const Chart_Frame& frame, const std::vector<Lift_Point>& points,
+                   std::size_t test, double width) {
+        std::vector<Figure_Point> line;
+        line.reserve(points.size());
+        for (const Lift_Point& point : points) {
+            line.push_back(frame.Place(point));
         }
-        Draw_Labels(frame, labels);
-    }
-
-    void Draw_Markers(const Chart_Frame& frame) const {
-        constexpr double quarter = 0.25;
-
-        struct Marker {
-            std::optional<double> lift;
-            std::string label;
-        };
-
-        const auto diameter = chart_.tests.empty()
-                                  ? std::nullopt
-                                  : chart_.tests.front().valve_diameter[Leading_Side(chart_)];
-        std::array markers{
-            Marker{diameter ? std::optional(*diameter * quarter) : std::nullopt, "L/D 0.25"},
-            Marker{request_.cam_lift, "cam lift"}};
-        std::ranges::sort(markers, {}, &Marker::lift);
-        // Two labels hold away from each other.
-        const bool has_both = markers.front().lift.has_value();
-        for (const Marker& marker : markers) {
-            if (marker.lift) {
-                frame.Draw_Marker(*marker.lift, marker.label,
-                                  !has_both                     ? Text_Anchor::Centre
-                                  : &marker == &markers.front() ? Text_Anchor::Right
-                                                                : Text_Anchor::Left);
-            }
+        for (std::vector<Figure_Point>& piece : Pieces_In(line, frame.box)) {
+            figure_.Add(Figure_Path{.points = std::move(piece),
+                                    .stroke = colours_.Curve(test),
+                                    .width = width,
+                                    .dashes = Dashes_Of(test, width)});
         }
     }
 
-    void Draw_Curve(const Chart_Frame& frame, std::size_t place, Chart_Side side,
-                    std::vector<End_Label>& labels) {
-        const Chart_Curve& own = chart_.tests[place].sides[side];
-        if (own.points.empty()) {
-            return;
-        }
-        const int colour = Look_Of_Curve(place).colour;
-        const double width = Line_Width(side);
-        if (own.curve.Is_There()) {
-            Figure_Path path{
-                .points = {}, .stroke = colour, .width = width, .dashes = Dashes_Of(place, width)};
-            for (const double lift : Fine_Lifts(own.curve, own.points)) {
-                path.points.push_back(frame.Place({.lift = lift, .value = *own.curve.At(lift)}));
-            }
-            figure_.Add(std::move(path));
-        }
-        constexpr double mark_radius = 1.9;
-        for (const Lift_Point& point : own.points) {
-            Figure_Path mark = Mark_Of(place, frame.Place(point), mark_radius + width / 4);
-            mark.stroke = colour;
-            mark.width = width / 2 + 0.3;
-            mark.fill = colours_.ground;
-            figure_.Add(std::move(mark));
-        }
-        labels.push_back({.wanted = frame.Y(own.points.back().value),
-                          .text = Label_Text(place, side),
-                          .test = place,
-                          .bold = side == Chart_Side::Intake,
-                          .place = 0});
-    }
-
-    [[nodiscard]] std::string Label_Text(std::size_t place, Chart_Side side) const {
-        const Chart_Entry& test = chart_.tests[place];
-        const bool both = request_.shows.intake && request_.shows.exhaust;
-        const bool bold = side == Chart_Side::Intake;
-        std::string figure =
-            "  " + Fixed_Text(test.sides[side].points.back().value,
-                              std::max(0, request_.Decimals() - (request_.metric ? 0 : 1)));
-        if (both) {
-            figure = (bold ? "  in" : "  ex") + figure;
-        }
-        constexpr double sample_room = 24;
-        const double room = label_room - sample_room - Figure_Text_Width(figure, label_size, bold);
-        return Fitted_Name(Numbered_Name(chart_, place), label_size, bold, room) + figure;
+    void Draw_Mark(std::size_t test, Figure_Point centre, double radius, double width) {
+        Figure_Path mark = Mark_Of(test, centre, radius);
+        mark.stroke = colours_.Curve(test);
+        mark.width = width;
+        mark.fill = colours_.ground;
+        figure_.Add(std::move(mark));
     }
 
     /// Beside the frame, with a piece of the line and its mark, and a leader where they had to
     /// move.
-    void Draw_Labels(const Chart_Frame& frame, std::vector<End_Label>& labels) {
-        const Figure_Box& box = frame.Box();
-        constexpr double leader = 8;
-        constexpr double sample = 12;
+    void Draw_Labels(const Chart_Frame& frame, const std::vector<End_Label>& labels) {
+        constexpr double sample = 26;
         constexpr double gap = 4;
-        constexpr double drop = 2.6;
-        Spread(labels, label_line, box.top, box.bottom);
+        const double size = layout_.column.text_size;
         for (const End_Label& label : labels) {
-            const int colour = Look_Of_Curve(label.test).colour;
-            const double width = Line_Width(label.bold ? Chart_Side::Intake : Chart_Side::Exhaust);
-            const double left = box.right + leader;
-            figure_.Line({box.right + 1, label.wanted}, {left - 1, label.place}, colours_.rule,
-                         0.5);
-            figure_.Line({left, label.place}, {left + sample, label.place}, colour, width,
-                         Dashes_Of(label.test, width));
-            Figure_Path mark = Mark_Of(label.test, {left + sample / 2, label.place}, 2);
-            mark.stroke = colour;
-            mark.fill = colours_.ground;
-            figure_.Add(std::move(mark));
-            figure_.Add(Figure_Text{.x = left + sample + gap,
-                                    .y = label.place + drop,
-                                    .text = label.text,
-                                    .size = label_size,
-                                    .colour = colour,
-                                    .bold = label.bold});
+            const double width = Line_Width(label.side);
+            const double right = layout_.column.left - gap;
+            const double left = right - sample;
+            figure_.Line({frame.box.right + 1, label.wanted}, {left - 1, label.place},
+                         colours_.rule, 0.5);
+            figure_.Line({left, label.place}, {right, label.place}, colours_.Curve(label.test),
+                         width, Dashes_Of(label.test, width));
+            Draw_Mark(label.test, {left + sample / 2, label.place}, 2, 1);
+            figure_.Add(Figure_Text{.x = layout_.column.left,
+                                    .y = label.place + size * 0.35,
+                                    .text = label.name,
+                                    .size = size,
+                                    .colour = colours_.Curve(label.test),
+                                    .bold = label.side == Chart_Side::Intake});
         }
-    }
-
-    void Draw_Band(const Figure_Box& box) {
-        constexpr int steps = 3;
-        const Chart_Frame frame(figure_, box, Lift_Scale(),
-                                Round_Scale(gain_low_, gain_high_, steps), colours_);
-        const bool intake = Leading_Side(chart_) == Chart_Side::Intake;
-        frame.Draw_Grid();
-        Draw_Gain_Areas(frame);
-        frame.Draw_Axes(With_Unit(intake ? "Intake gain" : "Exhaust gain", request_.Unit()),
-                        Lift_Title());
-        figure_.Line({box.left, frame.Y(0)}, {box.right, frame.Y(0)}, colours_.quiet, 0.8);
-        std::vector<End_Label> labels;
-        for (const Gain_Curve& gain : gains_) {
-            constexpr double width = 1.6;
-            Figure_Path path{.points = {},
-                             .stroke = Look_Of_Curve(gain.test).colour,
-                             .width = width,
-                             .dashes = Dashes_Of(gain.test, width)};
-            for (const Lift_Point& point : gain.points) {
-                path.points.push_back(frame.Place(point));
-            }
-            figure_.Add(std::move(path));
-            labels.push_back(
-                {.wanted = frame.Y(gain.points.back().value),
-                 .text = Fitted_Name(Numbered_Name(chart_, gain.test), label_size, true, 84) +
-                         "  " + Signed_Text(gain.points.back().value, request_.Decimals()),
-                 .test = gain.test,
-                 .bold = true,
-                 .place = 0});
-        }
-        Draw_Labels(frame, labels);
     }
 
     /// A shade between a gain and nothing; with many tests there would be only shade.
     void Draw_Gain_Areas(const Chart_Frame& frame) {
         constexpr std::size_t most_shades = 3;
-        if (gains_.size() > most_shades) {
+        if (layout_.gains.size() > most_shades) {
             return;
         }
-        for (const Gain_Curve& gain : gains_) {
+        for (const Gain_Curve& gain : layout_.gains) {
             Figure_Path area{.points = {}, .closed = true};
-            area.fill = Look_Of_Curve(gain.test).colour;
+            area.fill = colours_.Curve(gain.test);
             area.opacity = 0.08;
             area.points.push_back({frame.X(gain.points.front().lift), frame.Y(0)});
             for (const Lift_Point& point : gain.points) {
@@ -305,36 +210,103 @@ private:
     }
 
     Figure& figure_;
+    const Chart_Layout& layout_;
     const Chart& chart_;
     const Chart_Request& request_;
     const Chart_Colours& colours_;
-    Figure_Box frames_;
-    double low_ = 0;
-    double high_ = 0;
-    double last_ = 0;
-    double gain_low_ = 0;
-    double gain_high_ = 0;
-    bool any_curve_ = false;
-    std::vector<Gain_Curve> gains_;
+};
+
+void Draw_Figure(Figure& figure, const Chart_Layout& layout, const End_Label& label,
+                 const std::string& text) {
+    const double size = layout.column.text_size;
+    figure.Add(Figure_Text{.x = layout.column.right,
+                           .y = label.place + size * 0.35,
+                           .text = text.empty() ? "\xE2\x80\x93" : text,
+                           .size = size,
+                           .colour = layout.Colours().Curve(label.test),
+                           .bold = label.side == Chart_Side::Intake,
+                           .anchor = Text_Anchor::Right});
+}
+
+} // namespace
+
+void Draw_Curves(Figure& figure, const Chart_Layout& layout) {
+    Chart_Drawing drawing(figure, layout);
+    drawing.Draw_Main();
+    drawing.Draw_Band();
+}
+
+void Draw_End_Figures(Figure& figure, const Chart_Layout& layout) {
+    for (const std::vector<End_Label>* const labels : {&layout.labels, &layout.gain_labels}) {
+        for (const End_Label& label : *labels) {
+            Draw_Figure(figure, layout, label, label.figure);
+        }
+    }
+}
+
+void Draw_Chart(Figure& figure, const Chart_Layout& layout) {
+    Draw_Curves(figure, layout);
+    Draw_End_Figures(figure, layout);
+}
+
+namespace {
+
+/// One reading of all curves.
+struct Reading_Drawing {
+    Figure& figure;
+    const Chart_Layout& layout;
+    double lift;
+
+    void Draw_Line() const {
+        const double x = layout.main.X(lift);
+        const Lift_Unit unit = layout.chart->request.lift_unit;
+        figure.Line({x, layout.main.box.top}, {x, layout.Lowest().box.bottom}, layout.Colours().ink,
+                    0.7);
+        constexpr double size = 8.5;
+        constexpr double rise = 4;
+        figure.Add(Figure_Text{.x = layout.column.right,
+                               .y = layout.main.box.top - rise,
+                               .text = "at " + Lift_Text(lift, unit) + " " +
+                                       std::string(Entry_Of(unit).name),
+                               .size = size,
+                               .colour = layout.Colours().ink,
+                               .bold = true,
+                               .anchor = Text_Anchor::Right});
+    }
+
+    void Draw_Dot(const Chart_Frame& frame, const End_Label& label,
+                  std::optional<double> value) const {
+        constexpr std::size_t round = 0;
+        constexpr double radius = 2.6;
+        if (value && frame.Has({.lift = lift, .value = *value})) {
+            Figure_Path dot = Mark_Of(round, frame.Place({.lift = lift, .value = *value}), radius);
+            dot.fill = layout.Colours().Curve(label.test);
+            figure.Add(std::move(dot));
+        }
+    }
 };
 
 } // namespace
 
-void Draw_Chart(Figure& figure, const Figure_Box& box, const Chart& chart,
-                const Chart_Colours& colours) {
-    Chart_Drawing(figure, box, chart, colours).Draw();
-}
-
-std::string Numbered_Name(const Chart& chart, std::size_t test) {
-    return Bare_Text(static_cast<double>(test + 1), 0) + " " + chart.tests[test].name;
-}
-
-Chart_Side Leading_Side(const Chart& chart) {
-    const bool intake =
-        chart.request.shows.intake && std::ranges::any_of(chart.tests, [](const Chart_Entry& test) {
-            return !test.sides.intake.points.empty();
-        });
-    return intake || !chart.request.shows.exhaust ? Chart_Side::Intake : Chart_Side::Exhaust;
+void Draw_Reading(Figure& figure, const Chart_Layout& layout, double lift) {
+    const Reading_Drawing reading{.figure = figure, .layout = layout, .lift = lift};
+    const Chart& chart = *layout.chart;
+    const Chart_Row row = Row_At(chart, lift);
+    reading.Draw_Line();
+    for (const End_Label& label : layout.labels) {
+        const std::optional<double>& value = row.cells[label.side][label.test].value;
+        Draw_Figure(figure, layout, label, Fixed_Text(value, chart.request.Unit().decimals));
+        reading.Draw_Dot(layout.main, label, value);
+    }
+    for (const End_Label& label : layout.gain_labels) {
+        const Chart_Cell& cell = row.cells[label.side][label.test];
+        const bool is_baseline = label.test == chart.request.baseline;
+        Draw_Figure(figure, layout, label, is_baseline ? "0" : Gain_Text(cell, layout));
+        if (layout.band) {
+            reading.Draw_Dot(*layout.band, label,
+                             layout.style.gain_in_percent ? cell.percent : cell.gain);
+        }
+    }
 }
 
 } // namespace kestrum

@@ -19,38 +19,44 @@ constexpr std::array curtain_needs{Valve_Diameter};
 constexpr std::array effective_needs{Valve_Diameter, Throat_Diameter, Stem_Diameter, Seat_Angle,
                                      Seat_Width};
 
+constexpr std::array<Value_Unit, flow_units> No_Unit(int decimals) {
+    return {{{"", 1, decimals}, {"", 1, decimals}, {"", 1, decimals}}};
+}
+
+constexpr double litres = factor::cubic_foot * 1000 / 60; // in a second
+
+constexpr std::array<Value_Unit, flow_units> flow_in{
+    {{"cfm", 1, 1}, {"m3/min", factor::cubic_foot, 3}, {"l/s", litres, 1}}};
+constexpr std::array<Value_Unit, flow_units> speed_in{
+    {{"ft/s", 1, 1}, {"m/s", metres, 1}, {"m/s", metres, 1}}};
+constexpr std::array<Value_Unit, flow_units> flow_by_area_in{
+    {{"cfm/sq in", 1, 2},
+     {"m3/min/sq cm", factor::cubic_foot / square_centimetres, 4},
+     {"l/s/sq cm", litres / square_centimetres, 3}}};
+
 constexpr std::array<Chart_Quantity_Entry, chart_quantities> entries{{
     {Chart_Quantity::Flow,
      "flow",
      "Flow",
-     "cfm",
-     "m3/min",
-     factor::cubic_foot,
-     1,
-     3,
+     flow_in,
      Corrected_Flow,
      {},
      false,
      true,
      Pressure_Rule::To_Asked},
-    {Chart_Quantity::Velocity, "velocity", "Mean port velocity", "ft/s", "m/s", metres, 1, 1,
-     Port_Velocity, velocity_needs, false, true, Pressure_Rule::To_Asked},
-    {Chart_Quantity::Per_Area, "per-area", "Flow by curtain area", "cfm/sq in", "m3/min/sq cm",
-     factor::cubic_foot / square_centimetres, 2, 4, Flow_Per_Area, curtain_needs, true, false,
-     Pressure_Rule::To_Asked},
-    {Chart_Quantity::Discharge, "cd", "Discharge coefficient", "", "", 1, 3, 3,
-     Cell_Role::Discharge, curtain_needs, true, false, Pressure_Rule::To_Full_Flow},
-    {Chart_Quantity::Effective_Discharge, "effective-cd", "Effective discharge coefficient", "", "",
-     1, 3, 3, Cell_Role::Effective_Discharge, effective_needs, true, false,
+    {Chart_Quantity::Velocity, "velocity", "Mean port velocity", speed_in, Port_Velocity,
+     velocity_needs, false, true, Pressure_Rule::To_Asked},
+    {Chart_Quantity::Per_Area, "per-area", "Flow by curtain area", flow_by_area_in, Flow_Per_Area,
+     curtain_needs, true, false, Pressure_Rule::To_Asked},
+    {Chart_Quantity::Discharge, "cd", "Discharge coefficient", No_Unit(3), Cell_Role::Discharge,
+     curtain_needs, true, false, Pressure_Rule::To_Full_Flow},
+    {Chart_Quantity::Effective_Discharge, "effective-cd", "Effective discharge coefficient",
+     No_Unit(3), Cell_Role::Effective_Discharge, effective_needs, true, false,
      Pressure_Rule::To_Full_Flow},
     {Chart_Quantity::Swirl,
      "swirl",
      "Swirl",
-     "",
-     "",
-     1,
-     0,
-     0,
+     No_Unit(0),
      None,
      {},
      false,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "chart/chart_units.h"
 #include "screens/cell_role.h"
 
 #include <array>
@@ -24,15 +25,9 @@ inline constexpr double full_flow_pressure = 28; // inches of water
 
 struct Chart_Quantity_Entry {
     Chart_Quantity quantity;
-    std::string_view name;  // of the command line
-    std::string_view title; // of an axis
-    std::string_view us_unit;
-    std::string_view metric_unit;
-    /// Takes a value to its metric unit.
-    double to_metric;
-    /// Decimals that a reader needs of it in either system.
-    int us_decimals;
-    int metric_decimals;
+    std::string_view name;                    // of the command line
+    std::string_view title;                   // of an axis
+    std::array<Value_Unit, flow_units> units; // in the order of `Flow_Unit`
     /// Column of the lift rows; none for the swirl, which stands apart.
     Cell_Role column;
     /// Header figures without which the column says nothing about the test.

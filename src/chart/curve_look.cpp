@@ -26,24 +26,43 @@ constexpr std::array<Mark_Shape, 8> marks{{
     {10, 0, 0.45, 1.6},  // star of five points
 }};
 
+/// In widths of the line.
+const std::array<std::vector<double>, most_chart_tests> dashes_of_tests{
+    {{},
+     {6, 2.2},
+     {1.4, 1.4},
+     {5, 1.6, 1.4, 1.6},
+     {3, 1.5},
+     {8, 1.6},
+     {4.5, 1.5, 1.3, 1.5, 1.3, 1.5},
+     {1.6, 3.2}}};
+
 } // namespace
 
-Curve_Look Look_Of_Curve(std::size_t test) {
-    static const std::array<Curve_Look, marks.size()> looks{{
-        {0x4A545E, {}},
-        {0x0069AA, {7, 2.5}},
-        {0xD35400, {1.6, 1.6}},
-        {0x007A56, {7, 2, 1.6, 2}},
-        {0xB8428C, {4, 2}},
-        {0xC98A00, {12, 3}},
-        {0x3FA0D8, {7, 2, 1.6, 2, 1.6, 2}},
-        {0x6B2C0F, {2.8, 1.2}},
-    }};
-    return looks.at(test % looks.size());
+const Chart_Colours& Light_Chart() {
+    static constexpr Chart_Colours colours{
+        .ground = 0xFFFFFF,
+        .ink = 0x1F2933,
+        .quiet = 0x5B6670,
+        .grid = 0xE3E6E8,
+        .rule = 0xA9AFB5,
+        .curves = {0x4A545E, 0x0069AA, 0xD35400, 0x5B0C63, 0xCC77A6, 0x861209, 0x8E71F6, 0x846C4C}};
+    return colours;
+}
+
+const Chart_Colours& Dark_Chart() {
+    static constexpr Chart_Colours colours{
+        .ground = 0x1B1E20,
+        .ink = 0xE4E7EA,
+        .quiet = 0xA4ACB4,
+        .grid = 0x33383C,
+        .rule = 0x6B747C,
+        .curves = {0xC9D1D9, 0x4EA5E8, 0xFF8A3D, 0x4D8A54, 0xE6A695, 0xFFEA49, 0x9FF082, 0x9A819D}};
+    return colours;
 }
 
 std::vector<double> Dashes_Of(std::size_t test, double width) {
-    std::vector<double> dashes = Look_Of_Curve(test).dashes;
+    std::vector<double> dashes = dashes_of_tests.at(test % dashes_of_tests.size());
     for (double& length : dashes) {
         length *= width;
     }

@@ -2,33 +2,35 @@
 
 #include "drawing/figure.h"
 
+#include <array>
 #include <cstddef>
 #include <vector>
 
 namespace kestrum {
 
-/// What tells the eight tests of a chart apart, also in grey and for eyes that see few colours:
-/// each differs in colour, brightness, dashes and mark.
-struct Curve_Look {
-    int colour = 0;
-    std::vector<double> dashes; // in widths of the line
+inline constexpr std::size_t most_chart_tests = 8;
+
+/// The colours of a chart. Those of the curves differ in brightness too, and for eyes that lack a
+/// kind of cone.
+struct Chart_Colours {
+    int ground;
+    int ink;
+    int quiet;
+    int grid;
+    int rule;
+    std::array<int, most_chart_tests> curves;
+
+    [[nodiscard]] int Curve(std::size_t test) const { return curves.at(test % curves.size()); }
 };
 
-[[nodiscard]] Curve_Look Look_Of_Curve(std::size_t test);
+/// On paper and on light screens.
+[[nodiscard]] const Chart_Colours& Light_Chart();
+[[nodiscard]] const Chart_Colours& Dark_Chart();
 
-/// The dashes of a line of a width.
+/// The dashes of a test's line of a width; each test has others.
 [[nodiscard]] std::vector<double> Dashes_Of(std::size_t test, double width);
 
 /// The outline of a test's mark around a point.
 [[nodiscard]] Figure_Path Mark_Of(std::size_t test, Figure_Point centre, double radius);
-
-/// Colours of what surrounds the curves.
-struct Chart_Colours {
-    int ground = 0xFFFFFF;
-    int ink = 0x1F2933;
-    int quiet = 0x5B6670;
-    int grid = 0xE3E6E8;
-    int rule = 0xA9AFB5;
-};
 
 } // namespace kestrum

@@ -27,9 +27,8 @@ std::string Signed_Text(std::optional<double> value, int decimals) {
     return text.empty() || text.starts_with('-') ? text : "+" + text;
 }
 
-std::string Lift_Text(double lift, bool metric) {
-    constexpr int inch_decimals = 3;
-    return Fixed_Text(lift, metric ? 2 : inch_decimals);
+std::string Lift_Text(double lift, Lift_Unit unit) {
+    return Fixed_Text(lift, Entry_Of(unit).decimals);
 }
 
 std::string Bare_Text(double value, int most_decimals) {

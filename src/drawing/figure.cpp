@@ -2,12 +2,50 @@
 
 #include "base/text.h"
 
+#include <algorithm>
+
 namespace kestrum {
 
 void Figure::Line(Figure_Point from, Figure_Point to, int colour, double line_width,
                   std::vector<double> dashes) {
     Add(Figure_Path{
         .points = {from, to}, .stroke = colour, .width = line_width, .dashes = std::move(dashes)});
+}
+
+namespace {
+
+void Move_Down(Figure_Path& path, double by) {
+    for (Figure_Point& point : path.points) {
+        point.y += by;
+    }
+}
+
+void Move_Down(Figure_Text& text, double by) {
+    text.y += by;
+}
+
+void Move_Down(Figure_Picture& picture, double by) {
+    picture.box.top += by;
+    picture.box.bottom += by;
+}
+
+} // namespace
+
+Figure Below_Each_Other(std::span<const Figure> pages) {
+    Figure all(0, 0);
+    for (const Figure& page : pages) {
+        for (Figure::Step step : page.Steps()) {
+            std::visit(
+                [&all](auto& kind) {
+                    Move_Down(kind, all.height);
+                    all.Add(std::move(kind));
+                },
+                step);
+        }
+        all.width = std::max(all.width, page.width);
+        all.height += page.height;
+    }
+    return all;
 }
 
 double Figure_Text_Width(std::string_view text, double size, bool bold) {

@@ -2,6 +2,7 @@
 
 #include "drawing/drawing.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -49,17 +50,25 @@ struct Figure_Text {
     bool upwards = false; // read from below
 };
 
+/// A picture that fills a box: the bytes of a BMP, GIF, JPEG or PNG file.
+struct Figure_Picture {
+    Figure_Box box;
+    std::string bytes;
+};
+
 /// A display list for charts, in points. Other than a `Drawing`, whose steps are single lines that
 /// the scripts report, it has paths with any dashes and fills. It is painted by replaying it.
 class Figure {
 public:
     Figure(double its_width, double its_height) : width(its_width), height(its_height) {}
 
-    using Step = std::variant<Figure_Path, Figure_Text>;
+    using Step = std::variant<Figure_Path, Figure_Text, Figure_Picture>;
 
     void Add(Figure_Path path) { steps_.emplace_back(std::move(path)); }
 
     void Add(Figure_Text text) { steps_.emplace_back(std::move(text)); }
+
+    void Add(Figure_Picture picture) { steps_.emplace_back(std::move(picture)); }
 
     void Line(Figure_Point from, Figure_Point to, int colour, double line_width,
               std::vector<double> dashes = {});
@@ -81,6 +90,9 @@ private:
 
 /// The same for a name, whose end tells as much as its beginning: it is cut in the middle.
 [[nodiscard]] std::string Fitted_Name(std::string_view name, double size, bool bold, double width);
+
+/// Pages one below the other, for pictures that have no pages.
+[[nodiscard]] Figure Below_Each_Other(std::span<const Figure> pages);
 
 /// The bytes of an SVG file. Texts stay texts.
 [[nodiscard]] std::string Figure_Svg(const Figure& figure);

@@ -114,6 +114,42 @@ void Append_Step(std::string& out, const Figure_Text& text) {
     out += "</text>\n";
 }
 
+std::string_view Media_Type(std::string_view bytes) {
+    return bytes.starts_with("\x89PNG")    ? "image/png"
+           : bytes.starts_with("GIF8")     ? "image/gif"
+           : bytes.starts_with("\xFF\xD8") ? "image/jpeg"
+                                           : "image/bmp";
+}
+
+/// Bytes as letters: 64 of them stand for six bits each.
+void Append_Base64(std::string& out, std::string_view bytes) {
+    constexpr std::string_view letters =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    constexpr unsigned six_bits = 0x3F;
+    for (std::size_t at = 0; at < bytes.size(); at += 3) {
+        const std::string_view group = bytes.substr(at, 3);
+        unsigned bits = 0;
+        for (std::size_t place = 0; place < 3; ++place) {
+            bits =
+                bits << 8U | (place < group.size() ? static_cast<unsigned char>(group[place]) : 0U);
+        }
+        for (std::size_t place = 0; place < 4; ++place) {
+            out += place <= group.size() ? letters[bits >> (18 - 6 * place) & six_bits] : '=';
+        }
+    }
+}
+
+void Append_Step(std::string& out, const Figure_Picture& picture) {
+    out += "<image";
+    Append_Attribute(out, "x", picture.box.left);
+    Append_Attribute(out, "y", picture.box.top);
+    Append_Attribute(out, "width", picture.box.Width());
+    Append_Attribute(out, "height", picture.box.Height());
+    out.append(" href=\"data:").append(Media_Type(picture.bytes)).append(";base64,");
+    Append_Base64(out, picture.bytes);
+    out += "\"/>\n";
+}
+
 } // namespace
 
 std::string Figure_Svg(const Figure& figure) {

@@ -43,9 +43,9 @@ struct Painter {
     [[nodiscard]] virtual std::string Picture_Of(const Drawing& drawing, Picture_Format format,
                                                  const std::optional<Placed_Logo>& logo) = 0;
 
-    /// The bytes of a picture file of a figure; SVG needs no painter. Raises 481 without anything
-    /// to paint with, 75 for a picture that cannot be made.
-    [[nodiscard]] virtual std::string Picture_Of(const Figure& /*figure*/,
+    /// The bytes of a picture file of pages, which only PDF keeps apart; SVG needs no painter.
+    /// Raises 481 without anything to paint with, 75 for a picture that cannot be made.
+    [[nodiscard]] virtual std::string Picture_Of(std::span<const Figure> /*pages*/,
                                                  Picture_Format /*format*/) {
         Fail(error::invalid_picture);
     }
