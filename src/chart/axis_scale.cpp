@@ -54,4 +54,15 @@ Axis_Scale Round_Scale(double low, double high, int about_steps) {
     return scale;
 }
 
+Axis_Scale Snug_Scale(double low, double high, int about_steps) {
+    Axis_Scale best = Round_Scale(low, high, about_steps);
+    for (const int steps : {about_steps + 1, about_steps + 2, std::max(2, about_steps - 1)}) {
+        const Axis_Scale scale = Round_Scale(low, high, steps);
+        if (scale.high - scale.low < (best.high - best.low) * (1 - hair)) {
+            best = scale;
+        }
+    }
+    return best;
+}
+
 } // namespace kestrum

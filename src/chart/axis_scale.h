@@ -18,6 +18,9 @@ struct Axis_Scale {
 /// its ticks.
 [[nodiscard]] Axis_Scale Round_Scale(double low, double high, int about_steps);
 
+/// Of such axes with about so many steps the one that leaves the least of it empty.
+[[nodiscard]] Axis_Scale Snug_Scale(double low, double high, int about_steps);
+
 /// The same over exactly the range, whose ends need not be ticks.
 [[nodiscard]] Axis_Scale Exact_Scale(double low, double high, int about_steps);
 

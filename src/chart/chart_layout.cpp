@@ -37,11 +37,11 @@ public:
     [[nodiscard]] Chart_Layout Make() {
         Find_Ranges();
         const double high = frames_.Height() * (Has_Gains() ? 1 - band_share : 1);
-        constexpr double points_in_step = 36;
+        constexpr double points_in_step = 34;
         const int steps = std::max(2, static_cast<int>(high / points_in_step));
         constexpr int lift_steps = 6;
-        const Axis_Scale lifts = Round_Scale(0, last_, lift_steps);
-        const Axis_Scale values = Round_Scale(low_, high_, steps);
+        const Axis_Scale lifts = Snug_Scale(0, last_, lift_steps);
+        const Axis_Scale values = Snug_Scale(low_, high_, steps);
         layout_.whole = {.first_lift = lifts.low,
                          .last_lift = lifts.high,
                          .low = values.low,
@@ -181,7 +181,7 @@ private:
                 high = std::max(high, most.value);
             }
             layout_.band = {
-                .box = band, .lifts = layout_.main.lifts, .values = Round_Scale(low, high, steps)};
+                .box = band, .lifts = layout_.main.lifts, .values = Snug_Scale(low, high, steps)};
         }
     }
 

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double page_width = 595;
 constexpr double page_height = 842;
-constexpr double margin = 42;
+constexpr double margin = 36;
 constexpr Figure_Box content{margin, margin + 44, page_width - margin, page_height - margin - 6};
 
 /// Something of a page that stands below the chart.
@@ -34,7 +34,7 @@ std::vector<std::string> Wrapped(const std::string& text, double size) {
         if (lines.back().empty() || Figure_Text_Width(longer, size, false) <= content.Width()) {
             lines.back() = longer;
         } else {
-            lines.push_back("  " + word);
+            lines.push_back(word);
         }
         at = end + 1;
     }
@@ -92,10 +92,10 @@ private:
                             Pressure_Words());
         }
         if (chart_.tests.size() > 1) {
-            parts.push_back("baseline: " + Numbered_Name(chart_, chart_.request.baseline));
+            parts.push_back("Baseline " + Numbered_Name(chart_, chart_.request.baseline));
         }
         if (Sides_With_Points(chart_).size() > 1) {
-            parts.emplace_back("thick lines intake, thin lines exhaust");
+            parts.emplace_back("Thick lines intake, thin lines exhaust");
         }
         std::string words;
         for (const std::string& part : parts) {
@@ -190,10 +190,12 @@ public:
           frame_(chart, head, style_.colours) {}
 
     [[nodiscard]] std::vector<Figure> Make() {
-        constexpr double least_chart = 300;
+        constexpr double least_chart = 255;
+        constexpr double usual_chart = 360;
         constexpr double most_chart = 470;
         constexpr double gap = 8;
-        const std::vector<Page_Block> blocks = Blocks_Within(content.Height() - least_chart - gap);
+        const std::vector<Page_Block> blocks =
+            Blocks_Beside({usual_chart + gap, least_chart + gap});
         const auto first_behind =
             First_That_Does_Not_Fit(blocks, content.Height() - least_chart - gap);
         const double below = Sum({blocks.begin(), first_behind});
@@ -237,16 +239,20 @@ private:
         std::size_t comment_lines;
     };
 
-    /// What stands below the chart, as airy and long as it fits beside it; if nothing helps, what
-    /// goes on on another page is whole again.
-    [[nodiscard]] std::vector<Page_Block> Blocks_Within(double room) const {
+    /// What stands below the chart, as airy and long as it fits beside it, or beside a lower chart;
+    /// if nothing helps, what goes on on another page is whole again.
+    [[nodiscard]] std::vector<Page_Block>
+    Blocks_Beside(std::initializer_list<double> chart_heights) const {
         constexpr std::size_t most_lines = 60;
-        for (const Room_Saving& saving :
-             {Room_Saving{false, most_lines}, Room_Saving{true, most_lines}, Room_Saving{false, 3},
-              Room_Saving{true, 3}, Room_Saving{true, 2}, Room_Saving{true, 1}}) {
-            std::vector<Page_Block> blocks = Blocks(saving);
-            if (Sum(blocks) <= room) {
-                return blocks;
+        for (const double height : chart_heights) {
+            for (const Room_Saving& saving :
+                 {Room_Saving{false, most_lines}, Room_Saving{true, most_lines},
+                  Room_Saving{false, 3}, Room_Saving{true, 3}, Room_Saving{true, 2},
+                  Room_Saving{true, 1}}) {
+                std::vector<Page_Block> blocks = Blocks(saving);
+                if (Sum(blocks) <= content.Height() - height) {
+                    return blocks;
+                }
             }
         }
         return Blocks({true, most_lines});
@@ -269,16 +275,23 @@ private:
                  }});
         };
         add(Summary_Table(chart_, Table_Detail::Page));
-        for (const Chart_Side side : Sides_With_Points(chart_)) {
-            add(Lift_Table(chart_, std::array{side}, Table_Detail::Page));
+        const std::vector<Chart_Side> sides = Sides_With_Points(chart_);
+        constexpr std::size_t most_side_by_side = 2;
+        if (chart_.tests.size() <= most_side_by_side) {
+            add(Lift_Table(chart_, sides, Table_Detail::Page));
+        } else {
+            for (const Chart_Side side : sides) {
+                add(Lift_Table(chart_, std::array{side}, Table_Detail::Page));
+            }
         }
-        Add_Comments(blocks, saving.comment_lines);
+        Add_Comments(blocks, saving);
         return blocks;
     }
 
-    void Add_Comments(std::vector<Page_Block>& blocks, std::size_t most_lines) const {
+    void Add_Comments(std::vector<Page_Block>& blocks, const Room_Saving& saving) const {
         constexpr double size = 7.5;
-        constexpr double line = 10;
+        const std::size_t most_lines = saving.comment_lines;
+        const double line = saving.is_tight ? 9 : 10;
         for (std::size_t test = 0; test < chart_.tests.size(); ++test) {
             std::string comment(Without_Outer_Blanks(chart_.tests[test].comment));
             std::ranges::replace_if(
@@ -294,7 +307,7 @@ private:
                 lines.resize(most_lines);
             }
             blocks.push_back({.height = static_cast<double>(lines.size()) * line,
-                              .draw = [lines, this](Figure& page, double top) {
+                              .draw = [lines, line, this](Figure& page, double top) {
                                   for (const std::string& text : lines) {
                                       page.Add(Figure_Text{.x = content.left,
                                                            .y = top + size,

@@ -104,6 +104,7 @@ private:
     void Add_Peak(Chart_Side side) {
         constexpr std::string_view figure = "peak";
         const Value_Unit& unit = chart_.request.Unit();
+        const bool is_inch = chart_.request.lift_unit == Lift_Unit::Inch;
         const auto lift_text = [&](const Lift_Point& peak) {
             return Lift_Text(peak.lift, chart_.request.lift_unit);
         };
@@ -114,7 +115,7 @@ private:
             // Lifts of a head are named without the nought.
             const std::string lift = lift_text(peak);
             return End_Text(peak.value, unit) + " @ " +
-                   (lift.starts_with("0.") ? lift.substr(1) : lift);
+                   (is_inch && lift.starts_with("0.") ? lift.substr(1) : lift);
         };
         const auto peak_text = [&](std::size_t place, const auto& write) {
             const std::optional<Lift_Point>& peak = chart_.tests[place].sides[side].peak;
@@ -146,6 +147,9 @@ private:
 
     /// Over the baseline's, absolute and in per cent; a page with both sides has room for one.
     void Add_Gain(std::string_view figure, Chart_Side side, Number_Of number) {
+        if (chart_.tests.size() == 1) {
+            return;
+        }
         const auto compared = [&, side, number](std::size_t place) {
             const auto own = number(chart_.tests[place], side);
             return place == chart_.request.baseline
@@ -211,8 +215,10 @@ public:
                 Add_Test(side, place);
             }
         }
-        table_.title +=
-            " at equal lifts, with the gain over " + Numbered_Name(chart_, chart_.request.baseline);
+        if (chart_.tests.size() > 1) {
+            table_.title += " at equal lifts, with the gain over " +
+                            Numbered_Name(chart_, chart_.request.baseline);
+        }
         return std::move(table_);
     }
 

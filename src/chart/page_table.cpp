@@ -7,14 +7,14 @@ namespace kestrum {
 namespace {
 
 constexpr double table_title_size = 9.5;
-constexpr double title_height = 15;
 constexpr double head_line = 10;
 constexpr double rule_room = 12;
-constexpr double space_below = 10;
 constexpr double largest_text = 8;
 constexpr double smallest_text = 5;
 constexpr double usual_line = 12;
-constexpr double tight_line = 9;
+constexpr double tight_line = 8.6;
+constexpr double tight_title = 13;
+constexpr double tight_space = 5;
 constexpr double most_name = 0.2; // of the page's width
 
 /// Lines that a reader still takes in.
@@ -37,6 +37,8 @@ Page_Table::Page_Table(Chart_Table table, const Figure_Box& page)
 
 void Page_Table::Tighten() {
     line_height_ = tight_line;
+    title_height_ = tight_title;
+    space_below_ = tight_space;
 }
 
 /// Titles below groups; beside groups alone they need no line.
@@ -66,7 +68,7 @@ double Page_Table::Text_Width(std::size_t column, double size) const {
 double Page_Table::Gap(std::size_t column, double size) const {
     constexpr double narrow = 0.6; // in heights of the letters
     constexpr double wide = 1.3;
-    constexpr double widest = 2.5; // a name stands above a single column
+    constexpr double widest = 3.5; // a name stands above a single column
     if (column == 0) {
         return 0;
     }
@@ -97,7 +99,8 @@ void Page_Table::Place_Columns() {
     }
     // The rest of the width goes between the columns.
     const double rest = page_.Width() - widths(text_size_);
-    const double stretch = 1 + (gaps > 0 ? rest / gaps : 0);
+    constexpr double most_stretch = 9; // of few columns, which belong together
+    const double stretch = std::min(most_stretch, 1 + (gaps > 0 ? rest / gaps : 0));
     double at = page_.left;
     for (std::size_t column = 0; column < places_.size(); ++column) {
         const double gap = Gap(column, text_size_) * stretch;
@@ -112,8 +115,8 @@ double Page_Table::Head_Height() const {
 }
 
 double Page_Table::Height() const {
-    return title_height + Head_Height() + static_cast<double>(table_.rows.size()) * line_height_ +
-           space_below;
+    return title_height_ + Head_Height() + static_cast<double>(table_.rows.size()) * line_height_ +
+           space_below_;
 }
 
 void Page_Table::Draw_Groups(Figure& figure, double line, const Chart_Colours& colours) const {
@@ -125,7 +128,7 @@ void Page_Table::Draw_Groups(Figure& figure, double line, const Chart_Colours& c
         }
         if (!group.empty()) {
             constexpr double gap = 6;
-            constexpr std::size_t wide_group = 4;
+            constexpr std::size_t wide_group = 3;
             const double room = places_[last].right - places_[column].left - gap;
             const bool is_wide = last - column >= wide_group;
             figure.Add(
@@ -163,7 +166,7 @@ void Page_Table::Draw(Figure& figure, double top, const Chart_Colours& colours) 
                            .size = table_title_size,
                            .colour = colours.ink,
                            .bold = true});
-    line += title_height;
+    line += title_height_;
     if (Has_Groups()) {
         Draw_Groups(figure, line, colours);
         line += Has_Titles() ? head_line : 0;

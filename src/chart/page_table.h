@@ -40,6 +40,8 @@ private:
     Figure_Box page_;
     double text_size_;
     double line_height_;
+    double title_height_ = 15;
+    double space_below_ = 10;
     std::vector<Place> places_;
 };
 
