@@ -302,8 +302,8 @@ private:
             std::vector<std::string> lines =
                 Wrapped(Numbered_Name(chart_, test) + ": " + comment, size);
             if (lines.size() > most_lines) {
-                lines[most_lines - 1] = Fitted_Text(lines[most_lines - 1] + lines[most_lines], size,
-                                                    false, content.Width());
+                lines[most_lines - 1] = Fitted_Text(lines[most_lines - 1] + " " + lines[most_lines],
+                                                    size, false, content.Width());
                 lines.resize(most_lines);
             }
             blocks.push_back({.height = static_cast<double>(lines.size()) * line,

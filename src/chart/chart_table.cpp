@@ -209,16 +209,15 @@ public:
             table_.rows.push_back({{.text = Lift_Text(row.lift, chart_.request.lift_unit)}});
         }
         for (const Chart_Side side : sides_) {
-            table_.title += table_.title.empty() ? "" : ", ";
-            table_.title += Name_Of(side);
+            table_.title += table_.title.empty() ? Name_Of(side) : " and exhaust";
             for (std::size_t place = 0; place < chart_.tests.size(); ++place) {
                 Add_Test(side, place);
             }
         }
-        if (chart_.tests.size() > 1) {
-            table_.title += " at equal lifts, with the gain over " +
-                            Numbered_Name(chart_, chart_.request.baseline);
-        }
+        table_.title += chart_.tests.size() == 1
+                            ? " from lift to lift"
+                            : " at equal lifts, with the gain over " +
+                                  Numbered_Name(chart_, chart_.request.baseline);
         return std::move(table_);
     }
 
