@@ -18,10 +18,10 @@ namespace kestrum::desktop {
 namespace {
 
 // Letters of the chart are set in points of paper; on a screen they want to be larger.
-constexpr double scale = 1.3;
+constexpr double screen_scale = 1.3;
 
 Figure_Point In_Chart(QPointF place) {
-    return {.x = place.x() / scale, .y = place.y() / scale};
+    return {.x = place.x() / screen_scale, .y = place.y() / screen_scale};
 }
 
 /// The chart's colours on the desktop's own ground.
@@ -69,8 +69,9 @@ void Chart_View::Show_Whole() {
 void Chart_View::Lay_Out() {
     style_.colours = Colours_Of_Desktop();
     constexpr double margin = 8;
-    layout_ = Layout_Of(chart_, style_,
-                        {margin, margin, width() / scale - margin, height() / scale - margin});
+    layout_ = Layout_Of(
+        chart_, style_,
+        {margin, margin, width() / screen_scale - margin, height() / screen_scale - margin});
     if (lift_ && (*lift_ < layout_.main.lifts.low || *lift_ > layout_.main.lifts.high)) {
         lift_.reset();
     }
@@ -89,8 +90,8 @@ void Chart_View::Paint_Ground() {
     ground_.setDevicePixelRatio(devicePixelRatioF());
     ground_.fill(QColor(QRgb(layout_.Colours().ground)));
     QPainter painter(&ground_);
-    painter.scale(scale, scale);
-    Figure figure(width() / scale, height() / scale);
+    painter.scale(screen_scale, screen_scale);
+    Figure figure(width() / screen_scale, height() / screen_scale);
     Draw_Curves(figure, layout_);
     painting::Paint_Figure(figure, painter);
 }
@@ -102,8 +103,8 @@ void Chart_View::paintEvent(QPaintEvent* /*event*/) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, ground_);
-    painter.scale(scale, scale);
-    Figure figure(width() / scale, height() / scale);
+    painter.scale(screen_scale, screen_scale);
+    Figure figure(width() / screen_scale, height() / screen_scale);
     if (lift_ && !chart_.tests.empty()) {
         Draw_Reading(figure, layout_, *lift_);
     } else {
@@ -150,7 +151,7 @@ Lift_Point Chart_View::Middle() const {
 void Chart_View::mouseMoveEvent(QMouseEvent* event) {
     if ((event->buttons() & Qt::LeftButton) != 0) {
         const Figure_Box& box = layout_.main.box;
-        const QPointF way = (event->position() - grip_) / scale;
+        const QPointF way = (event->position() - grip_) / screen_scale;
         grip_ = event->position();
         Move(-way.x() / box.Width(), way.y() / box.Height());
     }
