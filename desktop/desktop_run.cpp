@@ -76,13 +76,17 @@ bool Is_Done_By_Another(Running_Program& running, const Start_Options& options,
 
 /// What can wait until `Main` is to be seen.
 void Do_The_Rest_When_Painted(Program& program, Arrivals& arrivals, Running_Program& running,
-                              const Start_Options& options) {
+                              const Start_Options& options, const std::string& notice) {
     Screen_Window& window = *program.Its_Windows().Window_Of(program.Its_Session().Main());
     window.on_first_paint = [&, before = window.on_first_paint] {
         if (before) {
             before();
         }
         QApplication::setWindowIcon(Program_Icon());
+        if (!notice.empty()) {
+            program.Its_Gate().Enter(
+                [&] { program.Its_Session().Message(notice, Box_Icon::Exclamation); });
+        }
         program.Keep_Rescue_Copies();
         arrivals.Take(options);
         if (running.Handle() >= 0) {
@@ -93,18 +97,18 @@ void Do_The_Rest_When_Painted(Program& program, Arrivals& arrivals, Running_Prog
 
 int Run(const Start_Options& options, const Program_Hook& before_start) {
     Desktop_Dialogs dialogs;
-    std::string folder;
+    Program_Place place;
     try {
-        folder = Program_Folder(options);
+        place = Program_Folder(options);
     } catch (const Run_Time_Error& failure) {
         dialogs.Show_Box({.text = failure.Description(), .title = {}, .icon = Box_Icon::Stop});
         return 1;
     }
     Running_Program running;
-    if (Is_Done_By_Another(running, options, folder)) {
+    if (Is_Done_By_Another(running, options, place.folder)) {
         return 0;
     }
-    Program program(dialogs, Present_Surroundings(options, folder));
+    Program program(dialogs, Present_Surroundings(options, place.folder));
     dialogs.Set_Title(program.Its_Session().title_text);
     if (before_start) {
         before_start(program);
@@ -112,7 +116,7 @@ int Run(const Start_Options& options, const Program_Hook& before_start) {
     Arrivals arrivals(program);
     const Field_Tips tips(program);
     if (program.Start()) {
-        Do_The_Rest_When_Painted(program, arrivals, running, options);
+        Do_The_Rest_When_Painted(program, arrivals, running, options, place.notice);
         QApplication::exec();
     }
     return program.Exit_Status();

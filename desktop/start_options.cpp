@@ -4,6 +4,7 @@
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "desktop/text_bridge.h"
+#include "platform/running_program.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -31,20 +32,37 @@ bool Is_Portable(const QString& folder) {
            QFileInfo::exists(QDir(folder).filePath(QLatin1String(session_file)));
 }
 
-QString Wanted_Folder(const Start_Options& options) {
+/// The folder that is wanted, and whether somebody has named it.
+struct Wish {
+    QString folder;
+    bool is_asked_for = false;
+};
+
+Wish Wanted_Folder(const Start_Options& options) {
     if (!options.folder.empty()) {
-        return To_Qt(options.folder);
+        return {To_Qt(options.folder), true};
     }
     QString from_environment = qEnvironmentVariable("KESTRUM_FOLDER");
     if (!from_environment.isEmpty()) {
-        return from_environment;
+        return {from_environment, true};
     }
     QString own = QCoreApplication::applicationDirPath();
     if (Is_Portable(own)) {
-        return own;
+        return {own};
     }
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QLatin1String("/kestrum");
+    return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+            QLatin1String("/kestrum")};
+}
+
+/// A folder of this user's alone; empty when there is none to be had.
+QString Stand_In_Folder() {
+    const QString own = To_Qt(Meeting_Folder({}, From_Qt(QDir::tempPath())));
+    const QString folder = own + QLatin1String("/session");
+    return !own.isEmpty() && QDir().mkpath(folder) ? folder : QString();
+}
+
+std::string Native(const QString& path) {
+    return From_Qt(QDir::toNativeSeparators(path));
 }
 
 bool Is_Session_Switch(const std::string& argument) {
@@ -121,16 +139,24 @@ std::vector<std::string> Words_For_Running(const Start_Options& options) {
     return words;
 }
 
-std::string Program_Folder(const Start_Options& options) {
-    const QString folder = QDir::cleanPath(QFileInfo(Wanted_Folder(options)).absoluteFilePath());
-    if (!QDir().mkpath(folder)) {
+Program_Place Program_Folder(const Start_Options& options) {
+    const Wish wish = Wanted_Folder(options);
+    const QString folder = QDir::cleanPath(QFileInfo(wish.folder).absoluteFilePath());
+    if (QDir().mkpath(folder)) {
+        return {.folder = Native(folder), .notice = {}};
+    }
+    const QString stand_in = wish.is_asked_for ? QString() : Stand_In_Folder();
+    if (stand_in.isEmpty()) {
         throw Run_Time_Error(error::path_or_file_access,
-                             "The program's folder cannot be made:\r\n" +
-                                 From_Qt(QDir::toNativeSeparators(folder)) +
+                             "The program's folder cannot be made:\r\n" + Native(folder) +
                                  "\r\n\r\nStart the program with --folder and a folder that can "
                                  "be written to.");
     }
-    return From_Qt(QDir::toNativeSeparators(folder));
+    return {.folder = Native(stand_in),
+            .notice = "The program's folder cannot be made in your home:\r\n" + Native(folder) +
+                      "\r\n\r\nThis session and its rescue copies are kept among the temporary "
+                      "files, which the system clears:\r\n" +
+                      Native(stand_in) + "\r\n\r\nSave your tests to a place that stays."};
 }
 
 Surroundings Present_Surroundings(const Start_Options& options, const std::string& folder) {

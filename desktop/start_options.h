@@ -33,10 +33,18 @@ struct Start_Options {
 /// What a second start tells the program that runs already; `Options_From` reads it there.
 [[nodiscard]] std::vector<std::string> Words_For_Running(const Start_Options& options);
 
+/// The program's own folder, and what the user has to know of it.
+struct Program_Place {
+    std::string folder;
+    /// Empty when it is where it should be.
+    std::string notice;
+};
+
 /// The folder of session file, settings and choosers: the one asked for, that of a portable
-/// installation, or the user's data folder. It is made at need. Raises `Run_Time_Error` when it
-/// cannot be made or used.
-[[nodiscard]] std::string Program_Folder(const Start_Options& options);
+/// installation, or the user's data folder. It is made at need; without a home that can be written
+/// a private folder among the temporary files stands in. Raises `Run_Time_Error` when a folder that
+/// was asked for, or any, cannot be made.
+[[nodiscard]] Program_Place Program_Folder(const Start_Options& options);
 
 /// What the session finds around it.
 [[nodiscard]] Surroundings Present_Surroundings(const Start_Options& options,

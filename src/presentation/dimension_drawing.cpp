@@ -103,11 +103,12 @@ void Draw_Seat(Draughtsman& hand, int side) {
 }
 
 void Draw_Valve(Draughtsman& hand) {
-    Points half{{axis - 10, 70},  {axis - 10, 245},  {axis - 18, 268}, {axis - 42, 285},
-                {axis - 82, 294}, {axis - 106, 318}, {axis - 106, 326}};
+    const Points half{{axis - 10, 70},  {axis - 10, 245},  {axis - 18, 268}, {axis - 42, 285},
+                      {axis - 82, 294}, {axis - 106, 318}, {axis - 106, 326}};
     Points whole = half;
-    for (auto point = half.rbegin(); point != half.rend(); ++point) {
-        whole.push_back({2 * axis - point->x, point->y});
+    const Points back(half.rbegin(), half.rend());
+    for (const Figure_Point& point : back) {
+        whole.push_back({2 * axis - point.x, point.y});
     }
     hand.Metal(whole);
 }

@@ -42,6 +42,24 @@ TEST(Arguments, A_Switch_Is_A_Whole_Argument_And_All_Else_Is_A_File) {
     EXPECT_TRUE(Options_From(std::vector<std::string>{"--version"}).wants_version);
 }
 
+TEST(Program_Folder, Without_A_Home_Lies_Among_The_Temporary_Files_And_Says_So) {
+    const Temp_Folder folder;
+    const QByteArray data = qgetenv("XDG_DATA_HOME");
+    const QByteArray temporary = qgetenv("TMPDIR");
+    qputenv("XDG_DATA_HOME", "/proc/nowhere"); // not even the administrator can make it
+    qputenv("TMPDIR", folder.Path().c_str());
+    const Program_Place place = Program_Folder({});
+    EXPECT_TRUE(place.folder.starts_with(folder.File("kestrum-"))) << place.folder;
+    EXPECT_NE(place.notice.find("/proc/nowhere/kestrum"), std::string::npos) << place.notice;
+    Start_Options asked;
+    asked.folder = "/proc/nowhere";
+    EXPECT_EQ(Error_Of([&] { static_cast<void>(Program_Folder(asked)); }), 75);
+    asked.folder = folder.Path();
+    EXPECT_EQ(Program_Folder(asked).notice, "");
+    data.isEmpty() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", data);
+    temporary.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+}
+
 TEST(Arrivals, Files_Go_Into_The_Free_Sheets_And_The_Rest_Is_Named_In_One_Box) {
     Desktop_Bench bench;
     Arrivals arrivals(bench.program);
