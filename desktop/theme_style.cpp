@@ -115,6 +115,20 @@ void Paint_Frame(QPainter& painter, const QStyleOption& option) {
                 focused ? theme::Colours().accent : theme::Colours().line);
 }
 
+/// A button of a dialog.
+void Paint_Button(QPainter& painter, const QStyleOption& option) {
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool is_default =
+        button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
+    const bool strong = is_default || option.state.testFlag(QStyle::State_HasFocus);
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const Colour_Scheme& colours = theme::Colours();
+    Crisp(painter).Card(option.rect, theme::radius, strong ? colours.accent : colours.line,
+                        option.state.testFlag(QStyle::State_Sunken) ? colours.accent_soft
+                        : enabled                                   ? colours.card
+                                                                    : colours.window);
+}
+
 /// Where the parts of a scroll bar lie.
 struct Scroll_Bar {
     QRect back;
@@ -176,19 +190,27 @@ void Theme_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     if (element == PE_PanelLineEdit && dynamic_cast<const Control_View*>(widget) != nullptr) {
         return; // a cell paints its own back
     }
-    if (element == PE_Frame) {
-        Paint_Frame(*painter, *option);
-        return;
-    }
-    if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        return;
-    }
     painter->save();
-    if (element == PE_IndicatorCheckBox) {
+    switch (element) {
+    case PE_PanelMenu:
+        painter->fillRect(option->rect, QColor::fromRgb(theme::Colours().card));
+        [[fallthrough]];
+    case PE_Frame:
+    case PE_FrameLineEdit:
+        Paint_Frame(*painter, *option);
+        break;
+    case PE_PanelButtonCommand:
+        Paint_Button(*painter, *option);
+        break;
+    case PE_IndicatorCheckBox:
         Paint_Check_Box(*painter, Indicator_Of(*option));
-    } else {
+        break;
+    case PE_IndicatorRadioButton:
         Paint_Option(*painter, Indicator_Of(*option));
+        break;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        break;
     }
     painter->restore();
 }
