@@ -21,7 +21,7 @@ class Chart_Window : public QWidget {
 public:
     Chart_Window(Session& session, std::vector<Chart_Test> tests);
 
-    [[nodiscard]] const Chart_View& View() const { return *view_; }
+    [[nodiscard]] Chart_View& View() const { return *view_; }
 
 private:
     [[nodiscard]] QWidget* Side();
