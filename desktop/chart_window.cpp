@@ -117,9 +117,11 @@ Chart_Window::Chart_Window(Session& session, std::vector<Chart_Test> tests)
     settings_->changed = [this] { Show_Changes(); };
     constexpr QSize usual_size(1200, 760);
     resize(usual_size.boundedTo(screen()->availableSize()));
-    // A line for each test shows, if the chart leaves it.
-    constexpr int head_height = 104;
-    const int lines = head_height + static_cast<int>(tests_.size()) * row_height;
+    // A line for each of some tests shows; the chart wants the room.
+    constexpr int head_height = 92;
+    constexpr std::size_t most_lines = 5;
+    const int lines =
+        head_height + static_cast<int>(std::min(tests_.size(), most_lines)) * row_height;
     left->setSizes({height() - lines, lines});
     Show_Changes();
     view_->setFocus();
