@@ -20,9 +20,16 @@ endif()
 
 # What ships reads files of strangers: guards that Debian asks of every program.
 target_compile_options(kestrum_flags INTERFACE
-  "$<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
-target_link_options(kestrum_flags INTERFACE
-  "$<$<CONFIG:Release>:LINKER:-z,relro;LINKER:-z,now;LINKER:--as-needed>")
+  "$<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+if(WIN32)
+  # There the system itself touches each page of a stack as it grows; its linker's guards are others.
+  target_link_options(kestrum_flags INTERFACE
+    "$<$<CONFIG:Release>:-fstack-protector-strong;LINKER:--dynamicbase;LINKER:--nxcompat;LINKER:--high-entropy-va>")
+else()
+  target_compile_options(kestrum_flags INTERFACE "$<$<CONFIG:Release>:-fstack-clash-protection>")
+  target_link_options(kestrum_flags INTERFACE
+    "$<$<CONFIG:Release>:LINKER:-z,relro;LINKER:-z,now;LINKER:--as-needed>")
+endif()
 
 if(KESTRUM_SANITIZE)
   set(sanitizers -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all

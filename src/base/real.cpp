@@ -1,5 +1,7 @@
 #include "base/real.h"
 
+#include "base/exact_functions.h"
+
 namespace kestrum {
 
 Real Power(Real base, Real exponent) {
@@ -10,7 +12,8 @@ Real Power(Real base, Real exponent) {
     if (base == 0 && exponent < 0) {
         Fail(error::division_by_zero);
     }
-    const double result = std::pow(base.Value(), exponent.Value());
+    const double result = base > 0 ? Exact_Power(base.Value(), exponent.Value())
+                                   : std::pow(base.Value(), exponent.Value());
     if (!std::isfinite(result)) {
         Fail(error::overflow);
     }

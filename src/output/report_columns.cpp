@@ -6,14 +6,14 @@
 
 namespace kestrum {
 
-namespace {
-
 /// A column that no sheet has: it is worked out for the report from a velocity.
 struct Energy_Column {
     Energy_Formula formula = nullptr;
     /// Its three heading lines.
     std::array<std::string_view, 3> heading{};
 };
+
+namespace {
 
 constexpr int head_row = 12; // names of the groups, above the headings
 

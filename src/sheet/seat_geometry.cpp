@@ -1,6 +1,6 @@
 #include "sheet/seat_geometry.h"
 
-#include <cmath>
+#include "base/exact_functions.h"
 
 namespace kestrum {
 
@@ -20,10 +20,10 @@ void Seat_Geometry_Setup(const Numeric_Text& numbers, const Valve_Side& side, co
     // The seat's own width is taken as typed in both unit systems.
     seat.angle = numbers(side.seat_angle);
     seat.width = numbers(side.seat_width);
-    const Real radians = seat.angle * degree;
-    seat.sine = std::sin(radians.Value());
-    seat.cosine = std::cos(radians.Value());
-    seat.tangent = std::tan(radians.Value());
+    const Circle_Figures figures = Exact_Circle((seat.angle * degree).Value());
+    seat.sine = figures.sine;
+    seat.cosine = figures.cosine;
+    seat.tangent = figures.tangent;
     seat.radial = seat.cosine * seat.width;
 }
 
