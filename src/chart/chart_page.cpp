@@ -140,12 +140,14 @@ private:
         const auto room = [&](const std::string& beside, double size, bool bold) {
             return right - content.left - Figure_Text_Width(beside, size, bold) - gap;
         };
-        Put(page, {.x = content.left,
-                   .y = title_line,
-                   .text = Fitted_Text(Title(), title_size, true, room(shop, shop_size, true)),
-                   .size = title_size,
-                   .colour = colours_.ink,
-                   .bold = true});
+        Put_Within(page,
+                   {.x = content.left,
+                    .y = title_line,
+                    .text = Title(),
+                    .size = title_size,
+                    .colour = colours_.ink,
+                    .bold = true},
+                   room(shop, shop_size, true));
         Put(page, {.x = right,
                    .y = title_line,
                    .text = shop,
@@ -153,12 +155,13 @@ private:
                    .colour = colours_.ink,
                    .bold = true,
                    .anchor = Text_Anchor::Right});
-        Put(page,
-            {.x = content.left,
-             .y = under_line,
-             .text = Fitted_Text(Under_Title(), line_size, false, room(line, line_size, false)),
-             .size = line_size,
-             .colour = colours_.quiet});
+        Put_Within(page,
+                   {.x = content.left,
+                    .y = under_line,
+                    .text = Under_Title(),
+                    .size = line_size,
+                    .colour = colours_.quiet},
+                   room(line, line_size, false));
         Put(page, {.x = right,
                    .y = under_line,
                    .text = line,
@@ -166,6 +169,17 @@ private:
                    .colour = colours_.quiet,
                    .anchor = Text_Anchor::Right});
         page.Line({content.left, margin + 37}, {content.right, margin + 37}, colours_.ink, 1);
+    }
+
+    /// In smaller letters where it has to be, and cut only where these do not help.
+    static void Put_Within(Figure& page, Figure_Text text, double room) {
+        constexpr double most_smaller = 0.68;
+        const double width = Figure_Text_Width(text.text, text.size, text.bold);
+        if (width > room) {
+            text.size *= std::max(most_smaller, room / width);
+        }
+        text.text = Fitted_Text(text.text, text.size * (1 - 1e-9), text.bold, room);
+        Put(page, std::move(text));
     }
 
     static void Put(Figure& page, Figure_Text text) {
@@ -187,7 +201,12 @@ public:
                  .gain_in_percent = style.gain_in_percent,
                  .gain_side = style.gain_side,
                  .part = {}},
-          frame_(chart, head, style_.colours) {}
+          frame_(chart, head, style_.colours) {
+        if (!chart.tests.empty()) {
+            Make_Tables();
+            Take_Comments();
+        }
+    }
 
     [[nodiscard]] std::vector<Figure> Make() {
         constexpr double least_chart = 255;
@@ -261,68 +280,72 @@ private:
     /// The tables and comments of the tests in their order.
     [[nodiscard]] std::vector<Page_Block> Blocks(const Room_Saving& saving) const {
         std::vector<Page_Block> blocks;
-        if (chart_.tests.empty()) {
-            return blocks;
+        for (const Page_Table& table : tables_) {
+            blocks.push_back({.height = table.Height(saving.is_tight),
+                              .draw = [&table, saving, this](Figure& page, double top) {
+                                  table.Draw(page, top, style_.colours, saving.is_tight);
+                              }});
         }
-        const auto add = [&](Chart_Table texts) {
-            Page_Table table(std::move(texts), content);
-            if (saving.is_tight) {
-                table.Tighten();
-            }
-            blocks.push_back(
-                {.height = table.Height(), .draw = [table, this](Figure& page, double top) {
-                     table.Draw(page, top, style_.colours);
-                 }});
-        };
-        add(Summary_Table(chart_, Table_Detail::Page));
-        const std::vector<Chart_Side> sides = Sides_With_Points(chart_);
-        constexpr std::size_t most_side_by_side = 2;
-        if (chart_.tests.size() <= most_side_by_side) {
-            add(Lift_Table(chart_, sides, Table_Detail::Page));
-        } else {
-            for (const Chart_Side side : sides) {
-                add(Lift_Table(chart_, std::array{side}, Table_Detail::Page));
-            }
+        for (const std::vector<std::string>& comment : comments_) {
+            blocks.push_back(Comment_Block(comment, saving));
         }
-        Add_Comments(blocks, saving);
         return blocks;
     }
 
-    void Add_Comments(std::vector<Page_Block>& blocks, const Room_Saving& saving) const {
-        constexpr double size = 7.5;
-        const std::size_t most_lines = saving.comment_lines;
+    [[nodiscard]] Page_Block Comment_Block(std::vector<std::string> lines,
+                                           const Room_Saving& saving) const {
+        const std::size_t most = saving.comment_lines;
+        if (lines.size() > most) {
+            lines[most - 1] = Fitted_Text(lines[most - 1] + " " + lines[most], comment_size, false,
+                                          content.Width());
+            lines.resize(most);
+        }
         const double line = saving.is_tight ? 9 : 10;
+        return {.height = static_cast<double>(lines.size()) * line,
+                .draw = [lines, line, this](Figure& page, double top) {
+                    for (const std::string& text : lines) {
+                        page.Add(Figure_Text{.x = content.left,
+                                             .y = top + comment_size,
+                                             .text = text,
+                                             .size = comment_size,
+                                             .colour = style_.colours.quiet});
+                        top += line;
+                    }
+                }};
+    }
+
+    void Make_Tables() {
+        tables_.emplace_back(Summary_Table(chart_, Table_Detail::Page), content);
+        const std::vector<Chart_Side> sides = Sides_With_Points(chart_);
+        constexpr std::size_t most_side_by_side = 2;
+        if (chart_.tests.size() <= most_side_by_side) {
+            tables_.emplace_back(Lift_Table(chart_, sides, Table_Detail::Page), content);
+            return;
+        }
+        for (const Chart_Side side : sides) {
+            tables_.emplace_back(Lift_Table(chart_, std::array{side}, Table_Detail::Page), content);
+        }
+    }
+
+    void Take_Comments() {
         for (std::size_t test = 0; test < chart_.tests.size(); ++test) {
             std::string comment(Without_Outer_Blanks(chart_.tests[test].comment));
             std::ranges::replace_if(
                 comment, [](char letter) { return static_cast<unsigned char>(letter) < ' '; }, ' ');
-            if (comment.empty()) {
-                continue;
+            if (!comment.empty()) {
+                comments_.push_back(
+                    Wrapped(Numbered_Name(chart_, test) + ": " + comment, comment_size));
             }
-            std::vector<std::string> lines =
-                Wrapped(Numbered_Name(chart_, test) + ": " + comment, size);
-            if (lines.size() > most_lines) {
-                lines[most_lines - 1] = Fitted_Text(lines[most_lines - 1] + " " + lines[most_lines],
-                                                    size, false, content.Width());
-                lines.resize(most_lines);
-            }
-            blocks.push_back({.height = static_cast<double>(lines.size()) * line,
-                              .draw = [lines, line, this](Figure& page, double top) {
-                                  for (const std::string& text : lines) {
-                                      page.Add(Figure_Text{.x = content.left,
-                                                           .y = top + size,
-                                                           .text = text,
-                                                           .size = size,
-                                                           .colour = style_.colours.quiet});
-                                      top += line;
-                                  }
-                              }});
         }
     }
+
+    static constexpr double comment_size = 7.5;
 
     const Chart& chart_;
     Chart_Style style_;
     Page_Frame frame_;
+    std::vector<Page_Table> tables_;
+    std::vector<std::vector<std::string>> comments_; // their lines
     std::vector<Figure> pages_;
 };
 

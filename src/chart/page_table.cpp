@@ -11,10 +11,17 @@ constexpr double head_line = 10;
 constexpr double rule_room = 12;
 constexpr double largest_text = 8;
 constexpr double smallest_text = 5;
-constexpr double usual_line = 12;
-constexpr double tight_line = 8.6;
-constexpr double tight_title = 13;
-constexpr double tight_space = 5;
+
+/// Heights of a table's parts.
+struct Table_Heights {
+    double title;
+    double line;
+    double below;
+};
+
+constexpr Table_Heights usual_table{.title = 15, .line = 12, .below = 10};
+constexpr Table_Heights tight_table{.title = 13, .line = 8.6, .below = 5};
+
 constexpr double most_name = 0.2; // of the page's width
 
 /// Lines that a reader still takes in.
@@ -26,19 +33,15 @@ Page_Table::Page_Table(Chart_Table table, const Figure_Box& page)
     : table_(std::move(table)),
       page_(page),
       text_size_(largest_text),
-      line_height_(usual_line),
       places_(table_.columns.size()) {
     if (table_.rows.size() > most_rows) {
         table_.rows.resize(most_rows);
         table_.title += ", the first lifts of more";
     }
+    for (std::size_t column = 0; column < places_.size(); ++column) {
+        widths_.push_back(Widest(column));
+    }
     Place_Columns();
-}
-
-void Page_Table::Tighten() {
-    line_height_ = tight_line;
-    title_height_ = tight_title;
-    space_below_ = tight_space;
 }
 
 /// Titles below groups; beside groups alone they need no line.
@@ -53,14 +56,18 @@ bool Page_Table::Has_Groups() const {
                                [](const Table_Column& column) { return !column.group.empty(); });
 }
 
-double Page_Table::Text_Width(std::size_t column, double size) const {
-    const std::string& title = table_.columns[column].title;
+Page_Table::Width Page_Table::Widest(std::size_t column) const {
     constexpr std::string_view least = "+00"; // of a column without figures
-    double width =
-        std::max(Figure_Text_Width(title, size - 1, false), Figure_Text_Width(least, size, false));
+    Width width{.text = Figure_Text_Width(least, 1, false),
+                .title = Figure_Text_Width(table_.columns[column].title, 1, false)};
     for (const std::vector<Table_Cell>& row : table_.rows) {
-        width = std::max(width, Figure_Text_Width(row[column].text, size, row[column].bold));
+        width.text = std::max(width.text, Figure_Text_Width(row[column].text, 1, row[column].bold));
     }
+    return width;
+}
+
+double Page_Table::Text_Width(std::size_t column, double size) const {
+    const double width = std::max(widths_[column].text * size, widths_[column].title * (size - 1));
     return column == 0 ? std::min(width, page_.Width() * most_name) : width;
 }
 
@@ -109,14 +116,15 @@ void Page_Table::Place_Columns() {
     }
 }
 
-double Page_Table::Head_Height() const {
+double Page_Table::Head_Height(double line_height) const {
     return head_line * ((Has_Titles() ? 1 : 0) + (Has_Groups() ? 1 : 0)) + rule_room - head_line +
-           line_height_;
+           line_height;
 }
 
-double Page_Table::Height() const {
-    return title_height_ + Head_Height() + static_cast<double>(table_.rows.size()) * line_height_ +
-           space_below_;
+double Page_Table::Height(bool is_tight) const {
+    const Table_Heights& heights = is_tight ? tight_table : usual_table;
+    return heights.title + Head_Height(heights.line) +
+           static_cast<double>(table_.rows.size()) * heights.line + heights.below;
 }
 
 void Page_Table::Draw_Groups(Figure& figure, double line, const Chart_Colours& colours) const {
@@ -158,7 +166,9 @@ void Page_Table::Draw_Head(Figure& figure, double line, const Chart_Colours& col
     }
 }
 
-void Page_Table::Draw(Figure& figure, double top, const Chart_Colours& colours) const {
+void Page_Table::Draw(Figure& figure, double top, const Chart_Colours& colours,
+                      bool is_tight) const {
+    const Table_Heights& heights = is_tight ? tight_table : usual_table;
     double line = top + table_title_size;
     figure.Add(Figure_Text{.x = page_.left,
                            .y = line,
@@ -166,7 +176,7 @@ void Page_Table::Draw(Figure& figure, double top, const Chart_Colours& colours) 
                            .size = table_title_size,
                            .colour = colours.ink,
                            .bold = true});
-    line += title_height_;
+    line += heights.title;
     if (Has_Groups()) {
         Draw_Groups(figure, line, colours);
         line += Has_Titles() ? head_line : 0;
@@ -174,7 +184,7 @@ void Page_Table::Draw(Figure& figure, double top, const Chart_Colours& colours) 
     Draw_Head(figure, line, colours);
     constexpr double rule_drop = 4;
     figure.Line({page_.left, line + rule_drop}, {page_.right, line + rule_drop}, colours.rule, 0.6);
-    line += rule_room - head_line + line_height_;
+    line += rule_room - head_line + heights.line;
     for (const std::vector<Table_Cell>& row : table_.rows) {
         for (std::size_t column = 0; column < row.size(); ++column) {
             const Table_Cell& cell = row[column];
@@ -192,7 +202,7 @@ void Page_Table::Draw(Figure& figure, double top, const Chart_Colours& colours) 
                 .bold = cell.bold,
                 .anchor = is_first ? Text_Anchor::Left : Text_Anchor::Right});
         }
-        line += line_height_;
+        line += heights.line;
     }
 }
 

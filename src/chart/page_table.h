@@ -14,12 +14,10 @@ class Page_Table {
 public:
     Page_Table(Chart_Table table, const Figure_Box& page);
 
-    /// With less room between its lines.
-    void Tighten();
-
-    [[nodiscard]] double Height() const;
+    /// A tight one has less room between its lines.
+    [[nodiscard]] double Height(bool is_tight) const;
     /// Draws it from a height down.
-    void Draw(Figure& figure, double top, const Chart_Colours& colours) const;
+    void Draw(Figure& figure, double top, const Chart_Colours& colours, bool is_tight) const;
 
 private:
     struct Place {
@@ -27,21 +25,26 @@ private:
         double right = 0;
     };
 
+    /// Of the widest text and of the title, in letters of size 1.
+    struct Width {
+        double text = 0;
+        double title = 0;
+    };
+
+    [[nodiscard]] Width Widest(std::size_t column) const;
     [[nodiscard]] double Text_Width(std::size_t column, double size) const;
     [[nodiscard]] double Gap(std::size_t column, double size) const;
     void Place_Columns();
     [[nodiscard]] bool Has_Titles() const;
     [[nodiscard]] bool Has_Groups() const;
-    [[nodiscard]] double Head_Height() const;
+    [[nodiscard]] double Head_Height(double line_height) const;
     void Draw_Head(Figure& figure, double line, const Chart_Colours& colours) const;
     void Draw_Groups(Figure& figure, double line, const Chart_Colours& colours) const;
 
     Chart_Table table_;
     Figure_Box page_;
     double text_size_;
-    double line_height_;
-    double title_height_ = 15;
-    double space_below_ = 10;
+    std::vector<Width> widths_;
     std::vector<Place> places_;
 };
 
