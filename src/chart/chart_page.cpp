@@ -60,14 +60,21 @@ public:
         constexpr double foot_size = 7;
         Put(page, {.x = content.left,
                    .y = page_height - margin + foot_size,
-                   .text = "Each curve runs through its measured points and overshoots none of "
-                           "them. Gains compare equal lifts at equal pressure.",
+                   .text = Foot(),
                    .size = foot_size,
                    .colour = colours_.quiet});
         return page;
     }
 
 private:
+    [[nodiscard]] std::string Foot() const {
+        return std::string(Sides_With_Points(chart_).size() > 1
+                               ? "Thick lines are the intake, thin lines the exhaust. "
+                               : "") +
+               "Curves run through all measured points and overshoot none. Gains compare equal "
+               "lifts at equal pressure.";
+    }
+
     [[nodiscard]] std::string Title() const {
         if (!head_.title.empty()) {
             return head_.title;
@@ -93,9 +100,6 @@ private:
         }
         if (chart_.tests.size() > 1) {
             parts.push_back("Baseline " + Numbered_Name(chart_, chart_.request.baseline));
-        }
-        if (Sides_With_Points(chart_).size() > 1) {
-            parts.emplace_back("Thick lines intake, thin lines exhaust");
         }
         std::string words;
         for (const std::string& part : parts) {
