@@ -69,10 +69,9 @@ public:
 private:
     [[nodiscard]] std::string Foot() const {
         return std::string(Sides_With_Points(chart_).size() > 1
-                               ? "Thick lines are the intake, thin lines the exhaust. "
+                               ? "Thick lines: intake, thin lines: exhaust. "
                                : "") +
-               "Curves run through all measured points and overshoot none. Gains compare equal "
-               "lifts at equal pressure.";
+               "Curves overshoot no measured point. Gains compare equal lifts and pressures.";
     }
 
     [[nodiscard]] std::string Title() const {
