@@ -5,8 +5,9 @@
 #include "desktop/theme.h"
 
 #include <QColor>
+#include <QFont>
 
-#include <tuple>
+#include <algorithm>
 #include <utility>
 
 namespace kestrum::desktop {
@@ -14,53 +15,126 @@ namespace kestrum::desktop {
 namespace {
 
 const Library_Column& Column_At(int column) {
-    return Library_Columns()[static_cast<std::size_t>(column)];
+    return *Window_Columns()[static_cast<std::size_t>(column)];
 }
 
-QString Words_Of(const Library_Value& value) {
+/// Figures of one column stand with equal places below each other, given ones as they are.
+std::string Text_Of(std::string_view column, double number) {
+    constexpr int places = 3;
+    if (column == "port_volume" || column == "pressure" || column == "points") {
+        return Bare_Text(number, places);
+    }
+    const bool is_flow = column.ends_with("_peak") || column.ends_with("_mean");
+    return Fixed_Text(number, is_flow ? 1 : places);
+}
+
+QString Words_Of(const Library_Column& column, const Library_Value& value) {
     if (const auto* const text = std::get_if<std::string>(&value)) {
-        return To_Qt(*text);
+        return column.name == "date"
+                   ? To_Qt(*text).replace(QLatin1Char('T'), QLatin1Char(' ')).left(16)
+                   : To_Qt(*text);
     }
     const auto* const number = std::get_if<double>(&value);
-    constexpr int decimals = 3;
-    return number != nullptr ? To_Qt(Bare_Text(*number, decimals)) : QString();
-}
-
-bool Is_Missing(const Library_Value& value) {
-    return std::holds_alternative<std::monostate>(value);
+    return number != nullptr ? To_Qt(Text_Of(column.name, *number)) : QString();
 }
 
 } // namespace
 
-void Library_Model::Set_Entries(std::vector<Library_Entry> entries) {
+void Library_Model::Set_Files(Entries files) {
     beginResetModel();
-    entries_ = std::move(entries);
+    files_ = std::move(files);
+    Arrange();
     endResetModel();
 }
 
+void Library_Model::Set_Sheets(std::vector<Library_Entry> sheets) {
+    beginResetModel();
+    sheets_ = std::move(sheets);
+    Arrange();
+    endResetModel();
+}
+
+void Library_Model::Set_Words(const QString& words) {
+    beginResetModel();
+    order_.words = Lower_Words(From_Qt(words.simplified()));
+    Arrange();
+    endResetModel();
+}
+
+void Library_Model::Set_Groups(bool by_port_volume) {
+    beginResetModel();
+    order_.by_port_volume = by_port_volume;
+    Arrange();
+    endResetModel();
+}
+
+void Library_Model::sort(int column, Qt::SortOrder order) {
+    beginResetModel();
+    order_.sort = column < 0 ? nullptr : &Column_At(column);
+    order_.descending = order == Qt::DescendingOrder;
+    Arrange();
+    endResetModel();
+}
+
+void Library_Model::Arrange() {
+    rows_ = Rows_In_Order(sheets_, *files_, order_);
+    shown_tests_ = static_cast<int>(
+        std::ranges::count_if(rows_, [](const Library_Row& row) { return row.entry != nullptr; }));
+}
+
+int Library_Model::All_Tests() const {
+    return static_cast<int>(sheets_.size() + files_->size());
+}
+
+const Library_Entry* Library_Model::Entry(int row) const {
+    return rows_[static_cast<std::size_t>(row)].entry;
+}
+
+int Library_Model::Place_Of(std::string_view column) {
+    const auto columns = Window_Columns();
+    const auto found = std::ranges::find(columns, column, &Library_Column::name);
+    return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
+}
+
 int Library_Model::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(entries_.size());
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
 int Library_Model::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(Library_Columns().size());
+    return parent.isValid() ? 0 : static_cast<int>(Window_Columns().size());
+}
+
+QVariant Library_Model::Heading_Data(int row, int column, int role) const {
+    if (role == Qt::DisplayRole && column == 0) {
+        return To_Qt(rows_[static_cast<std::size_t>(row)].heading);
+    }
+    if (role == Qt::FontRole) {
+        QFont bold;
+        bold.setBold(true);
+        return bold;
+    }
+    return role == Qt::BackgroundRole ? QVariant(QColor::fromRgb(theme::Colours().accent_soft))
+                                      : QVariant();
 }
 
 QVariant Library_Model::data(const QModelIndex& index, int role) const {
-    const Library_Entry& entry = Entry(index.row());
+    const Library_Entry* const entry = Entry(index.row());
+    if (entry == nullptr) {
+        return Heading_Data(index.row(), index.column(), role);
+    }
     const Library_Column& column = Column_At(index.column());
-    const bool says_problem = entry.problem && column.name == "name";
     switch (role) {
     case Qt::DisplayRole:
-        return says_problem ? To_Qt(*entry.problem) : Words_Of(Value_In(column, entry));
+        return entry->problem && column.name == "name" ? To_Qt(*entry->problem)
+                                                       : Words_Of(column, Value_In(column, *entry));
     case Qt::ToolTipRole:
-        return entry.problem ? To_Qt(*entry.problem) : To_Qt(entry.file);
+        return To_Qt(entry->problem ? entry->file + "\n" + *entry->problem : entry->file);
     case Qt::TextAlignmentRole:
-        return QVariant(std::holds_alternative<double>(Value_In(column, entry))
+        return QVariant(std::holds_alternative<double>(Value_In(column, *entry))
                             ? Qt::AlignRight | Qt::AlignVCenter
                             : Qt::AlignLeft | Qt::AlignVCenter);
     case Qt::ForegroundRole:
-        return entry.problem ? QVariant(QColor::fromRgb(theme::Colours().failure)) : QVariant();
+        return entry->problem ? QVariant(QColor::fromRgb(theme::Colours().failure)) : QVariant();
     default:
         return {};
     }
@@ -73,26 +147,10 @@ QVariant Library_Model::headerData(int section, Qt::Orientation orientation, int
     return QAbstractTableModel::headerData(section, orientation, role);
 }
 
-void Library_Order::Set_Words(const QString& words) {
-    words_ = Lower_Words(From_Qt(words));
-    invalidateFilter();
-}
-
-bool Library_Order::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
-    return words_.empty() || Holds_Words(model_.Entry(row), words_);
-}
-
-bool Library_Order::lessThan(const QModelIndex& left, const QModelIndex& right) const {
-    const Library_Column& column = Column_At(left.column());
-    const Library_Entry& a = model_.Entry(left.row());
-    const Library_Entry& b = model_.Entry(right.row());
-    const Library_Value first = Value_In(column, a);
-    const Library_Value second = Value_In(column, b);
-    if (Is_Missing(first) != Is_Missing(second)) {
-        // Last in both directions.
-        return Is_Missing(second) == (sortOrder() == Qt::AscendingOrder);
-    }
-    return std::tie(first, a.file) < std::tie(second, b.file);
+Qt::ItemFlags Library_Model::flags(const QModelIndex& index) const {
+    const bool is_test = index.isValid() && Entry(index.row()) != nullptr;
+    return is_test ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled
+                   : Qt::ItemIsEnabled;
 }
 
 } // namespace kestrum::desktop

@@ -1,27 +1,26 @@
 #include "desktop/library_window.h"
 
-#include "base/text.h"
 #include "desktop/chart_window.h"
+#include "desktop/library_opening.h"
 #include "desktop/text_bridge.h"
 #include "desktop/theme.h"
 #include "library/test_reader.h"
 #include "platform/file_store.h"
 
+#include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QMenu>
-#include <QPointer>
+#include <QScreen>
+#include <QToolButton>
 #include <QVBoxLayout>
 
-#include <set>
+#include <algorithm>
 
 namespace kestrum::desktop {
 
 namespace {
 
-/// Kept in the place of a format: such a row has no file.
-constexpr std::string_view open_sheet = "Flow Test ";
+using std::chrono::milliseconds;
 
 QPushButton* Button(const char* words, QWidget* parent) {
     auto* const button = new QPushButton(QString::fromLatin1(words), parent);
@@ -29,53 +28,62 @@ QPushButton* Button(const char* words, QWidget* parent) {
     return button;
 }
 
+/// How long the list rests before the folder is looked at again: so that a large folder or a slow
+/// disk has little to do for it.
+milliseconds Rest_After(std::chrono::steady_clock::duration reading) {
+    constexpr milliseconds least{2000};
+    constexpr milliseconds most{60000};
+    constexpr int times = 20;
+    return std::clamp(std::chrono::duration_cast<milliseconds>(reading * times), least, most);
+}
+
 } // namespace
 
 Library_Window::Library_Window(Session& session, Gate& gate)
-    : session_(session), gate_(gate), order_(model_) {
+    : session_(session), gate_(gate), notes_(Read_Library_Notes(session.surroundings.folder)) {
     setWindowTitle(QStringLiteral("Library of flow tests"));
     setObjectName(QStringLiteral("Library"));
     setAttribute(Qt::WA_QuitOnClose, false);
     Make_Content();
-    constexpr int look_milliseconds = 40;
-    constexpr int settle_milliseconds = 700;
-    look_.setInterval(look_milliseconds);
-    read_again_.setSingleShot(true);
-    read_again_.setInterval(settle_milliseconds);
-    connect(&look_, &QTimer::timeout, this, [this] { Look_At_Reading(); });
-    connect(&read_again_, &QTimer::timeout, this, [this] { Read_Again(); });
-    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this,
-            [this] { read_again_.start(); });
-    try {
-        Open_Folder(To_Qt(Without_Outer_Blanks(Read_Whole_File(Note_File()))));
-    } catch (const Run_Time_Error&) {
-        Read_Again(); // no folder was chosen yet: the open sheets alone
+    Connect_Timers();
+    if (!notes_.folder.empty()) {
+        Open_Folder(To_Qt(notes_.folder));
     }
 }
 
-std::string Library_Window::Note_File() const {
-    return Join_Path(session_.surroundings.folder, "library-folder.txt");
+void Library_Window::Connect_Timers() {
+    constexpr int look_milliseconds = 30;
+    look_.setInterval(look_milliseconds);
+    read_again_.setSingleShot(true);
+    connect(&look_, &QTimer::timeout, this, [this] { Look_At_Reading(); });
+    connect(&read_again_, &QTimer::timeout, this, [this] {
+        if (isVisible()) {
+            Show_Sheets();
+            Start_Reading(false);
+        }
+    });
 }
 
 void Library_Window::Make_Content() {
-    constexpr QSize usual_size(1180, 640);
+    constexpr QSize usual_size(1240, 640);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(theme::page_margin, theme::page_margin, theme::page_margin,
                                theme::page_margin);
     layout->addLayout(Folder_Row());
-    words_ = new QLineEdit(this);
-    words_->setPlaceholderText(QStringLiteral("Filter by name, file or format"));
-    words_->setClearButtonEnabled(true);
-    words_->setAccessibleName(QStringLiteral("Filter"));
-    layout->addWidget(words_);
-    Make_Table();
+    table_ = new Library_Table(model_, notes_.hidden_columns, this);
+    table_->on_columns = [this](const std::set<std::string>& hidden) {
+        notes_.hidden_columns = hidden;
+        Keep_Notes();
+    };
+    table_->on_sort = [this](int column, Qt::SortOrder order) {
+        Change_List([&] { model_.sort(column, order); });
+    };
+    connect(table_, &QTableView::doubleClicked, this,
+            [this] { Open_Current_In(sheet_->currentIndex()); });
+    layout->addLayout(Look_Row());
     layout->addWidget(table_, 1);
     layout->addLayout(Foot_Row());
-    connect(words_, &QLineEdit::textChanged, this, [this](const QString& words) {
-        order_.Set_Words(words);
-        Look_At_Reading();
-    });
-    resize(usual_size);
+    resize(usual_size.boundedTo(screen()->availableSize() * 0.95));
     words_->setFocus();
 }
 
@@ -86,6 +94,7 @@ QLayout* Library_Window::Folder_Row() {
     path_->setPlaceholderText(QStringLiteral("No folder chosen"));
     path_->setAccessibleName(QStringLiteral("Folder"));
     metric_ = new QCheckBox(QStringLiteral("Numbers of .dat files are metric"), this);
+    metric_->setToolTip(QStringLiteral("These files do not say it. Remembered for this folder."));
     auto* const choose = Button("Choose &Folder...", this);
     auto* const again = Button("&Read Again", this);
     row->addWidget(choose);
@@ -93,171 +102,205 @@ QLayout* Library_Window::Folder_Row() {
     row->addWidget(metric_);
     row->addWidget(again);
     connect(choose, &QPushButton::clicked, this, [this] { Choose_Folder(); });
-    connect(again, &QPushButton::clicked, this, [this] { Read_Again(); });
-    connect(metric_, &QCheckBox::toggled, this, [this] { Read_Again(); });
+    connect(again, &QPushButton::clicked, this, [this] {
+        is_known_ = false;
+        Start_Reading(true);
+    });
+    connect(metric_, &QCheckBox::clicked, this, [this](bool metric) { Choose_Units(metric); });
     return row;
 }
 
-void Library_Window::Make_Table() {
-    table_ = new QTableView(this);
-    table_->setModel(&order_);
-    table_->setAccessibleName(QStringLiteral("Tests"));
-    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    table_->setSortingEnabled(true);
-    table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    table_->horizontalHeader()->setSectionsMovable(true);
-    table_->horizontalHeader()->setContextMenuPolicy(Qt::ActionsContextMenu);
-    table_->verticalHeader()->hide();
-    table_->setAlternatingRowColors(true);
-    table_->setWordWrap(false);
-    constexpr int row_height = 24;
-    table_->verticalHeader()->setDefaultSectionSize(row_height);
-    // The columns are chosen in the menu of their head.
-    for (int column = 0; column < model_.columnCount({}); ++column) {
-        auto* const shows =
-            new QAction(model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
-                        table_->horizontalHeader());
-        shows->setCheckable(true);
-        shows->setChecked(true);
-        connect(shows, &QAction::toggled, table_,
-                [this, column](bool on) { table_->setColumnHidden(column, !on); });
-        table_->horizontalHeader()->addAction(shows);
-        constexpr int wide = 190;
-        constexpr int narrow = 92;
-        const std::string_view name = Library_Columns()[static_cast<std::size_t>(column)].name;
-        const bool is_wide = name == "file" || name == "name" || name == "date";
-        table_->setColumnWidth(column, is_wide ? wide : narrow);
-    }
-    connect(table_, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& index) { Open_In_Sheet(order_.Entry(index.row())); });
+QLayout* Library_Window::Look_Row() {
+    auto* const row = new QHBoxLayout;
+    words_ = new QLineEdit(this);
+    words_->setPlaceholderText(QStringLiteral("Filter: words of name, part number, file, format, "
+                                              "date or problem"));
+    words_->setClearButtonEnabled(true);
+    words_->setAccessibleName(QStringLiteral("Filter"));
+    auto* const groups = new QCheckBox(QStringLiteral("&Group by port volume"), this);
+    groups->setChecked(notes_.by_port_volume);
+    model_.Set_Groups(notes_.by_port_volume);
+    auto* const columns = new QToolButton(this);
+    columns->setText(QStringLiteral("Columns"));
+    columns->setPopupMode(QToolButton::InstantPopup);
+    columns->setMenu(table_->Column_Menu());
+    row->addWidget(words_, 1);
+    row->addWidget(groups);
+    row->addWidget(columns);
+    connect(words_, &QLineEdit::textChanged, this,
+            [this](const QString& words) { Change_List([&] { model_.Set_Words(words); }); });
+    connect(groups, &QCheckBox::toggled, this, [this](bool on) {
+        notes_.by_port_volume = on;
+        Keep_Notes();
+        Change_List([&] { model_.Set_Groups(on); });
+    });
+    return row;
 }
 
 QLayout* Library_Window::Foot_Row() {
     auto* const row = new QHBoxLayout;
     count_ = new QLabel(this);
+    count_->setWordWrap(true);
     progress_ = new QProgressBar(this);
     cancel_ = Button("Cancel", this);
     sheet_ = new QComboBox(this);
     sheet_->setAccessibleName(QStringLiteral("Sheet for a test"));
+    sheet_->addItem(QStringLiteral("Next Free Sheet"));
     for (int number = 1; number <= sheet_count; ++number) {
         sheet_->addItem(QStringLiteral("Flow Test ") + Digits_Of(number));
     }
     auto* const open = Button("&Open in", this);
-    chart_ = Button("&Chart of the Chosen", this);
+    auto* const chart = Button("&Chart of the Chosen", this);
     row->addWidget(count_, 1);
     row->addWidget(progress_);
     row->addWidget(cancel_);
     row->addWidget(open);
     row->addWidget(sheet_);
-    row->addWidget(chart_);
-    connect(cancel_, &QPushButton::clicked, this, [this] {
-        reading_.Give_Up();
-        Look_At_Reading();
-    });
-    connect(open, &QPushButton::clicked, this, [this] {
-        const QModelIndex index = table_->currentIndex();
-        if (index.isValid()) {
-            Open_In_Sheet(order_.Entry(index.row()));
-        }
-    });
-    connect(chart_, &QPushButton::clicked, this, [this] { Show_Chart(); });
+    row->addWidget(chart);
+    progress_->hide();
+    cancel_->hide();
+    connect(cancel_, &QPushButton::clicked, this, [this] { Cancel(); });
+    connect(open, &QPushButton::clicked, this, [this] { Open_Current_In(sheet_->currentIndex()); });
+    connect(chart, &QPushButton::clicked, this, [this] { Show_Chart(); });
     return row;
 }
 
 void Library_Window::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (!look_.isActive()) {
-        Read_Again(); // the open sheets may have changed meanwhile
+    Show_Sheets();
+    if (!reading_.Runs()) {
+        Start_Reading(false);
+    }
+}
+
+void Library_Window::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        Show_Sheets(); // they may have been worked on
     }
 }
 
 void Library_Window::Choose_Folder() {
-    const QString chosen =
-        QFileDialog::getExistingDirectory(this, QStringLiteral("Folder of flow tests"), folder_);
+    const QString chosen = QFileDialog::getExistingDirectory(
+        this, QStringLiteral("Folder of flow tests"), To_Qt(notes_.folder));
     if (!chosen.isEmpty()) {
         Open_Folder(chosen);
     }
 }
 
 void Library_Window::Open_Folder(const QString& folder) {
-    folder_ = folder;
+    notes_.folder = From_Qt(folder);
     path_->setText(folder);
-    try {
-        Write_Whole_File(Note_File(), From_Qt(folder));
-    } catch (const Run_Time_Error&) {
-        // The next start asks again; nothing else is lost.
-    }
-    Read_Again();
+    metric_->setChecked(notes_.metric_folders.contains(notes_.folder));
+    Keep_Notes();
+    is_known_ = false;
+    Start_Reading(true);
 }
 
-void Library_Window::Read_Again() {
-    if (folder_.isEmpty()) {
-        model_.Set_Entries(Open_Sheets());
+void Library_Window::Choose_Units(bool metric) {
+    if (metric) {
+        notes_.metric_folders.insert(notes_.folder);
     } else {
-        reading_.Start(From_Qt(folder_), metric_->isChecked());
-        look_.start();
+        notes_.metric_folders.erase(notes_.folder);
     }
-    Look_At_Reading();
+    Keep_Notes();
+    is_known_ = false;
+    Start_Reading(true);
+}
+
+void Library_Window::Keep_Notes() const {
+    Write_Library_Notes(session_.surroundings.folder, notes_);
+}
+
+void Library_Window::Start_Reading(bool is_asked_for) {
+    if (notes_.folder.empty()) {
+        Show_Count();
+        return;
+    }
+    if (is_asked_for) {
+        problems_ = QStringLiteral("Reading...");
+        Show_Count();
+    }
+    read_again_.stop();
+    begun_ = std::chrono::steady_clock::now();
+    const auto nothing = std::make_shared<const std::vector<Library_Entry>>();
+    reading_.Start(notes_.folder, metric_->isChecked(), is_known_ ? model_.Files() : nothing);
+    look_.start();
+}
+
+void Library_Window::Cancel() {
+    reading_.Give_Up();
+    problems_ = QStringLiteral("The reading was cancelled");
+    Show_Progress();
+    Show_Count();
 }
 
 void Library_Window::Look_At_Reading() {
-    const bool runs = reading_.Runs();
-    progress_->setVisible(runs);
-    cancel_->setVisible(runs);
-    if (runs) {
-        progress_->setMaximum(static_cast<int>(reading_.All()));
-        progress_->setValue(static_cast<int>(reading_.Read()));
-        if (reading_.Is_Done()) {
-            Show_Result();
-            return;
-        }
-    } else {
+    if (reading_.Is_Done()) {
+        Take_Result();
+    }
+    if (!reading_.Runs()) {
         look_.stop();
     }
-    count_->setText(Digits_Of(order_.rowCount()) + QStringLiteral(" of ") +
-                    Digits_Of(model_.rowCount({})) + QStringLiteral(" tests"));
+    Show_Progress();
 }
 
-void Library_Window::Show_Result() {
+void Library_Window::Show_Progress() {
+    // What is read at once needs no bar that flickers.
+    constexpr milliseconds soon{250};
+    const bool shows = reading_.Runs() && std::chrono::steady_clock::now() - begun_ > soon;
+    progress_->setVisible(shows);
+    cancel_->setVisible(shows);
+    if (shows) {
+        progress_->setMaximum(static_cast<int>(reading_.All()));
+        progress_->setValue(static_cast<int>(reading_.Read()));
+    }
+}
+
+void Library_Window::Take_Result() {
     Library_Reading::Result result = reading_.Take();
-    Watch_Folder(result.entries);
-    std::vector<Library_Entry> entries = Open_Sheets();
-    entries.insert(entries.end(), std::make_move_iterator(result.entries.begin()),
-                   std::make_move_iterator(result.entries.end()));
-    model_.Set_Entries(std::move(entries));
-    Look_At_Reading();
-    QString problems = result.is_there ? QString() : QStringLiteral("   There is no such folder");
+    problems_ = result.is_there ? QString() : QStringLiteral("There is no such folder");
     for (const std::string& problem : result.problems) {
-        problems += QStringLiteral("   ") + To_Qt(problem);
+        problems_ += QStringLiteral("   ") + To_Qt(problem);
     }
-    count_->setText(count_->text() + problems);
+    if (!is_known_ || !result.is_as_known) {
+        Change_List([&] {
+            model_.Set_Files(
+                std::make_shared<const std::vector<Library_Entry>>(std::move(result.entries)));
+        });
+    }
+    is_known_ = true;
+    Show_Count();
+    read_again_.start(Rest_After(result.time));
 }
 
-void Library_Window::Watch_Folder(const std::vector<Library_Entry>& entries) {
-    constexpr std::size_t most_folders = 500;
-    std::set<QString> folders{folder_};
-    for (const Library_Entry& entry : entries) {
-        const std::size_t end = entry.file.rfind('/');
-        if (end != std::string::npos && folders.size() < most_folders) {
-            folders.insert(folder_ + QLatin1Char('/') + To_Qt(entry.file.substr(0, end)));
-        }
+void Library_Window::Show_Count() {
+    count_->setText(Digits_Of(model_.Shown_Tests()) + QStringLiteral(" of ") +
+                    Digits_Of(model_.All_Tests()) + QStringLiteral(" tests   ") + problems_);
+}
+
+void Library_Window::Change_List(const std::function<void()>& change) {
+    table_->Keep_Chosen_Through(change);
+    Show_Count();
+}
+
+void Library_Window::Show_Sheets() {
+    std::vector<Library_Entry> sheets = Open_Sheets();
+    if (sheets != model_.Sheets()) {
+        Change_List([&] { model_.Set_Sheets(std::move(sheets)); });
     }
-    if (!watcher_.directories().isEmpty()) {
-        watcher_.removePaths(watcher_.directories());
-    }
-    watcher_.addPaths(QStringList(folders.begin(), folders.end()));
 }
 
 std::vector<Library_Entry> Library_Window::Open_Sheets() {
     Zeroed_Sheet zeroed(session_.Main().Is_Metric());
     std::vector<Library_Entry> entries;
     for (int number = 1; number <= sheet_count; ++number) {
-        if (!session_.Is_Loaded(Screen_Id{Screen_Kind::Sheet, number})) {
+        if (!Is_Open_Sheet(session_, number)) {
             continue;
         }
         Library_Entry entry;
-        entry.file = std::string(open_sheet) + From_Qt(Digits_Of(number));
+        entry.sheet = number;
+        entry.file = "Flow Test " + From_Qt(Digits_Of(number));
         if (const auto figures = zeroed.Take(session_.Sheet(number))) {
             entry.figures = Library_Figures_Of(*figures, entry.file);
         } else {
@@ -269,69 +312,60 @@ std::vector<Library_Entry> Library_Window::Open_Sheets() {
 }
 
 std::string Library_Window::Path_Of(const Library_Entry& entry) const {
-    return Join_Path(From_Qt(folder_), entry.file);
+    return Join_Path(notes_.folder, entry.file);
 }
 
-void Library_Window::Open_In_Sheet(const Library_Entry& entry) {
-    const bool is_open = entry.figures.date.empty() && !entry.problem;
-    const int number = is_open ? entry.file.back() - '0' : sheet_->currentIndex() + 1;
-    const std::string path = Path_Of(entry);
-    const Test_Format format = entry.format;
-    gate_.Enter_Command([&] {
-        Flow_Sheet& sheet = session_.Sheet(number);
-        if (!is_open) {
-            session_.file.path = path;
-            const std::string bytes = Read_Whole_File(path);
-            if (Read_Test(session_, sheet, format, bytes)) {
-                sheet.Text39.Set_Text(path);
-            }
-        }
-        session_.Show(sheet);
-    });
+void Library_Window::Open_Current_In(int sheet_number) {
+    const QModelIndex index = table_->currentIndex();
+    if (index.isValid() && model_.Entry(index.row()) != nullptr) {
+        const Library_Entry entry = *model_.Entry(index.row()); // the list may change meanwhile
+        Open(entry, sheet_number);
+    }
+}
+
+void Library_Window::Open(const Library_Entry& entry, int sheet_number) {
+    if (entry.sheet != 0) {
+        gate_.Enter_Command([&] { session_.Show(session_.Sheet(entry.sheet)); });
+        return;
+    }
+    const int number = sheet_number != 0 ? sheet_number : Next_Free_Sheet(session_);
+    if (number == 0) {
+        problems_ = QStringLiteral("All sheets are open: choose one beside Open in");
+        Show_Count();
+        return;
+    }
+    Open_In_Sheet(session_, gate_,
+                  {.path = Path_Of(entry),
+                   .name = entry.figures.name.empty() ? entry.file : entry.figures.name,
+                   .format = entry.format,
+                   .metric = metric_->isChecked()},
+                  number);
+    Show_Sheets();
 }
 
 void Library_Window::Show_Chart() {
     std::vector<Chart_Test> tests;
     Test_Reader reader(metric_->isChecked());
     Zeroed_Sheet zeroed(session_.Main().Is_Metric());
-    for (const QModelIndex& index : table_->selectionModel()->selectedRows()) {
-        const Library_Entry& entry = order_.Entry(index.row());
-        const bool is_open = entry.figures.date.empty() && !entry.problem;
-        auto figures = is_open ? zeroed.Take(session_.Sheet(entry.file.back() - '0'))
-                               : reader.Read(Path_Of(entry), entry.format).figures;
+    const std::vector<Library_Entry> chosen = table_->Chosen();
+    for (const Library_Entry& entry : chosen) {
+        auto figures = entry.sheet != 0 ? zeroed.Take(session_.Sheet(entry.sheet))
+                                        : reader.Read(Path_Of(entry), entry.format).figures;
         if (figures && tests.size() < most_chart_tests) {
             tests.push_back({.file = entry.file, .figures = std::move(*figures)});
         }
     }
-    if (tests.empty()) {
-        count_->setText(QStringLiteral("Choose one to eight tests that could be read"));
-        return;
+    problems_ = tests.empty() ? QStringLiteral("Choose one to eight tests that could be read")
+                : tests.size() < chosen.size()
+                    ? QStringLiteral("A chart shows eight tests that could be read at most")
+                    : QString();
+    Show_Count();
+    if (!tests.empty()) {
+        auto* const window = new Chart_Window(session_, std::move(tests));
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        connect(this, &QObject::destroyed, window, &QWidget::close);
+        window->show();
     }
-    auto* const window = new Chart_Window(session_, std::move(tests));
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    connect(this, &QObject::destroyed, window, &QWidget::close);
-    window->show();
-}
-
-void Add_Library_Entry(QMenuBar& bar, Session& session, Gate& gate, Screen& screen) {
-    if (screen.Kind() != Screen_Kind::Engine) {
-        return;
-    }
-    QMenu* const menu = bar.addMenu(QStringLiteral("&Tests"));
-    menu->setObjectName(To_Qt(screen.Name() + ".Tests"));
-    QAction* const entry = menu->addAction(QStringLiteral("&Library..."));
-    entry->setObjectName(To_Qt(screen.Name() + ".Library"));
-    entry->setShortcut(QKeySequence(QStringLiteral("Ctrl+L")));
-    // One window, which goes with the menu bar.
-    auto window = std::make_shared<std::unique_ptr<Library_Window>>();
-    QObject::connect(entry, &QAction::triggered, &bar, [&session, &gate, window] {
-        if (!*window) {
-            *window = std::make_unique<Library_Window>(session, gate);
-        }
-        (*window)->show();
-        (*window)->raise();
-        (*window)->activateWindow();
-    });
 }
 
 } // namespace kestrum::desktop

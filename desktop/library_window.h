@@ -3,22 +3,21 @@
 #include "core/session.h"
 #include "desktop/gate.h"
 #include "desktop/library_model.h"
+#include "desktop/library_notes.h"
 #include "desktop/library_reading.h"
+#include "desktop/library_table.h"
 #include "library/zeroed_sheet.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFileSystemWatcher>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTableView>
 #include <QTimer>
 #include <QWidget>
 
-#include <memory>
+#include <chrono>
 #include <string>
 
 namespace kestrum::desktop {
@@ -31,47 +30,55 @@ public:
     /// Reads a folder and remembers it.
     void Open_Folder(const QString& folder);
 
+    /// Opens the test that has the focus in a sheet; 0 stands for the next one that is free.
+    void Open_Current_In(int sheet_number);
+
 protected:
+    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void Make_Content();
     [[nodiscard]] QLayout* Folder_Row();
+    [[nodiscard]] QLayout* Look_Row();
     [[nodiscard]] QLayout* Foot_Row();
-    void Make_Table();
+    void Connect_Timers();
     void Choose_Folder();
-    void Read_Again();
+    void Choose_Units(bool metric);
+    void Keep_Notes() const;
+    void Start_Reading(bool is_asked_for);
+    void Cancel();
     void Look_At_Reading();
-    void Show_Result();
-    void Watch_Folder(const std::vector<Library_Entry>& entries);
+    void Take_Result();
+    void Show_Progress();
+    void Show_Count();
+    void Show_Sheets();
+    /// Changes the list and keeps what is chosen in it.
+    void Change_List(const std::function<void()>& change);
     [[nodiscard]] std::vector<Library_Entry> Open_Sheets();
     [[nodiscard]] std::string Path_Of(const Library_Entry& entry) const;
-    [[nodiscard]] std::string Note_File() const;
-    void Open_In_Sheet(const Library_Entry& entry);
+    void Open(const Library_Entry& entry, int sheet_number);
     void Show_Chart();
 
     Session& session_;
     Gate& gate_;
+    Library_Notes notes_;
     Library_Reading reading_;
     Library_Model model_;
-    Library_Order order_;
-    QFileSystemWatcher watcher_;
-    QTimer look_;
-    QTimer read_again_;
-    QString folder_;
+    QTimer look_;       // at a reading that runs
+    QTimer read_again_; // what may have changed
+    std::chrono::steady_clock::time_point begun_;
+    QString problems_;
+    bool is_known_ = false; // the list is that of the folder and its units
 
     QLineEdit* path_ = nullptr;
     QCheckBox* metric_ = nullptr;
     QLineEdit* words_ = nullptr;
-    QTableView* table_ = nullptr;
+    Library_Table* table_ = nullptr;
     QProgressBar* progress_ = nullptr;
     QPushButton* cancel_ = nullptr;
     QComboBox* sheet_ = nullptr;
-    QPushButton* chart_ = nullptr;
     QLabel* count_ = nullptr;
 };
-
-/// Adds "Tests > Library" to the menus of `Main`; those of others stay as they are.
-void Add_Library_Entry(QMenuBar& bar, Session& session, Gate& gate, Screen& screen);
 
 } // namespace kestrum::desktop

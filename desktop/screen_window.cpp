@@ -5,7 +5,7 @@
 #include "desktop/body.h"
 #include "desktop/frame_view.h"
 #include "desktop/help_line.h"
-#include "desktop/library_window.h"
+#include "desktop/library_entry.h"
 #include "desktop/menus.h"
 #include "desktop/print_preview.h"
 #include "desktop/test_entries.h"

@@ -49,6 +49,8 @@ public:
             Named_Number(sheet_.Cell(Side::Intake, Cell_Role::Valve_Diameter));
         test.exhaust.valve_diameter =
             Named_Number(sheet_.Cell(Side::Exhaust, Cell_Role::Valve_Diameter));
+        test.intake.valves = Named_Number(Valve_Count(Side::Intake));
+        test.exhaust.valves = Named_Number(Valve_Count(Side::Exhaust));
         if (test.Stated_At() > 0) {
             Take_Rows(test);
         }
@@ -63,6 +65,10 @@ private:
 
     [[nodiscard]] std::optional<double> Named_Number(const Control& field) const {
         return is_named_(field) ? Number_In(numbers_, field) : std::nullopt;
+    }
+
+    [[nodiscard]] const Control& Valve_Count(Side side) const {
+        return side == Side::Intake ? sheet_.Text106(6) : sheet_.Text108(6);
     }
 
     void Take_Rows(Test_Figures& test) {
@@ -105,8 +111,7 @@ private:
     /// Swirl is measured on the intake.
     [[nodiscard]] bool Is_Known(const Chart_Quantity_Entry& entry, Side side) const {
         const bool has_column = entry.column != Cell_Role::None || side == Side::Intake;
-        const Control& count = side == Side::Intake ? sheet_.Text106(6) : sheet_.Text108(6);
-        return has_column && (!entry.rests_on_valve_count || is_named_(count)) &&
+        return has_column && (!entry.rests_on_valve_count || is_named_(Valve_Count(side))) &&
                std::ranges::all_of(entry.rests_on, [&](Cell_Role role) {
                    return is_named_(sheet_.Cell(side, role));
                });

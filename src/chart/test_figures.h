@@ -16,6 +16,7 @@ namespace kestrum {
 /// What a calculated sheet says of one valve, in inches and at the test's pressure.
 struct Side_Figures {
     std::optional<double> valve_diameter; // nothing where it is not named
+    std::optional<double> valves;         // of a cylinder, the same
     /// The measured points of each quantity by ascending lift.
     std::array<std::vector<Lift_Point>, chart_quantities> points;
 };

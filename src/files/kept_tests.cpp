@@ -27,6 +27,8 @@ std::string Notation_Of(Session& session) {
            session.numbers.Point() + "\r\n";
 }
 
+} // namespace
+
 bool Is_As_Brought(Session& session, const Flow_Sheet& sheet) {
     if (session.numbers.comma_mode != 0 || session.Main().Is_Metric()) {
         return false; // the program brings its sample in another notation
@@ -35,8 +37,6 @@ bool Is_As_Brought(Session& session, const Flow_Sheet& sheet) {
     Calc_Flow_Test(session, fresh);
     return Flow_File_Text(session, fresh) == Flow_File_Text(session, sheet);
 }
-
-} // namespace
 
 void Keep_Test(Session& session, const Flow_Sheet& sheet, std::string_view name) {
     try {

@@ -14,6 +14,10 @@ inline constexpr std::string_view closed_test = "closed";
 /// a disk that takes nothing no word is said: it is more than was asked for.
 void Keep_Test(Session& session, const Flow_Sheet& sheet, std::string_view name);
 
+/// Whether a sheet is as the program brings it. In metric or with decimal commas none is known to
+/// be.
+[[nodiscard]] bool Is_As_Brought(Session& session, const Flow_Sheet& sheet);
+
 /// Keeps every sheet that is not as the program brings it, as the last session's, and forgets
 /// those of the session before.
 void Keep_Last_Session(Session& session);

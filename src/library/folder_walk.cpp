@@ -14,7 +14,8 @@ namespace fs = std::filesystem;
 
 class Walk {
 public:
-    explicit Walk(const std::string& folder) : folder_(folder) {}
+    Walk(const std::string& folder, const std::function<bool()>& goes_on)
+        : folder_(folder), goes_on_(goes_on) {}
 
     [[nodiscard]] Folder_Walk Take() {
         std::error_code failure;
@@ -23,7 +24,7 @@ public:
             // A list of folders still to be looked through: no depth of them costs a stack.
             open_.emplace_back();
         }
-        while (!open_.empty()) {
+        while (!open_.empty() && Goes_On()) {
             const std::string below = std::move(open_.back());
             open_.pop_back();
             Look_Through(below);
@@ -34,10 +35,12 @@ public:
     }
 
 private:
+    [[nodiscard]] bool Goes_On() const { return !goes_on_ || goes_on_(); }
+
     void Look_Through(const std::string& below) {
         std::error_code failure;
         fs::directory_iterator entry(folder_ / below, failure);
-        while (!failure && entry != fs::directory_iterator()) {
+        while (!failure && entry != fs::directory_iterator() && Goes_On()) {
             Take_Entry(*entry, below);
             entry.increment(failure);
         }
@@ -62,14 +65,15 @@ private:
     }
 
     fs::path folder_;
+    const std::function<bool()>& goes_on_;
     Folder_Walk walk_;
     std::vector<std::string> open_;
 };
 
 } // namespace
 
-Folder_Walk Tests_Below(const std::string& folder) {
-    return Walk(folder).Take();
+Folder_Walk Tests_Below(const std::string& folder, const std::function<bool()>& goes_on) {
+    return Walk(folder, goes_on).Take();
 }
 
 } // namespace kestrum

@@ -2,6 +2,7 @@
 
 #include "exchange/test_formats.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,8 @@ struct Folder_Walk {
 
 /// The files below a folder whose endings are those of flow tests. Links to folders are not
 /// followed, so no circle of them has an end to look for; links to files are, also to none.
-[[nodiscard]] Folder_Walk Tests_Below(const std::string& folder);
+/// A walk that is asked whether it `goes_on` and does not has seen a part alone.
+[[nodiscard]] Folder_Walk Tests_Below(const std::string& folder,
+                                      const std::function<bool()>& goes_on = {});
 
 } // namespace kestrum

@@ -74,6 +74,11 @@ private:
 
     void Read(Test_Reader& reader, Library_Entry& entry) const {
         const std::string path = Join_Path(request_.folder, entry.file);
+        entry.stamp = Settled_Stamp(path); // before the reading: a change in between shows later
+        if (const Library_Entry* const known = Known(entry)) {
+            entry = *known;
+            return;
+        }
         try {
             Test_Reading reading = reader.Read(path, entry.format);
             if (!reading.figures) {
@@ -85,6 +90,15 @@ private:
         } catch (const std::exception& failure) { // a thread must not end the program
             entry.problem = failure.what();
         }
+    }
+
+    /// What is known of a file that has not changed, or null.
+    [[nodiscard]] const Library_Entry* Known(const Library_Entry& entry) const {
+        const auto found =
+            std::ranges::lower_bound(request_.known, entry.file, {}, &Library_Entry::file);
+        const bool is_same = found != request_.known.end() && found->file == entry.file &&
+                             entry.stamp && found->stamp == entry.stamp;
+        return is_same ? &*found : nullptr;
     }
 
     const Library_Request& request_;
@@ -111,12 +125,24 @@ Library_Figures Library_Figures_Of(const Test_Figures& test, const std::string& 
             .intake_mean = entry.sides.intake.mean,
             .exhaust_mean = entry.sides.exhaust.mean,
             .ratio = entry.ratio,
-            .date = {}};
+            .date = {},
+            .part_number = test.name,
+            .intake_valves = test.intake.valves,
+            .exhaust_valves = test.exhaust.valves,
+            .intake_curve = entry.sides.intake.points,
+            .exhaust_curve = entry.sides.exhaust.points};
 }
 
 std::vector<Library_Entry> Read_Library(const Library_Request& request,
                                         std::vector<Found_Test> tests) {
     return Library_Reading(request, std::move(tests)).Run();
+}
+
+bool Found_The_Same(std::span<const Library_Entry> one, std::span<const Library_Entry> other) {
+    return std::ranges::equal(one, other, [](const Library_Entry& a, const Library_Entry& b) {
+        return a.file == b.file && a.problem == b.problem && a.stamp == b.stamp &&
+               (a.stamp || a.problem);
+    });
 }
 
 unsigned Usual_Jobs() {

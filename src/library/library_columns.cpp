@@ -1,5 +1,6 @@
 #include "library/library_columns.h"
 
+#include "base/numeric_text.h"
 #include "base/text.h"
 
 #include <algorithm>
@@ -16,34 +17,66 @@ Library_Value Number(std::optional<double> number) {
     return number ? Library_Value(*number) : Library_Value();
 }
 
+/// "2 in, 1 ex", as far as it is named.
+Library_Value Valves(const Library_Figures& figures) {
+    std::string words;
+    const auto add = [&words](std::optional<double> count, std::string_view side) {
+        if (count) {
+            words += (words.empty() ? "" : ", ") + Numeric_Text{}.Plain(*count);
+            words += side;
+        }
+    };
+    add(figures.intake_valves, " in");
+    add(figures.exhaust_valves, " ex");
+    return words.empty() ? Library_Value() : Library_Value(words);
+}
+
 constexpr auto columns = std::to_array<Library_Column>({
     {"file", "File", [](const Entry& e) { return Library_Value(e.file); }, true},
     {"format", "Format",
      [](const Entry& e) { return Library_Value(std::string(Name_Of_Format(e.format))); }, true},
     {"name", "Name", [](const Entry& e) { return Library_Value(e.figures.name); }},
-    {"intake_valve", "Intake valve", [](const Entry& e) { return Number(e.figures.intake_valve); }},
-    {"exhaust_valve", "Exhaust valve",
+    {"intake_valve", "In. valve", [](const Entry& e) { return Number(e.figures.intake_valve); }},
+    {"exhaust_valve", "Ex. valve",
      [](const Entry& e) { return Number(e.figures.exhaust_valve); }},
-    {"port_volume", "Port volume", [](const Entry& e) { return Number(e.figures.port_volume); }},
+    {"port_volume", "Port cc", [](const Entry& e) { return Number(e.figures.port_volume); }},
     {"pressure", "Pressure", [](const Entry& e) { return Number(e.figures.pressure); }},
     {"points", "Points",
      [](const Entry& e) { return Library_Value(static_cast<double>(e.figures.points)); }},
-    {"intake_peak", "Intake peak",
+    {"intake_peak", "In. peak",
      [](const Entry& e) { return Number(e.figures.intake_peak.flow); }},
     {"intake_peak_lift", "at lift",
      [](const Entry& e) { return Number(e.figures.intake_peak.lift); }},
-    {"exhaust_peak", "Exhaust peak",
+    {"exhaust_peak", "Ex. peak",
      [](const Entry& e) { return Number(e.figures.exhaust_peak.flow); }},
     {"exhaust_peak_lift", "at lift",
      [](const Entry& e) { return Number(e.figures.exhaust_peak.lift); }},
-    {"intake_mean", "Intake mean", [](const Entry& e) { return Number(e.figures.intake_mean); }},
-    {"exhaust_mean", "Exhaust mean", [](const Entry& e) { return Number(e.figures.exhaust_mean); }},
+    {"intake_mean", "In. mean", [](const Entry& e) { return Number(e.figures.intake_mean); }},
+    {"exhaust_mean", "Ex. mean", [](const Entry& e) { return Number(e.figures.exhaust_mean); }},
     {"ratio", "Ratio", [](const Entry& e) { return Number(e.figures.ratio); }},
     {"date", "Date",
      [](const Entry& e) {
          return e.figures.date.empty() ? Library_Value() : Library_Value(e.figures.date);
      }},
+    {"part_number", "Part number",
+     [](const Entry& e) { return Library_Value(e.figures.part_number); }},
+    {"valves", "Valves", [](const Entry& e) { return Valves(e.figures); }},
+    {"curve", "Curve", [](const Entry&) { return Library_Value(); }},
 });
+constexpr std::size_t window_alone = 3;
+
+constexpr auto window_names = std::to_array<std::string_view>(
+    {"name", "part_number", "curve", "intake_valve", "exhaust_valve", "valves", "port_volume",
+     "pressure", "points", "intake_peak", "intake_peak_lift", "exhaust_peak", "exhaust_peak_lift",
+     "intake_mean", "exhaust_mean", "ratio", "date", "format", "file"});
+
+constexpr auto window_columns = [] {
+    std::array<const Library_Column*, window_names.size()> found{};
+    for (std::size_t at = 0; at < found.size(); ++at) {
+        found.at(at) = std::ranges::find(columns, window_names.at(at), &Library_Column::name);
+    }
+    return found;
+}();
 
 /// What entries are ordered by: unreadable last, no value before them, then the value.
 int Rank_Of(const Entry& entry, const Library_Value& value) {
@@ -80,12 +113,17 @@ char32_t Lowered(char32_t letter) {
 } // namespace
 
 std::span<const Library_Column> Library_Columns() {
-    return columns;
+    return std::span(columns).first(columns.size() - window_alone);
+}
+
+std::span<const Library_Column* const> Window_Columns() {
+    return window_columns;
 }
 
 const Library_Column* Library_Column_Named(std::string_view name) {
-    const auto* const found = std::ranges::find(columns, name, &Library_Column::name);
-    return found == columns.end() ? nullptr : found;
+    const auto shown = Library_Columns();
+    const auto found = std::ranges::find(shown, name, &Library_Column::name);
+    return found == shown.end() ? nullptr : &*found;
 }
 
 Library_Value Value_In(const Library_Column& column, const Library_Entry& entry) {
@@ -135,6 +173,26 @@ bool Holds_Words(const Library_Entry& entry, std::string_view lower_text) {
         return Lower_Words(text).find(lower_text) != std::string::npos;
     };
     return holds(entry.file) || holds(Name_Of_Format(entry.format)) || holds(entry.figures.name);
+}
+
+bool Shows_Words(const Library_Entry& entry, std::string_view lower_words) {
+    const Library_Figures& figures = entry.figures;
+    std::string texts = entry.problem.value_or("");
+    for (const std::string_view text :
+         {std::string_view(entry.file), Name_Of_Format(entry.format),
+          std::string_view(figures.name), std::string_view(figures.part_number),
+          std::string_view(figures.date)}) {
+        texts.append("\n").append(text);
+    }
+    texts = Lower_Words(texts);
+    while (!lower_words.empty()) {
+        const std::size_t end = std::min(lower_words.find(' '), lower_words.size());
+        if (texts.find(lower_words.substr(0, end)) == std::string::npos) {
+            return false;
+        }
+        lower_words.remove_prefix(std::min(end + 1, lower_words.size()));
+    }
+    return true;
 }
 
 } // namespace kestrum

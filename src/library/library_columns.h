@@ -22,8 +22,12 @@ struct Library_Column {
     bool of_every_file = false;
 };
 
-/// The columns in their order, without the problem.
+/// The columns of the shell in their order, without the problem.
 [[nodiscard]] std::span<const Library_Column> Library_Columns();
+
+/// The columns of the window in their order: those of the shell and some that it alone has. That
+/// of the small curve has no value.
+[[nodiscard]] std::span<const Library_Column* const> Window_Columns();
 
 /// A column by its name, null for an unknown one.
 [[nodiscard]] const Library_Column* Library_Column_Named(std::string_view name);
@@ -38,6 +42,10 @@ void Sort_Library(std::vector<Library_Entry>& entries, const Library_Column& col
 /// Whether a text stands in the file's name, its format or the test's name, whatever the case.
 /// `lower_text` is in lower case.
 [[nodiscard]] bool Holds_Words(const Library_Entry& entry, std::string_view lower_text);
+
+/// Whether each of the words stands somewhere in the texts that the window shows of a test.
+/// `lower_words` are in lower case with blanks between them.
+[[nodiscard]] bool Shows_Words(const Library_Entry& entry, std::string_view lower_words);
 
 /// A text in lower case, the accented letters of Europe included.
 [[nodiscard]] std::string Lower_Words(std::string_view text);
