@@ -13,24 +13,14 @@
 #include "files/kept_tests.h"
 
 #include <QCloseEvent>
-#include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 #include <set>
 
 namespace kestrum::desktop {
-
-namespace {
-
-/// About what a window manager puts around a window.
-constexpr QSize window_frame(8, 32);
-
-} // namespace
 
 /// A frame that takes the whole form: it stands beside the front page, and one of the two shows.
 class Screen_Window::Cover : public Control_View {
@@ -183,78 +173,6 @@ void Screen_Window::Show_Arrow(Control_View& view) {
 }
 
 // Opening and closing
-
-QSize Screen_Window::Room() const {
-    return screen()->availableSize() - window_frame;
-}
-
-QSize Screen_Window::Usual_Size() const {
-    return (sizeHint() * Design_Of(*screen_, "").opening_scale).boundedTo(Room());
-}
-
-/// A screen that was stretched to its display takes the size and the place that this gave it, as
-/// far as the free part of the display goes.
-void Screen_Window::Take_Stretched_Place() {
-    scale_ = screen_->scale;
-    const Twips place = Place_In_Twips(*screen_);
-    const QSizeF wanted(place.width / twips_per_pixel, place.height / twips_per_pixel);
-    showNormal();
-    const QSize usual = sizeHint();
-    const QSize taken = wanted.toSize().expandedTo(usual).boundedTo(Room());
-    Stretch_Letters(
-        std::min(1.0 * taken.width() / usual.width(), 1.0 * taken.height() / usual.height()));
-    resize(taken);
-    const QRect room = screen()->availableGeometry();
-    const QSize free = room.size() - (size() + window_frame);
-    constexpr int least_gap = 25;
-    const int above = free.height() / 2 <= least_gap ? 0 : free.height() / 4;
-    move(room.topLeft() + QPoint(free.width() / 2, above));
-}
-
-/// Those of the menus, the help line and the report; the pages see to their own.
-void Screen_Window::Stretch_Letters(double growth) {
-    setFont(theme::Text_Font(
-        std::max(1.0, std::floor(theme::text_pixels * growth) / theme::text_pixels)));
-    for (QMenu* const menu : findChildren<QMenu*>()) {
-        menu->setFont(font());
-    }
-    layout()->setContentsMargins(0, 0, 0, help_->Least_Height());
-}
-
-/// Larger letters get a larger window where the display has the room.
-void Screen_Window::Grow_From(const QSize& page_before) {
-    body_->Place_Pages();
-    if (!placed_ || isMaximized()) {
-        return;
-    }
-    const QSize now = body_->sizeHint();
-    const QSizeF grown(width() * (1.0 * now.width() / page_before.width()),
-                       height() * (1.0 * now.height() / page_before.height()));
-    resize(grown.toSize().expandedTo(size()).boundedTo(Room()));
-    const QRect room = screen()->availableGeometry();
-    const QPoint last = room.bottomRight() - QPoint(width(), height()) -
-                        QPoint(window_frame.width(), window_frame.height());
-    move(QPoint(std::max(room.left(), std::min(x(), last.x())),
-                std::max(room.top(), std::min(y(), last.y()))));
-}
-
-void Screen_Window::Open() {
-    setWindowTitle(Title());
-    if (!placed_) {
-        placed_ = true;
-        resize(Usual_Size());
-        const QRect room = screen()->availableGeometry();
-        const QRect framed({}, size() + window_frame);
-        move(room.center() - framed.center());
-        if (scale_ != screen_->scale) {
-            Take_Stretched_Place();
-        }
-    } else {
-        move(pos()); // a window manager would else place it anew
-    }
-    show();
-    Bring_To_Front();
-}
 
 void Screen_Window::Close() {
     hide();
