@@ -68,22 +68,25 @@ TEST(Arrivals, Files_Go_Into_The_Free_Sheets_And_The_Rest_Is_Named_In_One_Box) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(bench.Widget("Form2.Text102(0)").window()));
     bench.Enter("Form2.Text102(0)", "mine");
     static_cast<void>(bench.Take_Events());
+    bench.folder.Write("preload.dat", short_test + "preload\r\n");
+    bench.folder.Write("engine.DTA", "Text103_3 = 4.5\r\nFlow1 = preload.dat\r\n");
+    bench.folder.Write("a.dat", short_test + "E7TE\r\n"); // what the sheet begins with, loaded
     std::vector<std::string> files;
     for (const char* const name :
-         {"a.dat", "b.dat", "engine.DTA", "c.dat", "other.dta", "gone.dat", "d.dat", "e.dat"}) {
+         {"gone.dat", "a.dat", "b.dat", "engine.DTA", "c.dat", "other.dta", "d.dat", "e.dat"}) {
         files.push_back(bench.folder.File(name));
-        if (std::string_view(name) != "gone.dat") {
-            bench.folder.Write(name, files.back().ends_with("A") ? "Text103_3 = 4.5\r\n"
-                                                                 : short_test + name + "\r\n");
+        if (std::string_view("bcde").find(name[0]) != std::string_view::npos &&
+            !files.back().ends_with("A")) {
+            bench.folder.Write(name, short_test + name + "\r\n");
         }
     }
     arrivals.Take(With_Files(files));
     EXPECT_EQ(bench.Text("Main.Text103(3)"), "4.5");
-    EXPECT_EQ(bench.Text("Form1.Text102(0)"), "a.dat");
+    EXPECT_EQ(bench.Text("Form1.Text102(0)"), "preload");
     EXPECT_EQ(bench.Text("Form2.Text102(0)"), "mine");
-    EXPECT_EQ(bench.Text("Form3.Text102(0)"), "b.dat");
-    EXPECT_EQ(bench.Text("Form4.Text102(0)"), "c.dat");
-    EXPECT_EQ(bench.Text("Form5.Text102(0)"), "d.dat");
+    EXPECT_EQ(bench.Text("Form3.Text39"), bench.folder.File("a.dat"));
+    EXPECT_EQ(bench.Text("Form4.Text102(0)"), "b.dat");
+    EXPECT_EQ(bench.Text("Form5.Text102(0)"), "c.dat");
     std::vector<std::string> boxes;
     for (const std::string& event : bench.Take_Events()) {
         if (event.find("box") != std::string::npos) {
@@ -94,6 +97,7 @@ TEST(Arrivals, Files_Go_Into_The_Free_Sheets_And_The_Rest_Is_Named_In_One_Box) {
     EXPECT_NE(boxes[0].find("Not been Loaded\r\n\r\n" + bench.folder.File("gone.dat")),
               std::string::npos);
     EXPECT_TRUE(boxes[1].ends_with("\r\n\r\n" + bench.folder.File("other.dta") + "\r\n" +
+                                   bench.folder.File("d.dat") + "\r\n" +
                                    bench.folder.File("e.dat")))
         << boxes[1];
 }
