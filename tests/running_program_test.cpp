@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <future>
@@ -26,7 +27,7 @@ bool Is_Called(const Running_Program& running) {
 }
 
 /// Bytes from a caller who may not be one of ours.
-void Call_With(const std::string& place, const std::string& bytes) {
+void Call_With(const std::string& place, std::string_view bytes) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     place.copy(static_cast<char*>(address.sun_path), place.size());
@@ -65,10 +66,9 @@ TEST(Running_Program, Takes_No_Word_Of_A_Caller_That_Is_None_Of_Ours) {
     const Temp_Folder folder;
     Running_Program running;
     ASSERT_TRUE(running.Take(folder.File("place")));
-    const std::string zero(1, '\0');
-    for (const std::string& bytes :
-         {std::string(), std::string("x"), "x" + zero, "kestrum 2" + zero + "x" + zero,
-          "kestrum 1" + zero + "no end"}) {
+    constexpr std::array<std::string_view, 5> calls{
+        "", "x", {"x\0", 2}, {"kestrum 2\0x\0", 12}, {"kestrum 1\0no end", 16}};
+    for (const std::string_view bytes : calls) {
         Call_With(folder.File("place"), bytes);
         ASSERT_TRUE(Is_Called(running));
         EXPECT_FALSE(running.Hear()) << bytes;
@@ -115,8 +115,9 @@ TEST(Meeting, Is_Of_One_Folder_On_One_Display) {
               place);
     EXPECT_NE(Meeting_Place("/m", folder.Path(), ":1"), place);
     EXPECT_NE(Meeting_Place("/m", "/", ":0"), place);
-    EXPECT_EQ(place.size(), Meeting_Place("/m", folder.Path() + "/longer", ":0").size())
-        << "a long name would be no socket's";
+    constexpr std::size_t short_enough = 20; // a long name would be no socket's
+    EXPECT_LE(Meeting_Place("/m", folder.Path() + std::string(200, 'x'), ":0").size(),
+              short_enough);
 }
 
 } // namespace
