@@ -17,13 +17,6 @@ namespace kestrum::desktop {
 
 namespace {
 
-// Letters of the chart are set in points of paper; on a screen they want to be larger.
-constexpr double screen_scale = 1.3;
-
-Figure_Point In_Chart(QPointF place) {
-    return {.x = place.x() / screen_scale, .y = place.y() / screen_scale};
-}
-
 /// The chart's colours on the desktop's own ground.
 Chart_Colours Colours_Of_Desktop() {
     const Colour_Scheme& scheme = theme::Colours();
@@ -49,6 +42,18 @@ Chart_View::Chart_View(QWidget* parent) : QWidget(parent) {
     setToolTipDuration(2000);
 }
 
+/// Letters of the chart are set in points of paper; on a screen they want to be larger, and larger
+/// yet for those who have chosen large letters.
+double Chart_View::Scale() const {
+    constexpr double usual = 1.3;
+    constexpr double usual_dots = 96; // in an inch
+    return usual * logicalDpiX() / usual_dots;
+}
+
+Figure_Point Chart_View::In_Chart(QPointF place) const {
+    return {.x = place.x() / Scale(), .y = place.y() / Scale()};
+}
+
 void Chart_View::Show_Chart(Chart chart, const Chart_Style& style) {
     const Chart_Part before = layout_.whole;
     const std::optional<Chart_Part> part = style_.part;
@@ -69,9 +74,8 @@ void Chart_View::Show_Whole() {
 void Chart_View::Lay_Out() {
     style_.colours = Colours_Of_Desktop();
     constexpr double margin = 8;
-    layout_ = Layout_Of(
-        chart_, style_,
-        {margin, margin, width() / screen_scale - margin, height() / screen_scale - margin});
+    layout_ = Layout_Of(chart_, style_,
+                        {margin, margin, width() / Scale() - margin, height() / Scale() - margin});
     if (lift_ && (*lift_ < layout_.main.lifts.low || *lift_ > layout_.main.lifts.high)) {
         lift_.reset();
     }
@@ -90,8 +94,8 @@ void Chart_View::Paint_Ground() {
     ground_.setDevicePixelRatio(devicePixelRatioF());
     ground_.fill(QColor(QRgb(layout_.Colours().ground)));
     QPainter painter(&ground_);
-    painter.scale(screen_scale, screen_scale);
-    Figure figure(width() / screen_scale, height() / screen_scale);
+    painter.scale(Scale(), Scale());
+    Figure figure(width() / Scale(), height() / Scale());
     Draw_Curves(figure, layout_);
     painting::Paint_Figure(figure, painter);
 }
@@ -103,8 +107,8 @@ void Chart_View::paintEvent(QPaintEvent* /*event*/) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, ground_);
-    painter.scale(screen_scale, screen_scale);
-    Figure figure(width() / screen_scale, height() / screen_scale);
+    painter.scale(Scale(), Scale());
+    Figure figure(width() / Scale(), height() / Scale());
     if (lift_ && !chart_.tests.empty()) {
         Draw_Reading(figure, layout_, *lift_);
     } else {
@@ -151,7 +155,7 @@ Lift_Point Chart_View::Middle() const {
 void Chart_View::mouseMoveEvent(QMouseEvent* event) {
     if ((event->buttons() & Qt::LeftButton) != 0) {
         const Figure_Box& box = layout_.main.box;
-        const QPointF way = (event->position() - grip_) / screen_scale;
+        const QPointF way = (event->position() - grip_) / Scale();
         grip_ = event->position();
         Move(-way.x() / box.Width(), way.y() / box.Height());
     }

@@ -27,6 +27,9 @@ public:
     /// The lift whose values show; nothing without a mouse over the chart.
     [[nodiscard]] std::optional<double> Reading() const { return lift_; }
 
+    /// Pixels of a unit of the chart.
+    [[nodiscard]] double Scale() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -40,6 +43,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    [[nodiscard]] Figure_Point In_Chart(QPointF place) const;
     void Lay_Out();
     void Show_Part(const Chart_Part& part);
     void Read_At(std::optional<double> lift);

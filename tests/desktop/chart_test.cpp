@@ -42,8 +42,8 @@ protected:
     [[nodiscard]] const Chart_Layout& Layout() const { return window.View().Layout(); }
 
     [[nodiscard]] QPoint At(double lift, double value) const {
-        constexpr double scale = 1.3; // of the window's letters
-        return (QPointF(Layout().main.X(lift), Layout().main.Y(value)) * scale).toPoint();
+        return (QPointF(Layout().main.X(lift), Layout().main.Y(value)) * window.View().Scale())
+            .toPoint();
     }
 
     void Wheel(QPoint place, Qt::KeyboardModifiers keys) {
