@@ -204,8 +204,10 @@ void Label_View::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(font());
     painter.setPen(
         QColor::fromRgb(isEnabled() ? theme::Colours().quiet_ink : theme::Colours().faint_ink));
-    const QRect area = rect().adjusted(theme::text_padding, is_note ? theme::text_padding : 0,
-                                       -theme::text_padding, 0);
+    // Notes stand side by side, and their lines must not run together.
+    const int right = is_note ? font().pixelSize() : theme::text_padding;
+    const QRect area =
+        rect().adjusted(theme::text_padding, is_note ? theme::text_padding : 0, -right, 0);
     if (is_note) {
         Paint_Wrapped(painter, area, Qt::AlignLeft | Qt::AlignTop, Shown_Text());
     } else {
