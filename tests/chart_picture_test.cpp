@@ -132,6 +132,16 @@ TEST(Chart_Picture, Reads_All_Curves_At_A_Lift) {
     EXPECT_TRUE(Has_Text(beyond, "\xE2\x80\x93"));
 }
 
+TEST(Chart_Picture, Says_So_When_No_Test_Has_Points) {
+    const std::vector<Chart_Test> tests = Similar_Heads(2, 6);
+    Chart_Request request;
+    request.quantity = Chart_Quantity::Swirl;
+    const Chart chart = Chart_Of(tests, request);
+    const std::vector<Figure> pages = Chart_Pages(chart, {}, {});
+    EXPECT_TRUE(Has_Text(pages.front(), "None of the tests says anything about this"));
+    EXPECT_EQ(Fault_Of(pages.front()), "");
+}
+
 TEST(Chart_Picture, Shows_A_Part_And_Nothing_Beyond_It) {
     const Chart_Part whole{.first_lift = 0, .last_lift = 0.6, .low = 0, .high = 250};
     const Chart_Part part =

@@ -42,6 +42,9 @@ public:
             Draw_Test(request_.baseline);
         }
         Draw_Labels(frame, layout_.labels);
+        if (layout_.labels.empty()) {
+            Say_Why_Empty();
+        }
     }
 
     void Draw_Band() {
@@ -66,6 +69,17 @@ public:
     }
 
 private:
+    void Say_Why_Empty() {
+        constexpr double size = 10;
+        const Figure_Box& box = layout_.main.box;
+        figure_.Add(Figure_Text{.x = (box.left + box.right) / 2,
+                                .y = (box.top + box.bottom) / 2,
+                                .text = "None of the tests says anything about this",
+                                .size = size,
+                                .colour = colours_.quiet,
+                                .anchor = Text_Anchor::Centre});
+    }
+
     [[nodiscard]] std::string Lift_Title() const {
         return With_Unit("Valve lift", Entry_Of(request_.lift_unit).name);
     }
