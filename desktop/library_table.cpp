@@ -18,7 +18,7 @@ std::string_view Name_At(int column) {
 /// In letters of the table.
 int Width_Of(std::string_view column, const QString& title) {
     constexpr int wide = 34;
-    constexpr int middle = 19;
+    constexpr int middle = 23;
     constexpr int least = 8;
     constexpr int valves = 12;
     constexpr int sign_of_order = 3;

@@ -32,8 +32,8 @@ QPushButton* Button(const char* words, QWidget* parent) {
 /// disk has little to do for it.
 milliseconds Rest_After(std::chrono::steady_clock::duration reading) {
     constexpr milliseconds least{2000};
-    constexpr milliseconds most{60000};
-    constexpr int times = 20;
+    constexpr milliseconds most{30000};
+    constexpr int times = 10;
     return std::clamp(std::chrono::duration_cast<milliseconds>(reading * times), least, most);
 }
 
