@@ -163,9 +163,13 @@ void Arrivals::Trigger(const Screen& screen, const QString& entry) const {
 
 void Arrivals::Watch_Drops(Screen_Window& window) {
     window.setAcceptDrops(true);
-    window.winId(); // makes the window of the system
-    window.windowHandle()->installEventFilter(this);
-    window.windowHandle()->setObjectName(window.objectName());
+    // The window of the system comes with its first showing, and no earlier.
+    QTimer::singleShot(0, &window, [this, &window] {
+        if (QWindow* const of_system = window.windowHandle()) {
+            of_system->setObjectName(window.objectName());
+            of_system->installEventFilter(this);
+        }
+    });
 }
 
 bool Arrivals::eventFilter(QObject* watched, QEvent* event) {
