@@ -69,7 +69,7 @@ struct Library_Request {
     std::function<bool(std::size_t read)> goes_on;
     /// What an earlier reading of the folder has found, by the bytes of the names: a file that is
     /// still the same is not read again.
-    std::span<const Library_Entry> known;
+    std::span<const Library_Entry> known{};
 };
 
 /// A part of the library's figures from a test's.
