@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
 # Everything that must hold before a change goes in: what is quick and fails often comes first.
+#   ./test.sh             all of it, for Linux
+#   ./test.sh --windows   the cross build of the library and kestrum-cli, tested under wine
 set -euo pipefail
 cd "$(dirname "$0")"
 jobs=$(nproc)
@@ -12,6 +14,19 @@ build() {
     cmake --preset "$1" -Wno-dev >/dev/null
     cmake --build --preset "$1" -j "$jobs"
 }
+
+if [ "${1:-}" = --windows ]; then
+    tools/install_packages.sh windows
+    export WINEDEBUG=-all
+    step "Build for Windows"
+    build windows-cli
+    step "Tests under wine"
+    ctest --preset windows-cli
+    step "Example cases under wine"
+    python3 tests/cases/check.py build/windows-cli/kestrum-cli.exe
+    printf '\nAll of it passed in %s s\n' "$SECONDS"
+    exit 0
+fi
 
 tools/install_packages.sh test
 

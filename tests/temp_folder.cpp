@@ -1,20 +1,28 @@
 #include "tests/temp_folder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
+#include <string>
+#include <system_error>
 
 namespace kestrum {
 
 namespace fs = std::filesystem;
 
-Temp_Folder::Temp_Folder() : path_((fs::temp_directory_path() / "kestrum-test-XXXXXX").string()) {
-    if (::mkdtemp(path_.data()) == nullptr) {
-        throw std::runtime_error("no folder for the test: " + path_);
+Temp_Folder::Temp_Folder() {
+    std::random_device any;
+    std::error_code taken;
+    for (int tries = 0; tries < 100; ++tries) {
+        path_ = (fs::temp_directory_path() / ("kestrum-test-" + std::to_string(any()))).string();
+        if (fs::create_directory(path_, taken)) {
+            return;
+        }
     }
+    throw std::runtime_error("no folder for the test: " + path_);
 }
 
 Temp_Folder::~Temp_Folder() {
@@ -23,17 +31,17 @@ Temp_Folder::~Temp_Folder() {
 }
 
 std::string Temp_Folder::File(std::string_view name) const {
-    return path_ + "/" + std::string(name);
+    return fs::path(path_ + "/" + std::string(name)).make_preferred().string();
 }
 
 std::string Temp_Folder::Write(std::string_view name, std::string_view bytes) const {
-    std::ofstream file(File(name), std::ios::binary);
+    std::ofstream file(fs::path(File(name)), std::ios::binary);
     file << bytes;
     return File(name);
 }
 
 std::string Bytes_Of(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(fs::path(path), std::ios::binary);
     if (!file) {
         throw std::runtime_error("there is no file " + path);
     }

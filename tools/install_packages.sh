@@ -3,6 +3,7 @@
 #   tools/install_packages.sh run       to build the programs and run them
 #   tools/install_packages.sh package   to make the Debian package of them
 #   tools/install_packages.sh test      to test all of it as well
+#   tools/install_packages.sh windows   to build for Windows what needs no Qt, and test that
 set -euo pipefail
 
 to_run=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core)
@@ -10,12 +11,15 @@ to_package=(lowdown dpkg-dev file)
 to_test=(appstream desktop-file-utils libglib2.0-bin lintian mandoc shared-mime-info
          libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format clang-tidy
          git python3 xvfb)
+to_cross_build=(g++-mingw-w64-x86-64-posix cmake ninja-build nlohmann-json3-dev googletest wine wine64
+                python3)
 
 case "${1:-}" in
     run) wanted=("${to_run[@]}") ;;
     package) wanted=("${to_run[@]}" "${to_package[@]}") ;;
     test) wanted=("${to_run[@]}" "${to_package[@]}" "${to_test[@]}") ;;
-    *) echo "usage: tools/install_packages.sh run|package|test" >&2; exit 2 ;;
+    windows) wanted=("${to_cross_build[@]}") ;;
+    *) echo "usage: tools/install_packages.sh run|package|test|windows" >&2; exit 2 ;;
 esac
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then

@@ -70,9 +70,10 @@ constexpr Pair ln_2{0x1.62e42fefa39efp-1, 0x1.abc9e3b39803fp-56};
 Scaled Exponential(Pair exponent) {
     const double whole = std::floor(exponent.high / ln_2.high + 0.5);
     const Pair rest = exponent + -(Pair{whole} * ln_2);
-    constexpr double sixteenth = 0.0625; // squared four times afterwards
+    constexpr double sixteenth = 0.0625;
+    constexpr int doublings = 4; // which the value follows as squares
     Pair value = Series({rest.high * sixteenth, rest.low * sixteenth}, 0, 1);
-    for (double part = sixteenth; part < 1; part *= 2) {
+    for (int doubling = 0; doubling < doublings; ++doubling) {
         value = value * value;
     }
     return {value, static_cast<int>(whole)};

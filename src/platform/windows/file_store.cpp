@@ -29,7 +29,8 @@ std::string Join_Path(std::string_view folder, std::string_view name) {
 std::vector<std::string> Names_In_Folder(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAW entry{};
-    const std::wstring all = System_Path(folder.empty() ? "." : folder) + L"\\*";
+    std::wstring all = System_Path(folder.empty() ? "." : folder);
+    all += all.ends_with(L'\\') ? L"*" : L"\\*";
     const HANDLE search = ::FindFirstFileW(all.c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) {
         return names;
