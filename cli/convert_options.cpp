@@ -3,6 +3,7 @@
 #include "cli/argument_reader.h"
 #include "cli/line_text.h"
 #include "cli/usage_texts.h"
+#include "platform/file_path.h"
 
 #include <filesystem>
 
@@ -90,7 +91,7 @@ Convert_Options Convert_Options_From(std::span<const char* const> arguments) {
         throw reader.Wrong_Call("-o FILE or -o FOLDER is missing");
     }
     std::error_code unknown;
-    options.into_folder = fs::is_directory(options.output, unknown);
+    options.into_folder = fs::is_directory(File_Path(options.output), unknown);
     if (!options.into_folder && (options.files.size() > 1 || options.output.ends_with('/'))) {
         throw Several_Files_Refused(options.output);
     }

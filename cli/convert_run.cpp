@@ -4,6 +4,7 @@
 #include "cli/convert_sheet.h"
 #include "cli/line_text.h"
 #include "cli/standard_streams.h"
+#include "platform/file_path.h"
 #include "platform/file_store.h"
 #include "platform/new_file.h"
 
@@ -64,7 +65,7 @@ public:
         if (!any_converted_) {
             return;
         }
-        const fs::path output(options_.output);
+        const fs::path output = File_Path(options_.output);
         try {
             Flush_Disk_Of((options_.into_folder ? output : output.parent_path()).string());
         } catch (const Run_Time_Error& failure) {
@@ -99,7 +100,7 @@ private:
         if (!options_.into_folder) {
             return options_.output;
         }
-        const std::string name = fs::path(file).stem().string();
+        const std::string name = File_Path(file).stem().string();
         return Join_Path(options_.output, name + "." + std::string(Ending_Of_Format(options_.to)));
     }
 

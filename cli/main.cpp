@@ -13,6 +13,7 @@
 #include "cli/standard_streams.h"
 #include "cli/usage_error.h"
 #include "cli/usage_texts.h"
+#include "platform/file_path.h"
 #include "platform/program_start.h"
 
 #include <algorithm>
@@ -38,9 +39,9 @@ int Run_Script(std::span<const char* const> arguments) {
     if (options.file == "-") {
         return runner.Run(std::cin, failure);
     }
-    std::ifstream script{std::filesystem::path(options.file)};
+    std::ifstream script(kestrum::File_Path(options.file));
     std::error_code ignored;
-    if (!script || std::filesystem::is_directory(options.file, ignored)) {
+    if (!script || std::filesystem::is_directory(kestrum::File_Path(options.file), ignored)) {
         throw Stream_Error(failure);
     }
     return runner.Run(script, failure);

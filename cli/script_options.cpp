@@ -3,6 +3,7 @@
 #include "application/version.h"
 #include "cli/argument_reader.h"
 #include "cli/line_text.h"
+#include "platform/file_path.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string Program_Folder(std::string_view given) {
-    const fs::path folder = fs::absolute(given).lexically_normal();
+    const fs::path folder = fs::absolute(File_Path(given)).lexically_normal();
     if (!fs::is_directory(folder)) {
         throw Usage_Error("--folder: there is no folder " + Quoted(given));
     }

@@ -1,5 +1,7 @@
 #include "tests/temp_folder.h"
 
+#include "platform/file_path.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -31,17 +33,19 @@ Temp_Folder::~Temp_Folder() {
 }
 
 std::string Temp_Folder::File(std::string_view name) const {
-    return fs::path(path_ + "/" + std::string(name)).make_preferred().string();
+    std::string path = path_ + "/" + std::string(name);
+    std::ranges::replace(path, '/', static_cast<char>(fs::path::preferred_separator));
+    return path;
 }
 
 std::string Temp_Folder::Write(std::string_view name, std::string_view bytes) const {
-    std::ofstream file(fs::path(File(name)), std::ios::binary);
+    std::ofstream file(File_Path(File(name)), std::ios::binary);
     file << bytes;
     return File(name);
 }
 
 std::string Bytes_Of(const std::string& path) {
-    std::ifstream file(fs::path(path), std::ios::binary);
+    std::ifstream file(File_Path(path), std::ios::binary);
     if (!file) {
         throw std::runtime_error("there is no file " + path);
     }
@@ -54,7 +58,7 @@ std::string Temp_Folder::Read(std::string_view name) const {
 
 std::vector<std::string> Temp_Folder::Names() const {
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(path_)) {
+    for (const auto& entry : fs::directory_iterator(File_Path(path_))) {
         names.push_back(entry.path().filename().string());
     }
     std::ranges::sort(names);

@@ -1,6 +1,7 @@
 #include "library/folder_walk.h"
 
 #include "base/text.h"
+#include "platform/file_path.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -15,7 +16,7 @@ namespace fs = std::filesystem;
 class Walk {
 public:
     Walk(const std::string& folder, const std::function<bool()>& goes_on)
-        : folder_(folder), goes_on_(goes_on) {}
+        : folder_(File_Path(folder)), goes_on_(goes_on) {}
 
     [[nodiscard]] Folder_Walk Take() {
         std::error_code failure;
@@ -39,13 +40,14 @@ private:
 
     void Look_Through(const std::string& below) {
         std::error_code failure;
-        fs::directory_iterator entry(folder_ / below, failure);
+        fs::directory_iterator entry(folder_ / File_Path(below), failure);
         while (!failure && entry != fs::directory_iterator() && Goes_On()) {
             Take_Entry(*entry, below);
             entry.increment(failure);
         }
         if (failure) {
-            walk_.problems.push_back((folder_ / below).string() + ": " + failure.message());
+            walk_.problems.push_back((folder_ / File_Path(below)).string() + ": " +
+                                     failure.message());
         }
     }
 

@@ -1,5 +1,6 @@
 #include "platform/file_moves.h"
 
+#include "platform/file_path.h"
 #include "platform/file_store.h"
 
 #include <array>
@@ -23,7 +24,7 @@ std::string Numbered_Name(const fs::path& name, int number) {
 
 std::string Move_To_Fresh_Name(const std::string& path, std::string_view folder) {
     constexpr int most_names = 100000;
-    const fs::path name = fs::path(path).filename();
+    const fs::path name = File_Path(Bare_Name(path));
     for (int number = 1; number <= most_names; ++number) {
         std::string fresh =
             Join_Path(folder, number == 1 ? name.string() : Numbered_Name(name, number));

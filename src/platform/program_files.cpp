@@ -1,5 +1,6 @@
 #include "platform/program_files.h"
 
+#include "platform/file_path.h"
 #include "platform/program_module.h"
 
 #include <initializer_list>
@@ -10,7 +11,7 @@ namespace kestrum {
 std::filesystem::path Program_File(Program_Part part, std::string_view name) {
     namespace fs = std::filesystem;
     std::error_code fault;
-    const fs::path here = Program_Folder();
+    const fs::path here = File_Path(Program_Folder());
     const bool is_library = part == Program_Part::Library;
     const fs::path built = is_library ? here : here / "doc";
     const fs::path installed = here / (is_library ? KESTRUM_LIBRARIES : KESTRUM_DOCUMENTS);
