@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -107,6 +108,33 @@ std::optional<int> Entry_Of(const QStringList& filters, const QString& selected)
     return std::nullopt;
 }
 
+/// The ending that a name without one gets while an entry is in force; empty for none.
+QString Ending_For(const QStringList& filters, const QString& selected, const Chooser& chooser,
+                   qsizetype own_entries) {
+    const int entry = Entry_Of(filters, selected).value_or(0);
+    if (entry == 0) {
+        return {};
+    }
+    const QString ending = Ending_Of(filters[entry - 1]);
+    return entry > own_entries || ending == To_Qt(chooser.completes) ? ending : QString();
+}
+
+/// Whether a completed name is that of a file which is there the chooser looks itself.
+void Help_With_The_Name(QFileDialog& dialog, const Chooser& chooser, qsizetype own_entries) {
+    const auto complete = [&dialog, &chooser, own_entries](const QString& selected) {
+        const QStringList filters = dialog.nameFilters();
+        dialog.setDefaultSuffix(Ending_For(filters, selected, chooser, own_entries));
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, complete);
+    complete(dialog.selectedNameFilter());
+    if (!chooser.proposal.empty()) {
+        dialog.selectFile(To_Qt(chooser.proposal));
+        if (auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) {
+            name->selectAll(); // the first key replaces it
+        }
+    }
+}
+
 } // namespace
 
 QString Text_For_Box(std::string_view text) {
@@ -134,6 +162,9 @@ Box_Answer Desktop_Dialogs::Show_Box(const Box& box) {
     dialog.setTextFormat(Qt::PlainText);
     dialog.setWindowTitle(To_Qt(box.title.empty() ? title_ : box.title));
     dialog.setText(Text_For_Box(box.text));
+    if (const QWidget* const owner = dialog.parentWidget()) { // which test the box is about
+        dialog.setToolTip(owner->windowTitle().section(QStringLiteral("[*]"), 0, 0));
+    }
     dialog.setIcon(Icon_Of(box.icon));
     dialog.setStandardButtons(Buttons_Of(box.buttons));
     return Answer_Of(dialog.exec());
@@ -150,11 +181,15 @@ std::optional<Chosen_Path> Desktop_Dialogs::Choose_File(const Chooser& chooser) 
     dialog.setIconProvider(&icons);
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    const QStringList filters = Name_Filters(chooser.filter);
+    const QStringList own = Name_Filters(chooser.filter);
+    const QStringList filters = own + Name_Filters(chooser.more_entries);
     dialog.setNameFilters(filters);
-    if (!filters.isEmpty()) {
-        const auto last = static_cast<int>(filters.size());
-        dialog.selectNameFilter(filters[std::clamp(chooser.filter_index, 1, last) - 1]);
+    if (!own.isEmpty()) {
+        const auto last = static_cast<int>(own.size());
+        dialog.selectNameFilter(own[std::clamp(chooser.filter_index, 1, last) - 1]);
+    }
+    if (saves) {
+        Help_With_The_Name(dialog, chooser, own.size());
     }
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;

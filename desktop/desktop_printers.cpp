@@ -84,7 +84,7 @@ bool Desktop_Printers::Write_Pdf(const Printable& printable, Paper_Size paper) {
     }
     Write_Whole_File(path->path, Pdf_Bytes(printable, paper));
     if (say) {
-        say(QStringLiteral("Printed to the file ") + To_Qt(path->path));
+        say(QStringLiteral("Saved to ") + To_Qt(path->path));
     }
     return true;
 }

@@ -55,7 +55,7 @@ void Desktop_Windows::Say(const QString& words) const {
     }
     for (const auto& [screen, window] : windows_) {
         if (window == front) {
-            window->Its_Help_Line().Show_Words(words);
+            window->Its_Help_Line().Say(words);
         }
     }
 }

@@ -76,7 +76,7 @@ void Edit_Menu::Step(bool back) {
     const QString nothing = back ? QStringLiteral("There is nothing to undo.")
                                  : QStringLiteral("There is nothing to redo.");
     const QString word = back ? QStringLiteral("Undone: ") : QStringLiteral("Done again: ");
-    help->Show_Words(name ? word + To_Qt(*name) : nothing);
+    help->Say(name ? word + To_Qt(*name) : nothing);
 }
 
 bool Edit_Menu::eventFilter(QObject* /*watched*/, QEvent* event) {

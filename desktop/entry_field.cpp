@@ -4,6 +4,7 @@
 #include "desktop/text_bridge.h"
 #include "desktop/text_views.h"
 #include "desktop/typed_keys.h"
+#include "screens/screen.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -51,8 +52,12 @@ Entry_Field::Entry_Field(Control& its_control, const View_Facts& its_facts, QWid
 
 void Entry_Field::Refresh() {
     Show_Text();
-    if (!shown_once_ || look_ != control.Present_Look()) {
+    if (!shown_once_ || look_ != control.Present_Look() || is_old_ != theme::Is_Old(control)) {
         Show_Look();
+    }
+    if (is_left_ != control.Is_Left()) {
+        is_left_ = control.Is_Left();
+        update();
     }
 }
 
@@ -72,6 +77,7 @@ void Entry_Field::Show_Text() {
 void Entry_Field::Show_Look() {
     const Look& look = control.Present_Look();
     look_ = look;
+    is_old_ = theme::Is_Old(control);
     shown_once_ = true;
     Show_Letters();
     setReadOnly(look_.locked || text() != To_Qt(control.Text()));
@@ -81,10 +87,10 @@ void Entry_Field::Show_Look() {
     update();
 }
 
-/// A field without a font of its own has its page's, which grows with the window. A large one is
+/// A field without letters of its own has its page's, which grows with the window. A large one is
 /// held to the height of its cell.
 void Entry_Field::Show_Letters() {
-    if (theme::Chosen_Font(control) == Font()) {
+    if (theme::Chosen_Font(control) == Font() && !theme::Is_Old(control)) {
         if (own_letters_) {
             own_letters_ = false;
             setFont(QFont());
@@ -166,6 +172,10 @@ bool Entry_Field::Moves_Away(const QKeyEvent& event) {
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+        if (control.Owner().Kind() == Screen_Kind::Engine) {
+            return focusNextChild(); // its cells stand in no columns to go down
+        }
+        [[fallthrough]];
     case Qt::Key_Down:
         facts.events.Move_Focus(*this, Direction::Down);
         return true;
@@ -348,6 +358,9 @@ void Entry_Field::Paint_Frame(QPainter& painter) const {
         veil.setAlphaF(0.2F);
         painter.fillRect(rect(), veil);
         crisp.Frame(cell, foot, theme::Colours().failure);
+    }
+    if (is_left_) {
+        Paint_Left_Mark(painter, QRectF(rect()).adjusted(1, 0, 0, -foot_height));
     }
     if (control.Entry().hover == Hover::Shows) {
         Paint_Information_Mark(painter, rect().adjusted(0, 0, -1, 0));

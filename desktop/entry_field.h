@@ -47,6 +47,8 @@ private:
     void Take_Typed(const QString& text);
 
     Look look_;
+    bool is_old_ = false;
+    bool is_left_ = false;
     bool shown_once_ = false;
     bool own_letters_ = false;
     bool flashes_ = false;

@@ -37,4 +37,11 @@ QStringList Name_Filters(std::string_view filter) {
     return entries;
 }
 
+QString Ending_Of(const QString& entry) {
+    const QString pattern = entry.mid(entry.lastIndexOf(QLatin1Char('(')) + 1).chopped(1);
+    const bool is_one =
+        pattern.startsWith(QLatin1String("*.")) && pattern.count(QLatin1Char('*')) == 1;
+    return is_one ? pattern.mid(1) : QString();
+}
+
 } // namespace kestrum::desktop

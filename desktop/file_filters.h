@@ -10,4 +10,7 @@ namespace kestrum::desktop {
 /// "words (pattern)". A filter that is defective still gives entries that work.
 [[nodiscard]] QStringList Name_Filters(std::string_view filter);
 
+/// The one ending that an entry stands for, ".dat"; empty where it stands for several or for all.
+[[nodiscard]] QString Ending_Of(const QString& entry);
+
 } // namespace kestrum::desktop

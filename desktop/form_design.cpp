@@ -37,8 +37,13 @@ constexpr Form_Design main_design{.column_width = 104,
                                   .information_sample = Place{6, 22, 1, 1}};
 constexpr Form_Design sheet_design{
     .column_width = 66, .row_height = 20, .gap_before_row = 12, .cards = sheet_cards};
-constexpr Form_Design page_2_design{
-    .column_width = 90, .row_height = 20, .gap_before_row = 13, .cards = page_2_cards};
+constexpr Form_Design page_2_design{.column_width = 84,
+                                    .row_height = 20,
+                                    .gap_before_row = 13,
+                                    .row_heads = "Text101",
+                                    .first_row_head = 13,
+                                    .row_heads_width = 66,
+                                    .cards = page_2_cards};
 constexpr Form_Design compare_design{.column_width = 88,
                                      .row_height = 20,
 

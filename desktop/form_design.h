@@ -20,6 +20,11 @@ struct Form_Design {
     int gap_before_row = 0;
     /// That many rows at the top hold frames with options, which need more height than cells.
     int rows_of_options = 0;
+    /// An array of another page of which the members stand before the rows of this one, and the
+    /// width that they take at the theme's own letter size.
+    std::string_view row_heads{};
+    int first_row_head = 0;
+    int row_heads_width = 0;
     /// Parts of the grid that belong together and lie on a card.
     std::span<const Place> cards{};
     /// Stands beside the legend of the fields with a help text.

@@ -6,6 +6,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTimer>
 
 namespace kestrum::desktop {
 
@@ -57,6 +58,18 @@ void Frame_View::Refresh() {
     }
     if (floats_ && shows) {
         raise();
+    }
+    if (floats_ && shows && hidden) {
+        QTimer::singleShot(0, this,
+                           [this] { Take_Focus(); }); // the command that shows it has to end
+    }
+}
+
+/// A panel that opens has what the user goes on with.
+void Frame_View::Take_Focus() const {
+    const std::vector<QWidget*> order = Tab_Order();
+    if (isVisible() && !order.empty()) {
+        order.front()->setFocus(Qt::OtherFocusReason);
     }
 }
 

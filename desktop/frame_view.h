@@ -25,6 +25,7 @@ protected:
 
 private:
     void Place_Page();
+    void Take_Focus() const;
     [[nodiscard]] QFont Caption_Font() const;
 
     Page_Context context_;

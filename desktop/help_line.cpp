@@ -25,6 +25,27 @@ Help_Line::Help_Line(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents); // the cell below goes on being pointed at
     parent->installEventFilter(this);
+    end_of_news_.setSingleShot(true);
+    connect(&end_of_news_, &QTimer::timeout, this, [this] { Say(QString()); });
+}
+
+const QString& Help_Line::Present() const {
+    return !refusal_.isEmpty() ? refusal_ : !news_.isEmpty() ? news_ : words_;
+}
+
+/// The mouse lies over some cell when a box closes: its words must not hide the news at once.
+void Help_Line::Say(const QString& news) {
+    constexpr int milliseconds = 8000;
+    end_of_news_.start(milliseconds);
+    if (news != news_) {
+        news_ = news;
+        Show_Present();
+    }
+}
+
+void Help_Line::Forget_All() {
+    Forget();
+    Say(QString());
 }
 
 void Help_Line::Show_Words(const QString& words) {

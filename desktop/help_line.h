@@ -2,6 +2,8 @@
 
 #include "desktop/text_views.h"
 
+#include <QTimer>
+
 namespace kestrum::desktop {
 
 /// The line at the foot of every window that explains what the mouse is over. It takes one line
@@ -16,6 +18,11 @@ public:
 
     void Forget() { Tell(QString()); }
 
+    /// Tells what a command has done, over the words, for some seconds or until the user goes on.
+    void Say(const QString& news);
+    /// The user goes on.
+    void Forget_All();
+
     /// What the window keeps free for it.
     [[nodiscard]] int Least_Height() const;
 
@@ -25,13 +32,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] const QString& Present() const { return refusal_.isEmpty() ? words_ : refusal_; }
+    [[nodiscard]] const QString& Present() const;
 
     void Show_Present();
     void Take_Place();
 
     QString words_;
     QString refusal_;
+    QString news_;
+    QTimer end_of_news_;
 };
 
 /// Lets the help line show the label that the session writes its help texts to.

@@ -1,9 +1,11 @@
 #include "desktop/notes_field.h"
 
 #include "desktop/text_bridge.h"
+#include "desktop/text_views.h"
 #include "desktop/typed_keys.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QTextCursor>
 #include <QTextOption>
@@ -42,6 +44,7 @@ void Notes_Field::Refresh() {
         document()->setDefaultTextOption(option);
     }
     Show_Common_State(*this, control);
+    viewport()->update();
 }
 
 void Notes_Field::Show_Selection(const Selection& selection) {
@@ -88,6 +91,14 @@ void Notes_Field::keyPressEvent(QKeyEvent* event) {
         return;
     }
     Widget_View::keyPressEvent(event);
+}
+
+void Notes_Field::paintEvent(QPaintEvent* event) {
+    Widget_View::paintEvent(event);
+    if (control.Is_Left()) {
+        QPainter painter(viewport());
+        Paint_Left_Mark(painter, viewport()->rect());
+    }
 }
 
 void Notes_Field::Take_Typed() {

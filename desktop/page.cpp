@@ -92,7 +92,15 @@ void Page::Add_View(Control& control) {
     }
 }
 
+void Page::Add_Second_View(Control& control, const Place& place) {
+    Control_View& view = Make_View(control, Facts_Of(control), this, false);
+    view.Widget()->setObjectName(view.Widget()->objectName() + QLatin1String(" on ") +
+                                 QLatin1String(holder_.data(), qsizetype(holder_.size())));
+    items_.push_back({&view, place});
+}
+
 void Page::Name_Fields_Anew() {
+    update();
     for (const Item& item : items_) {
         if (item.view->control.Is_Text_Box()) {
             item.view->Name_Anew();
@@ -101,6 +109,7 @@ void Page::Name_Fields_Anew() {
 }
 
 void Page::Name_Rows_Anew(const std::set<int>& rows) {
+    update(); // the heads of the rows
     for (const Item& item : items_) {
         if (rows.contains(item.place.row)) {
             item.view->Name_Anew();
@@ -210,7 +219,7 @@ Control_View* Page::View_Of(const Control& control) const {
 }
 
 QSize Page::sizeHint() const {
-    const int width = std::accumulate(widths_.begin(), widths_.end(), 0);
+    const int width = std::accumulate(widths_.begin(), widths_.end(), design_.row_heads_width);
     const int margins = is_panel_ ? 0 : 2 * theme::page_margin;
     return {width + margins, static_cast<int>(row_feet_.back() * design_.row_height) + margins};
 }
@@ -263,8 +272,8 @@ void Page::Set_Letters() {
 
 void Page::Lay_Out() {
     const int margin = is_panel_ ? 0 : theme::page_margin;
-    edges_.assign(1, margin);
-    int sum = 0;
+    int sum = design_.row_heads_width;
+    edges_.assign(1, margin + static_cast<int>(sum * Scale_Across()));
     for (const int width : widths_) {
         sum += width;
         edges_.push_back(margin + static_cast<int>(sum * Scale_Across()));
@@ -299,11 +308,12 @@ void Page::paintEvent(QPaintEvent* /*event*/) {
     for (const Place& place : design_.cards) {
         const bool at_left = place.column == 0;
         const bool at_right = place.column + place.columns == columns_;
-        const QRectF card =
-            QRectF(Area_Of(place)).adjusted(at_left ? -4 : -1, -3, at_right ? 3 : 0, 3);
+        const QRectF card = QRectF(Area_Of(place) | Area_Of_Row_Heads(place))
+                                .adjusted(at_left ? -4 : -1, -3, at_right ? 3 : 0, 3);
         crisp.Card(card, theme::radius, theme::Colours().card_line, theme::Colours().card);
     }
     Paint_Captions(painter);
+    Paint_Row_Heads(painter);
     if (holder_.empty() && design_.information_sample) {
         const QRect cell = Area_Of(*design_.information_sample);
         Paint_Information_Mark(painter,
@@ -319,6 +329,29 @@ void Page::Paint_Captions(QPainter& painter) const {
             line.place.column >= 0) {
             Paint_Fitted(painter, Area_Of(line.place).adjusted(theme::text_padding, 0, -2, 0),
                          Qt::AlignLeft | Qt::AlignVCenter, To_Qt(line.words));
+        }
+    }
+}
+
+/// Left of a card's rows; nothing where no heads stand.
+QRect Page::Area_Of_Row_Heads(const Place& rows) const {
+    if (design_.row_heads_width == 0 || rows.column > 0 || rows.row < design_.first_row_head) {
+        return {};
+    }
+    const QRect cells = Area_Of(rows);
+    return {QPoint(is_panel_ ? 0 : theme::page_margin, cells.top()),
+            QPoint(edges_.front() - 1, cells.bottom())};
+}
+
+/// Cells of another page that tell what a row is of.
+void Page::Paint_Row_Heads(QPainter& painter) const {
+    painter.setPen(QColor::fromRgb(theme::Caption_Ink(Side::Both)));
+    for (int row = design_.first_row_head; row < rows_; ++row) {
+        const Control* const head = context_.screen.Find(design_.row_heads, row);
+        const QRect area = Area_Of_Row_Heads({0, row, 1, 1});
+        if (head != nullptr && !area.isEmpty()) {
+            Paint_Fitted(painter, area.adjusted(theme::text_padding, 0, -theme::text_padding, 0),
+                         Qt::AlignRight | Qt::AlignVCenter, To_Qt(head->Text()));
         }
     }
 }

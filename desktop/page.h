@@ -39,6 +39,9 @@ public:
     /// Makes the view of a control that had none, as of a blank cell that gets a text.
     void Add_View(Control& control);
 
+    /// Shows a control that stands on another page here as well; only there its looks change.
+    void Add_Second_View(Control& control, const Place& place);
+
     /// Words of the trade for a field of the page.
     [[nodiscard]] QString Words_Of(const Control& field) const {
         return map_.Words_With_Lift(field);
@@ -90,6 +93,8 @@ private:
     void Place_Item(const Item& item) const;
     void Set_Letters();
     void Paint_Captions(QPainter& painter) const;
+    [[nodiscard]] QRect Area_Of_Row_Heads(const Place& rows) const;
+    void Paint_Row_Heads(QPainter& painter) const;
 
     Page_Context context_;
     std::string_view holder_;

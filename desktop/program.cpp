@@ -4,6 +4,7 @@
 #include "core/session_snapshot.h"
 #include "desktop/cell_words.h"
 #include "desktop/print_preview.h"
+#include "desktop/recent_menu.h"
 #include "desktop/safe_application.h"
 #include "desktop/text_bridge.h"
 #include "files/kept_tests.h"
@@ -50,9 +51,9 @@ Program::~Program() {
 void Program::Set_Gate_Up() {
     gate_.Set_Follow_Up([this] {
         windows_.Refresh();
-        if (!session_.file.kept.empty()) {
-            windows_.Say(QLatin1String("Saved to ") +
-                         To_Qt(std::exchange(session_.file.kept, std::string())));
+        Note_Used_Files(session_);
+        if (!session_.file.news.empty()) {
+            windows_.Say(To_Qt(std::exchange(session_.file.news, std::string())));
         }
         if (rescue_) {
             rescue_->Note();

@@ -8,6 +8,7 @@
 #include "desktop/library_entry.h"
 #include "desktop/menus.h"
 #include "desktop/print_preview.h"
+#include "desktop/recent_menu.h"
 #include "desktop/test_entries.h"
 #include "desktop/text_bridge.h"
 #include "files/kept_tests.h"
@@ -35,6 +36,7 @@ public:
                              window_.front_->Rows());
             Give_Name(*page_, control);
             Give_Description(*page_, control);
+            Add_Calculate();
             window_.body_->Place_Pages();
         }
         QWidget* const holder = window_.focusWidget();
@@ -53,6 +55,14 @@ public:
     [[nodiscard]] Page* Present_Page() const { return page_; }
 
 private:
+    /// The front page's button lies below this page.
+    void Add_Calculate() {
+        constexpr Place beside_exit{2, 8, 2, 2};
+        if (Control* const calculate = control.Owner().Find("Command1", std::nullopt)) {
+            page_->Add_Second_View(*calculate, beside_exit);
+        }
+    }
+
     Screen_Window& window_;
     Page* page_ = nullptr;
 };
@@ -80,9 +90,11 @@ void Screen_Window::Make_Content() {
     Fill_Menus(*bar, *screen_, *this, [this](Control_View& view) { Keep_View(view); });
     Add_Preview_Entry(*bar, session_, gate_, *screen_);
     Add_Test_Entries(*bar, session_, gate_, keeper_, *screen_);
+    Add_Recent_Menu(*bar, session_, gate_, *screen_);
     edit_menu_ = new Edit_Menu(*this, *bar, gate_, *help_);
     Add_Go_Menu(*this, *bar, session_, gate_, *screen_);
     Add_Library_Entry(*bar, session_, gate_, *screen_);
+    Add_Manual_Entry(*this, *bar, session_, gate_, *screen_, *help_);
     if (bar->actions().isEmpty()) {
         delete bar;
     } else {
@@ -249,6 +261,7 @@ void Screen_Window::Refresh() {
     for (Control* const control : changes) {
         Show_Changed(*control);
     }
+    Show_Age_Of_Results();
     Tell_Pages(changes);
     if (scale_ != screen_->scale && placed_) {
         Take_Stretched_Place();
@@ -258,9 +271,27 @@ void Screen_Window::Refresh() {
         Set_Tab_Order();
     }
     Set_Pointer();
+    Show_Title();
+}
+
+/// An edit makes all results of its screen old at once.
+void Screen_Window::Show_Age_Of_Results() {
+    if (results_are_old_ == screen_->Results_Are_Old()) {
+        return;
+    }
+    results_are_old_ = screen_->Results_Are_Old();
+    for (Control_View* const view : views_) {
+        if (view != nullptr && view->control.Is_Text_Box()) {
+            view->Refresh();
+        }
+    }
+}
+
+void Screen_Window::Show_Title() {
     if (windowTitle() != Title()) {
         setWindowTitle(Title());
     }
+    setWindowModified(screen_->Kind() == Screen_Kind::Sheet && screen_->Is_Unsaved());
 }
 
 void Screen_Window::Tell_Pages(const std::vector<Control*>& changes) {

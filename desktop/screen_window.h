@@ -49,6 +49,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -80,6 +81,10 @@ private:
 
     /// The test comes first: that is what a taskbar has room for.
     [[nodiscard]] QString Title() const;
+    void Show_Title();
+    void Name_Test(const Control& control);
+    [[nodiscard]] bool Take_Kept_Place();
+    void Show_Age_Of_Results();
     void Keep_What_Closes();
     void Make_Content();
     void Keep_View(Control_View& view);
@@ -113,6 +118,7 @@ private:
     Help_Line* help_ = nullptr;
     bool tab_order_stale_ = false;
     bool plain_pointer_ = false;
+    bool results_are_old_ = false;
     bool placed_ = false;
     Screen_Scale scale_; // that the window has been given
     bool painted_ = false;

@@ -16,6 +16,31 @@ namespace kestrum::desktop {
 
 namespace {
 
+/// What is to be known of a cell besides its help text.
+QString Words_Of_Age(const Control& control) {
+    if (theme::Is_Old(control)) {
+        return QStringLiteral("This result is from before the last change. Calculate brings it up "
+                              "to date.");
+    }
+    return control.Is_Left() ? QStringLiteral("The file that was loaded does not name this input: "
+                                              "it stands from before.")
+                             : QString();
+}
+
+/// The sheet that a button of `Main` opens, or that an option of the comparison stands for; 0 for
+/// none.
+int Sheet_Meant_By(const Control& control) {
+    const std::string_view array = control.Entry().array;
+    const Screen_Kind kind = control.Owner().Kind();
+    if (kind == Screen_Kind::Compare && (array == "Option1" || array == "Option2")) {
+        return control.Index() + 1;
+    }
+    const std::string_view buttons = "Command";
+    const bool opens = kind == Screen_Kind::Engine && array.starts_with(buttons) &&
+                       array.size() == buttons.size() + 1 && array.back() <= '0' + sheet_count;
+    return opens ? array.back() - '0' : 0;
+}
+
 /// Where the focus comes from when the user has not moved it.
 bool Is_Return_Of_Focus(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
@@ -47,7 +72,7 @@ void Screen_Window::Picked(Control& combo, const std::string& text) {
 }
 
 void Screen_Window::Typed(Control& field, const std::string& text) {
-    help_->Forget();
+    help_->Forget_All();
     keeper_.Edited(field);
     const Control_State before = field.Present_State();
     gate_.Enter([&] { field.Set_Text(text); });
@@ -95,7 +120,7 @@ void Screen_Window::Focus_Came(Control_View& view, Qt::FocusReason reason) {
     // A window that shows for the first time gets the focus without a move of the user's, too.
     const bool returns = Is_Return_Of_Focus(reason) && keeper_.Is_At(view.control);
     if (!keeper_.Is_At(view.control)) {
-        help_->Forget();
+        help_->Forget_All();
         // While a routine runs the move is its own.
         gate_.Enter_Command([&] { static_cast<void>(keeper_.Goes_To(view.control)); });
     }
@@ -135,16 +160,33 @@ std::optional<Placed_Logo> Screen_Window::Logo() {
     return Shown_Logo(session_);
 }
 
+/// Which test a control stands for shows under the mouse.
+void Screen_Window::Name_Test(const Control& control) {
+    const int number = Sheet_Meant_By(control);
+    Control_View* const view = View_Of(control);
+    if (number > 0 && view != nullptr) {
+        const Screen_Id id{Screen_Kind::Sheet, number};
+        const bool is_there = session_.Is_Loaded(id);
+        view->Widget()->setToolTip(is_there ? To_Qt(session_.Sheet(number).Text102(0).Text())
+                                            : QString());
+    }
+}
+
 void Screen_Window::Hovered(Control& control) {
     if (screen_ == nullptr) {
         return;
     }
+    Name_Test(control);
     help_->Forget();
+    const QString age = Words_Of_Age(control);
     if (screen_->Find("Label7", std::nullopt) == nullptr) {
-        help_->Show_Words(Lines_To_Qt(control.Entry().tip));
+        help_->Show_Words(age.isEmpty() ? Lines_To_Qt(control.Entry().tip) : age);
         return;
     }
     gate_.Enter([&] { Hover_Over(control); });
+    if (!age.isEmpty()) {
+        help_->Show_Words(age);
+    }
 }
 
 void Screen_Window::Hovered_Form() {

@@ -3,6 +3,8 @@
 #include "application/events.h"
 #include "application/new_test.h"
 #include "application/undo_history.h"
+#include "desktop/help_line.h"
+#include "desktop/manual.h"
 #include "desktop/text_bridge.h"
 #include "files/kept_tests.h"
 
@@ -132,6 +134,23 @@ void Add_Go_Menu(QWidget& window, QMenuBar& bar, Session& session, Gate& gate, S
         return;
     }
     bar.insertMenu(bar.actions().value(2), menu);
+}
+
+void Add_Manual_Entry(QWidget& window, QMenuBar& bar, Session& session, Gate& gate,
+                      const Screen& screen, Help_Line& help) {
+    auto* const entry = new QAction(QStringLiteral("&Manual"), &window);
+    entry->setShortcut(QKeySequence(Qt::Key_F1));
+    window.addAction(entry);
+    QObject::connect(entry, &QAction::triggered, &window,
+                     [&session, &gate, &help, kind = screen.Kind()] {
+                         gate.Enter([&] { help.Say(Open_Manual(session, kind)); });
+                     });
+    auto* const own = bar.findChild<QMenu*>(To_Qt(screen.Name() + ".Help"));
+    if (own != nullptr) {
+        own->insertAction(own->actions().value(0), entry);
+    } else if (!bar.actions().isEmpty()) {
+        bar.addMenu(QStringLiteral("&Help"))->addAction(entry);
+    }
 }
 
 } // namespace kestrum::desktop

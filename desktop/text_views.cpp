@@ -58,13 +58,28 @@ void Paint_Wrapped(QPainter& painter, const QRect& area, int flags, const QStrin
     painter.setFont(usual);
 }
 
-void Paint_Information_Mark(QPainter& painter, const QRect& cell) {
-    constexpr int size = 6;
-    const QPointF corner(cell.right() + 1, cell.top());
+namespace {
+
+/// `across` and `down` tell where the cell lies from its corner, and how far the mark goes.
+void Paint_Corner(QPainter& painter, const QPointF& corner, double across, double down,
+                  QRgb colour) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgb(theme::Colours().information));
-    painter.drawPolygon(QPolygonF{corner, corner - QPointF(size, 0), corner + QPointF(0, size)});
+    painter.setBrush(QColor::fromRgb(colour));
+    painter.drawPolygon(QPolygonF{corner, corner + QPointF(across, 0), corner + QPointF(0, down)});
+}
+
+} // namespace
+
+void Paint_Left_Mark(QPainter& painter, const QRectF& cell) {
+    constexpr int size = 8;
+    Paint_Corner(painter, cell.bottomLeft(), size, -size, theme::Colours().warning);
+}
+
+void Paint_Information_Mark(QPainter& painter, const QRect& cell) {
+    constexpr int size = 6;
+    Paint_Corner(painter, QPointF(cell.right() + 1, cell.top()), -size, size,
+                 theme::Colours().information);
 }
 
 QRect Cell_Dots(const Crisp& crisp, const QRectF& area) {
@@ -75,19 +90,22 @@ QRect Cell_Dots(const Crisp& crisp, const QRectF& area) {
 Text_View::Text_View(Control& its_control, const View_Facts& its_facts, QWidget* parent)
     : Widget_View(its_control, its_facts, parent),
       text_(Lines_To_Qt(its_control.Text())),
-      look_(its_control.Present_Look()) {
+      look_(its_control.Present_Look()),
+      is_old_(theme::Is_Old(its_control)) {
     Show_Common_State(*this, control);
 }
 
 void Text_View::Refresh() {
     QString text = Lines_To_Qt(control.Text());
-    const bool changed = text != text_ || look_ != control.Present_Look();
+    const bool is_old = theme::Is_Old(control);
+    const bool changed = text != text_ || look_ != control.Present_Look() || is_old_ != is_old;
     if (QAccessible::isActive() && text != text_) {
         QAccessibleTextUpdateEvent news(this, 0, text_, text);
         QAccessible::updateAccessibility(&news);
     }
     text_ = std::move(text);
     look_ = control.Present_Look();
+    is_old_ = is_old;
     if (changed) {
         Show_Common_State(*this, control);
         update();
@@ -109,7 +127,8 @@ Cell_View::Cell_View(Control& its_control, const View_Facts& its_facts, QWidget*
 
 QString Cell_View::Spoken_Name() const {
     if (is_result_) {
-        return facts.events.Words_Of(control);
+        return facts.events.Words_Of(control) +
+               QLatin1String(theme::Is_Old(control) ? ", not calculated anew" : "");
     }
     const Own_Words* const own = Own_Words_Of(control);
     return own == nullptr ? Shown_Text() : To_Qt(own->words) + QLatin1String(": ") + Shown_Text();

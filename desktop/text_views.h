@@ -29,6 +29,7 @@ protected:
 private:
     QString text_;
     Look look_;
+    bool is_old_;
 };
 
 /// A cell that takes no input: a caption, a heading or a result. A click selects it for copying.
@@ -89,6 +90,9 @@ void Paint_Wrapped(QPainter& painter, const QRect& area, int flags, const QStrin
 
 /// The dots of a cell without the gap to its neighbours.
 [[nodiscard]] QRect Cell_Dots(const Crisp& crisp, const QRectF& area);
+
+/// The small corner that says: what stands here is from before the file that was loaded.
+void Paint_Left_Mark(QPainter& painter, const QRectF& cell);
 
 /// The small corner that says: the mouse over this shows additional information.
 void Paint_Information_Mark(QPainter& painter, const QRect& cell);

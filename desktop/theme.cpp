@@ -19,6 +19,20 @@ const Colour_Scheme& Colours() {
     return usual;
 }
 
+namespace {
+
+bool Looks_Like_A_Result(const Look& look) {
+    return look.back_colour == result_back || look.text_colour == result_text;
+}
+
+} // namespace
+
+bool Is_Old(const Control& field) {
+    return field.Is_Text_Box() && field.Entry().use != Cell_Use::Caption &&
+           Looks_Like_A_Result(field.Present_Look()) &&
+           (field.Is_Left() || field.Owner().Results_Are_Old());
+}
+
 Cell_Colours Colours_Of(const Control& field) {
     const Look& look = field.Present_Look();
     const Side_Colours& side = Colours().Of(look.side);
@@ -28,12 +42,16 @@ Cell_Colours Colours_Of(const Control& field) {
                          .foot = side.mark,
                          .stripe = 0,
                          .dashed = look.side == Side::Exhaust};
-    if (look.back_colour == result_back || look.text_colour == result_text) {
+    if (Looks_Like_A_Result(look)) {
         colours.back = side.result_back;
         colours.text = side.result_text;
         colours.line = colours.back;
         colours.foot = colours.back;
         colours.stripe = look.side == Side::Both ? 0 : side.mark;
+        if (Is_Old(field)) {
+            colours.back = colours.line = colours.foot = Colours().window;
+            colours.text = Colours().quiet_ink;
+        }
     } else if (look.locked) {
         colours.foot = colours.line;
         colours.dashed = false;
@@ -71,15 +89,16 @@ Font Chosen_Font(const Control& field) {
 QFont Font_Of(const Control& field, const QFont& usual) {
     const Font chosen = Chosen_Font(field);
     const Font stored;
-    if (chosen == stored) {
-        return usual;
-    }
     QFont font = usual;
+    if (chosen == stored) {
+        font.setItalic(Is_Old(field));
+        return font;
+    }
     font.setFamily(To_Qt(chosen.name));
     font.setPixelSize(
         std::max(smallest_pixels, static_cast<int>(usual.pixelSize() * chosen.size / stored.size)));
     font.setBold(chosen.bold);
-    font.setItalic(chosen.italic);
+    font.setItalic(chosen.italic != Is_Old(field));
     return font;
 }
 

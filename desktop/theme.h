@@ -28,6 +28,8 @@ struct Cell_Colours {
 /// The theme's colours for the look that the session has given a field. Intake and exhaust have a
 /// hue of their own.
 [[nodiscard]] Cell_Colours Colours_Of(const Control& field);
+/// Whether a result is not of what stands in the inputs now: it shows greyed and slanted.
+[[nodiscard]] bool Is_Old(const Control& field);
 /// Colour of a heading or caption of a side.
 [[nodiscard]] QRgb Caption_Ink(Side side);
 /// Colour of a marker label; nothing shows for a marker that the session has put out.

@@ -1,4 +1,5 @@
 #include "application/events.h"
+#include "application/new_test.h"
 #include "application/undo_history.h"
 #include "graph/graph_state.h"
 #include "platform/file_store.h"
@@ -21,11 +22,12 @@ std::string Seen(Session& session) {
         if (screen.Kind() == Screen_Kind::Graph) {
             return;
         }
-        all += "\n" + screen.Name();
+        all += "\n" + screen.Name() + (screen.Results_Are_Old() ? " old" : "");
         for (const Control& control : screen.Controls()) {
             const Control_State& state = control.Present_State();
             all += "|" + state.text + std::to_string(state.value) +
                    std::to_string(state.look.back_colour) + (state.look.locked ? "L" : "") +
+                   (state.is_left ? "!" : "") +
                    std::to_string(static_cast<int>(state.look.alignment));
         }
     });
@@ -86,6 +88,31 @@ protected:
         Click("Form1.Load_Data");
     }
 
+    void Import(const std::string& path) {
+        if (Is_Open("Form1")) {
+            bench_.platform.Choose(path);
+            Click("Form1.Import_CSV");
+        }
+    }
+
+    void Begin(New_Test kind) {
+        if (Is_Open("Form1")) {
+            Do("New Test", [&] { Begin_New_Test(bench_.session.Sheet(1), kind); });
+        }
+    }
+
+    /// A block of two lifts and a flow.
+    void Paste(const std::string& text) {
+        if (Is_Open("Form1")) {
+            const Flow_Sheet& sheet = bench_.session.Sheet(1);
+            Do("Paste", [&] {
+                Enter_Block(bench_.session, {{&sheet.Text101(18), text},
+                                             {&sheet.Text101(19), text},
+                                             {&sheet.Text106(19), text}});
+            });
+        }
+    }
+
     Test_Bench bench_;
     Undo_History history_{bench_.session};
 };
@@ -93,11 +120,19 @@ protected:
 TEST_F(Undo, Random_Work_Comes_Back_To_The_Byte_And_Is_Done_Again) {
     const std::string file = bench_.folder.File("iron.dat");
     Write_Whole_File(file, "Text102_0 = Iron\r\nText104_1 = 80\r\nText103_20 = 95\r\n");
+    const std::string table = bench_.folder.File("table.csv");
+    Write_Whole_File(table, "Lift,Intake,Exhaust\r\n0.1,70,50\r\n0.2,130,100\r\n0.3,180,140\r\n");
     const std::vector<std::function<void(unsigned)>> acts{
         [&](unsigned n) { Type("Form1.Text101(20)", std::to_string(n % 900 + 1)); },
         [&](unsigned n) { Type("Form2.Text104(3)", "1." + std::to_string(n % 9 + 1)); },
         [&](unsigned n) { Type("Main.Text101(7)", std::to_string(n % 90 + 1)); },
         [&](unsigned) { Click("Form1.Command1"); },
+        [&](unsigned) { Click("Form50.Command1"); },
+        [&](unsigned n) { Click("Form50.Option3(" + std::to_string(n % 18) + ")"); },
+        [&](unsigned) { Click("Form1.Sort"); },
+        [&](unsigned n) { Begin(n % 2 == 0 ? New_Test::Empty : New_Test::From_This_Head); },
+        [&](unsigned) { Import(table); },
+        [&](unsigned n) { Paste(std::to_string(n % 800 + 1)); },
         [&](unsigned) { Click("Main.Check2"); },
         [&](unsigned) { Click("Main.Check1"); },
         [&](unsigned) { Click("Main.AligRight"); },

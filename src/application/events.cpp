@@ -54,7 +54,26 @@ void Check_Valve_Count(Session& session, Control& field, std::string_view messag
     }
 }
 
+/// One who types .100 means a hundred thousandths.
+void Tell_Thousandths(Session& session, const Control& lift) {
+    constexpr double thousand = 1000;
+    try {
+        const Real inches = session.numbers(lift);
+        if (!session.Main().Is_Metric() && inches > 0 && inches < 1) {
+            std::string meant = session.numbers.Fmt_Up_To_Five(inches * thousand);
+            if (meant.ends_with(session.numbers.Point() + std::string("0"))) {
+                meant.resize(meant.size() - 2);
+            }
+            session.file.news =
+                "Lifts are in thousandths of an inch: " + meant + " for " + lift.Text();
+        }
+    } catch (const Run_Time_Error&) {
+        return; // a text that is no number is told elsewhere
+    }
+}
+
 void Copy_Lift(Session& session, const Control& lift) {
+    Tell_Thousandths(session, lift);
     session.Sheet(lift.Owner().Id().number).Text108(lift.Index()).Set_Text(lift.Text());
 }
 

@@ -63,7 +63,9 @@ Flow_Sheet* First_Free_Sheet(Session& session) {
 
 void Open_Engine_File(Session& session, const std::string& path) {
     if (const auto bytes = Bytes_Of(session, path, "MAIN Data File has Not been Loaded")) {
-        static_cast<void>(Read_Main_Records(session, *bytes));
+        if (Read_Main_Records(session, *bytes)) {
+            session.file.used.push_back({path, Screen_Kind::Engine});
+        }
         session.Show(session.Main());
     }
 }
@@ -71,7 +73,9 @@ void Open_Engine_File(Session& session, const std::string& path) {
 void Open_Test(Session& session, Flow_Sheet& sheet, const std::string& path) {
     if (const auto bytes = Bytes_Of(session, path, "Flow Data File has Not been Loaded")) {
         const Test_Format format = Format_Of_Ending(path).value_or(Test_Format::Dat);
-        static_cast<void>(Read_Test(session, sheet, format, *bytes));
+        if (Read_Test(session, sheet, format, *bytes)) {
+            session.file.used.push_back({path, Screen_Kind::Sheet});
+        }
         // Also when the reading has stopped: what was read by then stands in the sheet.
         sheet.Text39.Set_Text(path);
         session.Show(sheet);

@@ -18,14 +18,21 @@ bool Is_Work(const Control& control, const Control_State& before, const Control_
     look.visible = after.look.visible;
     look.enabled = after.look.enabled;
     return control.Entry().array != "Label7" &&
-           (before.text != after.text || before.value != after.value || look != after.look);
+           (before.text != after.text || before.is_left != after.is_left ||
+            before.value != after.value || look != after.look);
 }
 
 bool Differs_In_Text_Alone(const Control_State& before, const Control_State& after) {
     Control_State other = before;
     other.text = after.text;
+    other.is_left = after.is_left;
     return other == after && before.text.find('\0') == std::string::npos &&
            after.text.find('\0') == std::string::npos;
+}
+
+/// The text with its mark before it and a NUL behind it.
+std::string Packed(const Control_State& state) {
+    return (state.is_left ? "!" : " ") + state.text + '\0';
 }
 
 /// The pen and the filter are tools that the user holds, not work.
@@ -93,10 +100,14 @@ Undo_History::Moment Undo_History::Present_Moment() const {
 std::optional<Undo_History::Screen_Change>
 Undo_History::Change_Of(const Screen& screen, const Screen_State& before,
                         const Screen_State& after) const {
-    if (before.controls == after.controls) {
+    const bool is_calculated = before.calculated_from != after.calculated_from;
+    if (before.controls == after.controls && !is_calculated) {
         return std::nullopt;
     }
-    Screen_Change change{.screen = screen.Id(), .is_work = false};
+    Screen_Change change{.screen = screen.Id(),
+                         .is_work = is_calculated,
+                         .calculated_from = before.calculated_from,
+                         .calculated_from_after = after.calculated_from};
     const auto controls = screen.Controls();
     for (std::size_t index = 0; index < controls.size(); ++index) {
         const Control_State& old_state = (*before.controls)[index];
@@ -107,8 +118,8 @@ Undo_History::Change_Of(const Screen& screen, const Screen_State& before,
         change.is_work = change.is_work || Is_Work(controls[index], old_state, new_state);
         if (Differs_In_Text_Alone(old_state, new_state)) {
             change.texts.indices.push_back(static_cast<std::uint16_t>(index));
-            change.texts.before += old_state.text + '\0';
-            change.texts.after += new_state.text + '\0';
+            change.texts.before += Packed(old_state);
+            change.texts.after += Packed(new_state);
         } else {
             change.controls.push_back({index, old_state, new_state});
         }
@@ -211,7 +222,10 @@ void Undo_History::Typed(const Control& field, const Control_State& before,
     }
     const Variables present{session_.numbers, session_.settings};
     Keep({.name = name(),
-          .screens = {{.screen = field.Owner().Id(), .controls = {{index, before, after}}}},
+          .screens = {{.screen = field.Owner().Id(),
+                       .controls = {{index, before, after}},
+                       .calculated_from = field.Owner().Calculated_From(),
+                       .calculated_from_after = field.Owner().Calculated_From()}},
           .before = present,
           .after = present});
     is_typing_ = true;
@@ -312,11 +326,14 @@ void Undo_History::Put(const Screen_Change& change, bool back) {
         }
         return;
     }
-    const auto controls = session_.The(change.screen).Controls();
+    Screen& screen = session_.The(change.screen);
+    screen.Set_Calculated_From(back ? change.calculated_from : change.calculated_from_after);
+    const auto controls = screen.Controls();
     std::string_view texts = back ? change.texts.before : change.texts.after;
     for (const std::size_t index : change.texts.indices) {
         const std::size_t length = texts.find('\0');
-        controls[index].Set_Text(texts.substr(0, length));
+        controls[index].Set_Text(texts.substr(1, length - 1));
+        controls[index].Set_Left(texts.front() == '!');
         texts.remove_prefix(length + 1);
     }
     for (const Control_Change& control : change.controls) {

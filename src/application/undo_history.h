@@ -65,7 +65,7 @@ private:
     /// thousands, and a hundred steps must cost little.
     struct Packed_Texts {
         std::vector<std::uint16_t> indices;
-        std::string before; // each text with a NUL behind it
+        std::string before; // each text between its mark and a NUL
         std::string after;
     };
 
@@ -77,6 +77,9 @@ private:
         std::optional<Screen_State> before{};
         std::optional<Screen_State> after{};
         bool is_work = true;
+        /// Digests of the inputs that the results are of.
+        std::uint64_t calculated_from = 0;
+        std::uint64_t calculated_from_after = 0;
     };
 
     struct Variables {

@@ -196,7 +196,9 @@ void Session::Unload(Screen& screen) {
 Box_Answer Session::Message(const Box& box) {
     mouse_down = false;
     windows.Show_Changes();
-    const Box_Answer answer = dialogs.Show_Box(box);
+    Box titled = box;
+    titled.title = box.title.empty() ? box_topic : box.title;
+    const Box_Answer answer = dialogs.Show_Box(titled);
     answers.box = Answer_Number(answer);
     return answer;
 }

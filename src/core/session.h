@@ -19,6 +19,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
 namespace kestrum {
 
@@ -33,8 +34,16 @@ struct File_Transfer {
     std::string path;
     int records_read = 0;
     int records_written = 0;
-    /// What was written last for the user, until a face has told it.
-    std::string kept;
+    /// What there is to tell the user beside the boxes, until a face has told it.
+    std::string news;
+
+    struct Used {
+        std::string path;
+        Screen_Kind kind;
+    };
+
+    /// Tests and main data files that the user has loaded or saved, until a face has noted them.
+    std::vector<Used> used;
 };
 
 /// What the font dialog gave, or a file in its place, before it is looked at.
@@ -96,11 +105,13 @@ public:
     bool mouse_down = false;
     /// Set by the exit: whether the session file was written.
     std::optional<bool> exit_saved;
+    /// What boxes without a title of their own are about; empty: nothing that has to be named.
+    std::string box_topic;
 
     /// All of them, to be kept and put back as a whole.
     [[nodiscard]] auto Variables() {
         return std::tie(numbers, settings, display, file, answers, wings, title_text, mouse_down,
-                        exit_saved);
+                        exit_saved, box_topic);
     }
 
     Dialogs& dialogs;

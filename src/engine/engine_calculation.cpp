@@ -145,6 +145,7 @@ void Calc_Engine(Session& session) {
     steps.Torque();
     steps.Port_Limit();
     steps.Specific_Power();
+    main.Note_Calculation();
 }
 
 } // namespace kestrum

@@ -3,6 +3,7 @@
 #include "base/units.h"
 
 #include <array>
+#include <functional>
 
 namespace kestrum {
 
@@ -226,6 +227,15 @@ private:
     bool to_metric_;
 };
 
+/// Results go with the inputs they were worked out from.
+void Convert_As_It_Stands(Screen& screen, const std::function<void()>& convert) {
+    const bool results_are_old = screen.Results_Are_Old();
+    convert();
+    if (!results_are_old) {
+        screen.Note_Calculation();
+    }
+}
+
 } // namespace
 
 void Set_Metric(Session& session, bool metric) {
@@ -240,9 +250,11 @@ void Convert_Units(Session& session) {
     for (int number = 1; number <= sheet_count; ++number) {
         static_cast<void>(session.Sheet(number)); // created before the first text changes
     }
-    converter.Convert_Main(session.Main());
+    Engine_Screen& main = session.Main();
+    Convert_As_It_Stands(main, [&] { converter.Convert_Main(main); });
     for (int number = 1; number <= sheet_count; ++number) {
-        converter.Convert_Sheet(session.Sheet(number));
+        Flow_Sheet& sheet = session.Sheet(number);
+        Convert_As_It_Stands(sheet, [&] { converter.Convert_Sheet(sheet); });
     }
 }
 

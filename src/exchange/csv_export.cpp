@@ -48,7 +48,8 @@ std::string CSV_File_Text(Session& session, const Flow_Sheet& sheet) {
 
 void Export_CSV_File(Session& session, const Flow_Sheet& sheet) {
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Save, csv_filter, 1);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, csv_filter, 1,
+                                        {.proposal = Proposal_For(session, sheet, ".csv")});
         Keep_File(session, session.file.path, CSV_File_Text(session, sheet));
     } catch (const Run_Time_Error&) {
         session.Message("CSV File was Not Saved", Box_Icon::Exclamation);

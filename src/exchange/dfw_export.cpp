@@ -107,7 +107,8 @@ void Export_DFW_File(Session& session, const Flow_Sheet& sheet) {
     const bool for_engine_analyzer = Is_For_Engine_Analyzer(session);
     Dfw_File file;
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Save, dfw_filter, 1);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, dfw_filter, 1,
+                                        {.proposal = Proposal_For(session, sheet, ".dfw")});
         // Composed first: a text that is no number must not cost the file that is there.
         file = Dfw_File_Of(session, sheet, for_engine_analyzer);
         Keep_File(session, session.file.path, file.text);

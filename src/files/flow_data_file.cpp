@@ -5,6 +5,7 @@
 #include "platform/file_store.h"
 #include "records/named_files.h"
 #include "records/record_reading.h"
+#include "records/unnamed_inputs.h"
 
 #include <algorithm>
 #include <array>
@@ -17,6 +18,7 @@ namespace {
 
 constexpr std::string_view flow_data_filter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Flow Data Files (*.dat)|*.dat";
+constexpr const char* flow_data_ending = ".dat";
 constexpr std::string_view loading_failed =
     "Error Loading Flow Data File --- If you have Not edited the file Please Contact us!";
 constexpr Reading_Words flow_data_reading{.not_handled_title = "TARVEX - Error Message",
@@ -164,8 +166,12 @@ std::string Flow_File_Text(Session& session, const Flow_Sheet& sheet) {
 
 void Save_Flow_File(Session& session, Flow_Sheet& sheet) {
     try {
-        session.file.path = Chosen_File(session, Chooser_Mode::Save, flow_data_filter, 3);
+        session.file.path = Chosen_File(session, Chooser_Mode::Save, flow_data_filter, 3,
+                                        {.proposal = Proposal_For(session, sheet, flow_data_ending),
+                                         .completes = flow_data_ending});
         Keep_File(session, session.file.path, Flow_File_Text(session, sheet));
+        sheet.Note_Saved();
+        session.file.used.push_back({session.file.path, Screen_Kind::Sheet});
     } catch (const Run_Time_Error&) {
         session.Message("Flow Data File has NOT been Saved", Box_Icon::Exclamation);
         return;
@@ -184,6 +190,7 @@ void Load_Flow_File(Session& session, Flow_Sheet& sheet, std::string_view name) 
         return;
     }
     if (Read_Flow_Records(session, sheet, bytes) && name.empty()) {
+        session.file.used.push_back({session.file.path, Screen_Kind::Sheet});
         session.Message(session.numbers.Fmt_Thousands(session.file.records_read) + " Records Read");
     }
     // Behind the decimal switch, which would make ".dat" ",dat".
@@ -194,17 +201,24 @@ bool Read_Flow_Records(Session& session, Flow_Sheet& sheet, std::string_view byt
                        Flow_Calculation calculate) {
     const std::string content = Decoded(bytes);
     Line_Reader lines(content);
+    Unnamed_Inputs unnamed(sheet);
     const auto put = [&](const Record& record) {
-        return Put_Record(session.numbers, sheet, record);
+        return unnamed.Saw(Put_Record(session.numbers, sheet, record));
     };
     try {
         Clear_Last_Rows(sheet);
-        if (!Read_Records(session, lines, sheet.Text38, flow_data_reading, put)) {
+        const bool is_whole = Read_Records(session, lines, sheet.Text38, flow_data_reading, put);
+        unnamed.Note(is_whole);
+        if (!is_whole) {
+            unnamed.Tell(session);
             return false;
         }
         Apply_Decimal_Mode(session.numbers, sheet);
+        sheet.Note_Saved();
         calculate(session, sheet);
+        unnamed.Tell(session);
     } catch (const Run_Time_Error&) {
+        unnamed.Note(false);
         Report_Bad_Record(session, lines.Line());
         return false;
     }

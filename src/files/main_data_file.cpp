@@ -7,6 +7,7 @@
 #include "platform/file_store.h"
 #include "records/named_files.h"
 #include "records/record_reading.h"
+#include "records/unnamed_inputs.h"
 
 namespace kestrum {
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr std::string_view main_data_filter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Main Data Files (*.dta)|*.dta";
+constexpr const char* main_data_ending = ".dta";
 constexpr Reading_Words main_data_reading{
     .not_handled_title = "MAIN - Error Message",
     .stopped = "Error Loading Main Data File --- If you have Not edited the file Please Contact "
@@ -32,6 +34,21 @@ void Report_Bad_Record(Session& session, const Run_Time_Error& failure, std::str
                         .title = "TARVEX - Error Message"});
 }
 
+/// The file that the user has loaded or saved last.
+struct Main_File {
+    std::string path;
+};
+
+void Take_As_Used(Session& session) {
+    session.wings.Of<Main_File>().path = session.file.path;
+    session.file.used.push_back({session.file.path, Screen_Kind::Engine});
+}
+
+std::string Proposal_For(const Session& session) {
+    const std::string& path = session.wings.Of<Main_File>().path;
+    return path.empty() ? "main" + std::string(main_data_ending) : path;
+}
+
 } // namespace
 
 std::string Main_File_Text(Session& session) {
@@ -41,12 +58,19 @@ std::string Main_File_Text(Session& session) {
 }
 
 bool Save_Main_File(Session& session) {
+    bool is_users = false;
     try {
         if (session.file.path.empty()) {
-            session.file.path = Chosen_File(session, Chooser_Mode::Save, main_data_filter, 3);
+            session.file.path =
+                Chosen_File(session, Chooser_Mode::Save, main_data_filter, 3,
+                            {.proposal = Proposal_For(session), .completes = main_data_ending});
+            is_users = true;
         }
         Calc_Engine(session);
         Keep_File(session, session.file.path, Main_File_Text(session));
+        if (is_users) {
+            Take_As_Used(session);
+        }
         return true;
     } catch (const Run_Time_Error&) {
         session.Message("MAIN Data File has NOT been Saved");
@@ -62,21 +86,33 @@ bool Load_Main_File(Session& session, std::string_view name) {
         session.Message("MAIN Data File has Not been Loaded");
         return false;
     }
-    return Read_Main_Records(session, bytes);
+    const bool is_read = Read_Main_Records(session, bytes);
+    if (is_read && name.empty()) {
+        Take_As_Used(session);
+    }
+    return is_read;
 }
 
 bool Read_Main_Records(Session& session, std::string_view bytes) {
     const std::string content = Decoded(bytes);
     Line_Reader lines(content);
     Engine_Screen& main = session.Main();
-    const auto put = [&session](const Record& record) { return Put_Main_Record(session, record); };
+    Unnamed_Inputs unnamed(main);
+    const auto put = [&](const Record& record) {
+        return unnamed.Saw(Put_Main_Record(session, record));
+    };
     try {
-        if (!Read_Records(session, lines, main.Text38, main_data_reading, put)) {
+        const bool is_whole = Read_Records(session, lines, main.Text38, main_data_reading, put);
+        unnamed.Note(is_whole);
+        if (!is_whole) {
+            unnamed.Tell(session);
             return false;
         }
         Apply_Decimal_Mode(session.numbers, main);
         Calc_Engine(session);
+        unnamed.Tell(session);
     } catch (const Run_Time_Error& failure) {
+        unnamed.Note(false);
         Report_Bad_Record(session, failure, lines.Line());
         return false;
     }

@@ -103,7 +103,9 @@ void Calculate(Session& session, const std::vector<Left_Copy>& loaded) {
     Quietly([&] { Calc_Engine(session); });
     for (const Left_Copy& copy : loaded) {
         if (copy.screen.kind != Screen_Kind::Engine) {
+            session.box_topic = Title_Of(copy.screen);
             Quietly([&] { Calc_Flow_Test(session, Sheet_Of(session, copy)); });
+            session.box_topic.clear();
         }
     }
 }

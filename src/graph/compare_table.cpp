@@ -243,7 +243,11 @@ void Fill_Half(Session& session, const Control_Array& options, std::string& labe
 } // namespace
 
 void Fill_Compare_Table(Session& session) {
-    const Compare_Screen& table = session.Form50();
+    Compare_Screen& table = session.Form50();
+    table.Note_Calculation();
+    for (Control& control : table.Controls()) {
+        control.Set_Left(control.Entry().use == Cell_Use::Result); // until it is written
+    }
     Fill_Half(session, table.Option1, Graph_Of(session).from_label, Fill_From);
     Fill_Half(session, table.Option2, Graph_Of(session).to_label, Fill_To);
 }

@@ -54,10 +54,13 @@ void Write_Graph(Session& session, const std::string& path) {
 void Save_Graph(Session& session) {
     constexpr std::string_view filter = "All Files (*.*)|*.*|Graphics Files (*.bmp)|*.bmp";
     constexpr int bitmaps = 2;
+    constexpr const char* by_name = "PNG Pictures (*.png)|*.png|SVG Drawings (*.svg)|*.svg|"
+                                    "PDF Documents (*.pdf)|*.pdf|BMP Pictures (*.bmp)|*.bmp";
     try {
-        const std::string path = Chosen_File(session, Chooser_Mode::Save, filter, bitmaps);
+        const std::string path =
+            Chosen_File(session, Chooser_Mode::Save, filter, bitmaps, {.more_entries = by_name});
         Write_Graph(session, path);
-        session.file.kept = path;
+        Tell_Saved(session, path);
     } catch (const Run_Time_Error&) {
         session.Message("Graph has Not been Saved", Box_Icon::Exclamation);
     }

@@ -28,6 +28,12 @@ struct Chooser {
     std::string filter;
     int filter_index = 1;
     std::string folder;
+    /// Name or path that a chooser for saving begins with; empty: none.
+    std::string proposal{};
+    /// Ending that it puts behind a name without one while the entry in force is for it, ".dat".
+    std::string completes{};
+    /// Entries behind those of the filter, for a user at a display; these complete names as well.
+    std::string more_entries{};
 
     [[nodiscard]] bool Overwrite_Prompt() const { return mode == Chooser_Mode::Save; }
 };

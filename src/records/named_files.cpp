@@ -3,14 +3,36 @@
 #include "base/text.h"
 #include "platform/file_store.h"
 
+#include <algorithm>
+
 namespace kestrum {
 
+namespace {
+
+/// Where the last name of a path has its ending, or the end of the path.
+std::size_t Start_Of_Ending(std::string_view path) {
+    const std::size_t name = path.rfind('/') + 1;
+    const std::size_t point = path.rfind('.');
+    return point == std::string_view::npos || point <= name ? path.size() : point;
+}
+
+bool Is_Unfit_For_A_Name(char character) {
+    constexpr std::string_view unfit = "/\\:*?\"<>|";
+    return static_cast<unsigned char>(character) < ' ' ||
+           unfit.find(character) != std::string_view::npos;
+}
+
+} // namespace
+
 Chosen_Path Choice_Of_File(Session& session, Chooser_Mode mode, std::string_view filter,
-                           int filter_index) {
+                           int filter_index, const Name_Help& help) {
     auto choice = session.dialogs.Choose_File({.mode = mode,
                                                .filter = std::string(filter),
                                                .filter_index = filter_index,
-                                               .folder = session.surroundings.folder});
+                                               .folder = session.surroundings.folder,
+                                               .proposal = help.proposal,
+                                               .completes = help.completes,
+                                               .more_entries = help.more_entries});
     if (!choice) {
         Fail(error::path_or_file_access);
     }
@@ -18,8 +40,19 @@ Chosen_Path Choice_Of_File(Session& session, Chooser_Mode mode, std::string_view
 }
 
 std::string Chosen_File(Session& session, Chooser_Mode mode, std::string_view filter,
-                        int filter_index) {
-    return Choice_Of_File(session, mode, filter, filter_index).path;
+                        int filter_index, const Name_Help& help) {
+    return Choice_Of_File(session, mode, filter, filter_index, help).path;
+}
+
+std::string Proposal_For(const Session& session, const Flow_Sheet& sheet, std::string_view ending) {
+    const std::string& shown = sheet.Text39.Text();
+    if (!shown.empty()) {
+        const std::string path = Path_Of_Named_File(session, shown);
+        return path.substr(0, Start_Of_Ending(path)) + std::string(ending);
+    }
+    std::string name(Without_Outer_Blanks(sheet.Text102(0).Text()));
+    std::ranges::replace_if(name, Is_Unfit_For_A_Name, '-');
+    return name.empty() ? name : name + std::string(ending);
 }
 
 std::string Path_Of_Named_File(const Session& session, std::string_view name) {
@@ -40,9 +73,13 @@ std::string Path_Of_Named_File(const Session& session, std::string_view name) {
     return File_Exists(dotted) ? dotted : path;
 }
 
+void Tell_Saved(Session& session, const std::string& path) {
+    session.file.news = "Saved to " + path;
+}
+
 void Keep_File(Session& session, const std::string& path, std::string_view bytes) {
     Write_Whole_File(path, bytes);
-    session.file.kept = path;
+    Tell_Saved(session, path);
 }
 
 std::string Bytes_Of_File(Session& session, std::string_view name, std::string_view filter) {

@@ -68,8 +68,16 @@ std::string Control::Address() const {
 }
 
 void Control::Set_Text(std::string_view new_text) {
-    if (state_.text != new_text) {
+    if (state_.text != new_text || state_.is_left) {
         state_.text = new_text;
+        state_.is_left = false;
+        Mark_Changed();
+    }
+}
+
+void Control::Set_Left(bool left) {
+    if (state_.is_left != left) {
+        state_.is_left = left;
         Mark_Changed();
     }
 }
@@ -133,6 +141,7 @@ void Control::Set_State(const Control_State& new_state) {
 
 void Control::Mark_Changed() {
     screen_->kept_states_.reset();
+    screen_->Forget_Findings();
     if (!changed_) {
         changed_ = true;
         screen_->changes_.push_back(this);

@@ -55,6 +55,8 @@ struct Extent {
 /// All of a control that can change.
 struct Control_State {
     std::string text;
+    /// The last calculation, or the last file, has brought no text for it: what it shows is older.
+    bool is_left = false;
     int value = 0;
     Look look{};
     Position position{};
@@ -86,6 +88,12 @@ public:
 
     void Set_Text(std::string_view new_text);
     void Append_Text(std::string_view more);
+
+    /// Whether the text is older than what the last calculation or file has brought. A text that
+    /// is set, be it the same, ends that.
+    [[nodiscard]] bool Is_Left() const { return state_.is_left; }
+
+    void Set_Left(bool left);
 
     /// State of a check box (0 or 1) or an option button.
     [[nodiscard]] int Value() const { return state_.value; }

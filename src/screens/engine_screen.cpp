@@ -273,7 +273,7 @@ constexpr auto engine_table = std::to_array<Control_Entry>({
     Menu("", "Help", "&Help"),
     Menu("Help", "Report_Problem", "EMAIL - Customer Support - Report Problem"),
     Menu("Help", "Information_Request", "EMAIL - Customer Support - Information Request"),
-    Menu("Help", "About", "&About").Keys("F1"),
+    Menu("Help", "About", "&About"),
 });
 
 } // namespace

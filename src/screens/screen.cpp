@@ -1,6 +1,7 @@
 #include "screens/screen.h"
 
 #include "base/run_time_error.h"
+#include "screens/digest.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -38,6 +39,8 @@ Screen::Screen(Screen_Id id, std::span<const Control_Entry> table) : id_(id), na
             members[static_cast<std::size_t>(index)] = &control;
         }
     }
+    Note_Calculation();
+    Note_Saved();
 }
 
 Control* Screen::Find(std::string_view array, std::optional<int> index) {
@@ -75,6 +78,8 @@ Screen_State Screen::Present_State() {
             .plain_pointer = plain_pointer,
             .place = place,
             .scale = scale,
+            .calculated_from = calculated_from_,
+            .saved_as = saved_as_,
             .controls = kept_states_};
 }
 
@@ -83,6 +88,9 @@ void Screen::Set_State(const Screen_State& state) {
     plain_pointer = state.plain_pointer;
     place = state.place;
     scale = state.scale;
+    calculated_from_ = state.calculated_from;
+    saved_as_ = state.saved_as;
+    Forget_Findings();
     if (state.controls == kept_states_) {
         return; // nothing has changed since
     }
@@ -90,6 +98,42 @@ void Screen::Set_State(const Screen_State& state) {
         controls_[index].Set_State((*state.controls)[index]);
     }
     kept_states_ = state.controls;
+}
+
+void Screen::Note_Calculation() {
+    for (Control& control : controls_) {
+        control.Set_Left(false);
+    }
+    Set_Calculated_From(Digest_Of_Figures(*this));
+}
+
+void Screen::Set_Calculated_From(std::uint64_t digest) {
+    calculated_from_ = digest;
+    Forget_Findings();
+}
+
+bool Screen::Results_Are_Old() {
+    if (!results_are_old_) {
+        results_are_old_ = calculated_from_ != Digest_Of_Figures(*this);
+    }
+    return *results_are_old_;
+}
+
+void Screen::Note_Saved() {
+    saved_as_ = Digest_Of_Inputs(*this);
+    Forget_Findings();
+}
+
+bool Screen::Is_Unsaved() {
+    if (!is_unsaved_) {
+        is_unsaved_ = saved_as_ != Digest_Of_Inputs(*this);
+    }
+    return *is_unsaved_;
+}
+
+void Screen::Forget_Findings() {
+    results_are_old_.reset();
+    is_unsaved_.reset();
 }
 
 const Control_Array& Screen::Array(std::string_view array_name) const {

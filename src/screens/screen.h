@@ -4,6 +4,7 @@
 #include "screens/control_entry.h"
 #include "screens/screen_id.h"
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
@@ -57,6 +58,8 @@ struct Screen_State {
     bool plain_pointer = false;
     Position place{};
     Screen_Scale scale{};
+    std::uint64_t calculated_from = 0;
+    std::uint64_t saved_as = 0;
     /// In table order.
     std::shared_ptr<const std::vector<Control_State>> controls;
 };
@@ -102,6 +105,19 @@ public:
     /// hidden by the session.
     void Set_State(const Screen_State& state);
 
+    /// The results are those of the present inputs, wherever these came from, until one changes.
+    void Note_Calculation();
+    [[nodiscard]] bool Results_Are_Old();
+
+    /// Digest of the inputs that the results were worked out from.
+    [[nodiscard]] std::uint64_t Calculated_From() const { return calculated_from_; }
+
+    void Set_Calculated_From(std::uint64_t digest);
+
+    /// The present inputs stand in a file, or are those that the screen begins with.
+    void Note_Saved();
+    [[nodiscard]] bool Is_Unsaved();
+
     /// A control array by its name. A name that the table lacks is a fault of the program.
     [[nodiscard]] const Control_Array& Array(std::string_view array_name) const;
 
@@ -111,6 +127,8 @@ protected:
 private:
     friend class Control;
 
+    void Forget_Findings();
+
     Screen_Id id_;
     std::string name_;
     std::vector<Control> controls_;
@@ -119,6 +137,11 @@ private:
     std::vector<Control*> changes_;
     /// The controls as they stand, if they have been asked for since the last change.
     std::shared_ptr<const std::vector<Control_State>> kept_states_;
+    // Digests of inputs, and what has been found by them since the last change.
+    std::uint64_t calculated_from_ = 0;
+    std::uint64_t saved_as_ = 0;
+    std::optional<bool> results_are_old_;
+    std::optional<bool> is_unsaved_;
 };
 
 } // namespace kestrum

@@ -39,6 +39,7 @@ void Calc_Flow(Session& session, Flow_Sheet& sheet, const Flow_Units& units) {
             Calc_Lift_Row(context, row);
         }
         Calc_Averages(context);
+        sheet.Note_Calculation();
     } catch (const Run_Time_Error& failure) {
         Report_Failure(session, failure);
     }

@@ -3,6 +3,7 @@
 #include "desktop/text_bridge.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -23,7 +24,12 @@ Surroundings Around(const Temp_Folder& folder) {
 
 } // namespace
 
-Desktop_Bench::Desktop_Bench() : program(dialogs, Around(folder)) {
+Desktop_Bench::Desktop_Bench(bool with_left_settings) : program(dialogs, Around(folder)) {
+    if (!with_left_settings) {
+        QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("kestrum"),
+                  QStringLiteral("desktop"))
+            .clear();
+    }
     if (!program.Start()) {
         throw std::runtime_error("the program does not start");
     }

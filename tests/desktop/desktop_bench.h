@@ -16,7 +16,8 @@ namespace kestrum::desktop {
 /// script, and one that nobody expected fails the test instead of waiting for somebody.
 class Desktop_Bench {
 public:
-    Desktop_Bench();
+    /// The desktop has the user's settings as they come, or as the bench before has left them.
+    explicit Desktop_Bench(bool with_left_settings = false);
     ~Desktop_Bench();
     Desktop_Bench(const Desktop_Bench&) = delete;
     Desktop_Bench& operator=(const Desktop_Bench&) = delete;

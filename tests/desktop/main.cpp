@@ -3,12 +3,16 @@
 #include "desktop/theme_style.h"
 #include "tests/desktop/typing_child.h"
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 int main(int count, char* values[]) { // NOLINT(*-avoid-c-arrays)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    const QTemporaryDir settings; // never those of who runs the tests
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     testing::InitGoogleTest(&count, values);
     const kestrum::desktop::Safe_Application application(count, values);
     QApplication::setQuitOnLastWindowClosed(false);

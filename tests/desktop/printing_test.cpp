@@ -32,7 +32,7 @@ TEST(Printing, Pdf_File_Is_The_Last_Printer_And_Asks_For_A_Name) {
     bench.dialogs.Choose(bench.folder.File("o.pdf"));
     Trigger(bench, "Form1.Print_Sheet");
     EXPECT_TRUE(bench.folder.Read("o.pdf").starts_with("%PDF"));
-    EXPECT_EQ(said.toStdString(), "Printed to the file " + bench.folder.File("o.pdf"));
+    EXPECT_EQ(said.toStdString(), "Saved to " + bench.folder.File("o.pdf"));
     bench.dialogs.Choose(std::nullopt);
     Trigger(bench, "Form1.Print_Sheet"); // a cancel is no failure
     EXPECT_EQ(bench.Take_Events().back(), "chooser to save");
