@@ -4,6 +4,7 @@
 #include "screens/screen.h"
 
 #include <QApplication>
+#include <QTimer>
 
 namespace kestrum::desktop {
 
@@ -50,6 +51,11 @@ void Desktop_Windows::Show_Behind(Screen& screen) {
 
 void Desktop_Windows::Say(const QString& words) const {
     const QWidget* front = QApplication::activeWindow();
+    if (front == nullptr && !windows_.empty()) { // a box has closed, and its window comes back soon
+        constexpr int milliseconds = 100;
+        QTimer::singleShot(milliseconds, windows_.begin()->second, [this, words] { Say(words); });
+        return;
+    }
     while (front != nullptr && front->parentWidget() != nullptr) {
         front = front->parentWidget(); // a preview belongs to the window that it came from
     }
