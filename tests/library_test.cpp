@@ -53,7 +53,7 @@ TEST(Library_Order, Open_Sheets_Stand_On_Top_And_Unknown_Values_Below_In_Both_Di
 TEST(Library_Reading, Reads_Again_What_Has_Changed_And_Nothing_Else) {
     const Temp_Folder folder;
     const auto listed = [&folder](std::span<const Library_Entry> known) {
-        return Read_Library({.folder = folder.Path(), .known = known},
+        return Read_Library({.folder = folder.Path(), .goes_on = {}, .known = known},
                             Tests_Below(folder.Path()).tests);
     };
     folder.Write("a.csv", "lift,intake\n.1,50\n.2,90\n");
