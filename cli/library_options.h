@@ -10,10 +10,10 @@ namespace kestrum::cli {
 
 /// How `kestrum-cli library` was called.
 struct Library_Options {
-    std::string folder;
+    std::string folder{};
     Output_Format format = Output_Format::Text;
     bool metric_files = false;
-    std::string where;                    // in lower case
+    std::string where{};                  // in lower case
     const Library_Column* sort = nullptr; // null: as the files are named
     unsigned jobs = 1;
     bool to_terminal = false;

@@ -29,6 +29,8 @@ constexpr std::string_view jeep =
 
 /// SVG is written without one.
 struct No_Painter : Painter {
+    using Painter::Picture_Of; // of several pages
+
     std::string Picture_Of(const Drawing& /*drawing*/, Picture_Format /*format*/,
                            const std::optional<Placed_Logo>& /*logo*/) override {
         Fail(error::invalid_picture);

@@ -66,7 +66,7 @@ struct Library_Request {
     bool metric = false; // the numbers of `.dat` files
     unsigned jobs = 1;
     /// Told of each test that was read, from any thread; false gives the rest up.
-    std::function<bool(std::size_t read)> goes_on;
+    std::function<bool(std::size_t read)> goes_on{};
     /// What an earlier reading of the folder has found, by the bytes of the names: a file that is
     /// still the same is not read again.
     std::span<const Library_Entry> known{};
