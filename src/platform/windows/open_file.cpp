@@ -168,8 +168,8 @@ int Handle_Of_New_File(const std::string& path, bool /*secret: the folder tells 
     Refuse_Forbidden_Name(path);
     // What is written goes on to the disk: only administrators may flush all of it.
     const HANDLE file =
-        ::CreateFileW(System_Path(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, all_may,
-                      nullptr, CREATE_NEW, FILE_FLAG_WRITE_THROUGH, nullptr);
+        ::CreateFileW(System_Path(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE | WRITE_DAC,
+                      all_may, nullptr, CREATE_NEW, FILE_FLAG_WRITE_THROUGH, nullptr);
     if (file != INVALID_HANDLE_VALUE) {
         return Number_Of(file);
     }

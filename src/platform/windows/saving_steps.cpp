@@ -95,27 +95,25 @@ Save_Target Target_Of(const std::string& path) {
     return target;
 }
 
-void Take_Over_Rights(const Open_File& /*made*/, const Save_Target& /*target*/) {
-    // The system does it when one file takes the place of the other.
+void Take_Over_Rights(const Open_File& made, const Save_Target& target) {
+    const std::wstring old = System_Path(target.path);
+    DWORD size = 0;
+    ::GetFileSecurityW(old.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::string rights(size, '\0');
+    // A disk that keeps no rights has none to hand on.
+    if (::GetFileSecurityW(old.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size) !=
+        0) {
+        ::SetKernelObjectSecurity(Of_System(made), DACL_SECURITY_INFORMATION, rights.data());
+    }
 }
 
 void Put_In_Place(const std::string& path, const Save_Target& target) {
+    // Not ReplaceFileW, which takes the old file away first: a kill in between leaves no file.
     const std::wstring from = System_Path(path);
     const std::wstring to = System_Path(target.path);
     Try_For_A_While([&] {
-        if (target.exists &&
-            ::ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
-                           nullptr, nullptr) != 0) {
-            return TRUE;
-        }
-        // A new name, or a disk that cannot hand rights on.
-        const DWORD failure = target.exists ? ::GetLastError() : ERROR_FILE_NOT_FOUND;
-        const bool without_rights = failure == ERROR_FILE_NOT_FOUND ||
-                                    failure == ERROR_NOT_SUPPORTED ||
-                                    failure == ERROR_INVALID_FUNCTION;
-        return without_rights ? ::MoveFileExW(from.c_str(), to.c_str(),
-                                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)
-                              : FALSE;
+        return ::MoveFileExW(from.c_str(), to.c_str(),
+                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
     });
 }
 
