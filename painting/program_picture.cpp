@@ -9,7 +9,7 @@ namespace {
 
 constexpr int accent = 0x17696A;
 constexpr int soft = 0xD7EAEA;
-constexpr int paper = 0xFFFFFF;
+constexpr int sheet_white = 0xFFFFFF;
 constexpr double units = 64; // side of the drawing
 
 using Points = std::vector<Figure_Point>;
@@ -99,7 +99,7 @@ Figure Program_Picture() {
     Fill(figure, Plate(), accent);
     Fill(figure, Flow(), soft);
     Fill(figure, Mirrored(Flow()), soft);
-    Fill(figure, Valve(), paper);
+    Fill(figure, Valve(), sheet_white);
     return figure;
 }
 
