@@ -37,7 +37,7 @@ QString Path_Of_Manual() {
     }
     const QDir program(QCoreApplication::applicationDirPath());
     for (const char* const place : {"../../docs/manual.md", "docs/manual.md"}) {
-        const QString path = QDir::cleanPath(program.filePath(QLatin1String(place)));
+        QString path = QDir::cleanPath(program.filePath(QLatin1String(place)));
         if (QFileInfo::exists(path)) {
             return path;
         }
