@@ -89,6 +89,10 @@ Save_Target Target_Of(const std::string& path) {
         (target.exists && ((kind & FILE_ATTRIBUTE_DIRECTORY) != 0 || Is_Link(kind)))) {
         Fail(error::path_or_file_access);
     }
+    // A file that may not be written is not replaced either.
+    if (target.exists && (kind & FILE_ATTRIBUTE_READONLY) != 0) {
+        Fail(error::permission_denied);
+    }
     if (target.exists) {
         Look_At(target);
     }
