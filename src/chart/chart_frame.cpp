@@ -38,7 +38,7 @@ double Chart_Frame::Value_At(double y) const {
 bool Chart_Frame::Has(const Lift_Point& point) const {
     const auto lies_in = [](const Axis_Scale& scale, double value) {
         const double slack = (scale.high - scale.low) * 1e-9;
-        return value >= scale.low - slack && value <= scale.high + hair;
+        return value >= scale.low - slack && value <= scale.high + slack;
     };
     return lies_in(lifts, point.lift) && lies_in(values, point.value);
 }
