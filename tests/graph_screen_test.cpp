@@ -22,6 +22,7 @@ const std::string not_saved = "exclamation box: Graph has Not been Saved";
 /// Paints what was asked for as words.
 struct Word_Painter : Painter {
     using Painter::Picture_Of; // of several pages
+
     std::string Picture_Of(const Drawing& drawing, Picture_Format format,
                            const std::optional<Placed_Logo>& logo) override {
         constexpr std::array names{"BMP", "PNG", "SVG", "PDF"};

@@ -20,6 +20,7 @@ namespace {
 /// Notes the texts of the graph that it is to paint.
 struct Noting_Painter : Painter {
     using Painter::Picture_Of; // of several pages
+
     std::string Picture_Of(const Drawing& drawing, Picture_Format /*format*/,
                            const std::optional<Placed_Logo>& logo) override {
         EXPECT_FALSE(logo);

@@ -16,6 +16,7 @@ namespace {
 /// Keeps the pages that it is to paint.
 struct Page_Keeper : Painter {
     using Painter::Picture_Of; // of several pages
+
     std::string Picture_Of(const Drawing& /*drawing*/, Picture_Format /*format*/,
                            const std::optional<Placed_Logo>& /*logo*/) override {
         return {};
