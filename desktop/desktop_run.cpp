@@ -12,14 +12,17 @@
 #include "desktop/text_access.h"
 #include "desktop/text_bridge.h"
 #include "desktop/theme_style.h"
+#include "platform/program_start.h"
 #include "platform/running_program.h"
 
 #include <QApplication>
 #include <QDir>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <exception>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -44,6 +47,7 @@ const char* const usage =
 
 /// What can be answered without a display. Gives false when there is nothing of the kind.
 bool Answers_At_Once(const Start_Options& options) {
+    Borrow_Terminal();
     if (options.wants_help) {
         std::fputs(usage, stdout);
     } else if (options.wants_version) {
@@ -127,19 +131,25 @@ int Run(const Start_Options& options, const Program_Hook& before_start) {
 int Run_Desktop(int count, char* values[],
                 const Program_Hook& before_start) { // NOLINT(*-avoid-c-arrays)
     try {
-        const Start_Options first_look =
-            Options_From(std::vector<std::string>(values + 1, values + count));
+        std::vector<std::string> texts = Program_Arguments(count, values);
+        const Start_Options first_look = Options_From(texts);
         if (Answers_At_Once(first_look)) {
             return first_look.fault.empty() ? 0 : exit_unusable;
         }
+        std::vector<char*> arguments{values[0]};
+        std::ranges::transform(texts, std::back_inserter(arguments),
+                               [](std::string& text) { return text.data(); });
+        arguments.push_back(nullptr);
         // Takes its own arguments out of the list.
-        const Safe_Application application(count, values);
+        count = static_cast<int>(texts.size()) + 1;
+        const Safe_Application application(count, arguments.data());
         QApplication::setApplicationName(QStringLiteral("kestrum"));
         QApplication::setDesktopFileName(QStringLiteral("kestrum"));
         QApplication::setQuitOnLastWindowClosed(false); // the session ends the program
         Apply_Theme();
         Install_Text_Access();
-        return Run(Options_From(std::vector<std::string>(values + 1, values + count)),
+        return Run(Options_From(
+                       std::vector<std::string>(arguments.begin() + 1, arguments.begin() + count)),
                    before_start);
     } catch (const std::exception& fault) {
         std::fputs("kestrum: ", stderr);

@@ -2,6 +2,7 @@
 
 #include "desktop/text_bridge.h"
 #include "platform/sound_file.h"
+#include "platform/system_sound.h"
 
 #include <QDesktopServices>
 #include <QProcess>
@@ -49,6 +50,9 @@ bool Desktop_Shell::Open(const std::string& address) {
 bool Desktop_Shell::Play(const std::string& path) {
     if (!Is_Sound_File(path)) {
         return false;
+    }
+    if (Play_By_System(path)) {
+        return true;
     }
     for (const Player& player : players) {
         if (Start(player, To_Qt(path))) {

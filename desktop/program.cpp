@@ -85,7 +85,7 @@ void Program::Keep_Rescue_Copies() {
     rescue_ = std::make_unique<Rescue>(session_);
     gate_.Enter_Command([this] { rescue_->Offer(); }, "Load Rescue Copies");
     rescue_clock_.start(milliseconds);
-    end_signals_ = std::make_unique<End_Signals>([this] { Keep_Before_The_End(); });
+    last_act_ = std::make_unique<Last_Act>([this] { Keep_Before_The_End(); });
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &rescue_clock_,
                      [this] { Keep_Before_The_End(); });
 }
@@ -111,7 +111,7 @@ void Program::End() {
     ended_ = true;
     Keep_Last_Session(session_);
     gate_.Set_History(nullptr);
-    end_signals_.reset();
+    last_act_.reset();
     rescue_clock_.stop();
     if (rescue_) {
         rescue_->Finish(session_.exit_saved.value_or(false));

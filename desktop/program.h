@@ -6,8 +6,8 @@
 #include "desktop/desktop_printers.h"
 #include "desktop/desktop_shell.h"
 #include "desktop/desktop_windows.h"
-#include "desktop/end_signals.h"
 #include "desktop/gate.h"
+#include "desktop/last_act.h"
 #include "files/rescue.h"
 #include "painting/qt_painter.h"
 
@@ -61,7 +61,7 @@ private:
     Undo_History history_{session_};
     std::unique_ptr<Rescue> rescue_;
     QTimer rescue_clock_;
-    std::unique_ptr<End_Signals> end_signals_;
+    std::unique_ptr<Last_Act> last_act_;
     bool started_ = false;
     /// `Main` has gone, and with it the session.
     bool ended_ = false;

@@ -4,6 +4,8 @@
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "desktop/text_bridge.h"
+#include "platform/file_store.h"
+#include "platform/program_module.h"
 #include "platform/running_program.h"
 
 #include <QCoreApplication>
@@ -28,8 +30,8 @@ constexpr std::string_view library_option = "--library";
 const char* const session_file = "zxqw1234.sav";
 
 bool Is_Portable(const QString& folder) {
-    return QFileInfo(folder).isWritable() &&
-           QFileInfo::exists(QDir(folder).filePath(QLatin1String(session_file)));
+    return QFileInfo::exists(QDir(folder).filePath(QLatin1String(session_file))) &&
+           May_Write_In(From_Qt(folder));
 }
 
 /// The folder that is wanted, and whether somebody has named it.
@@ -51,7 +53,7 @@ Wish Wanted_Folder(const Start_Options& options) {
         return {own};
     }
     return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-            QLatin1String("/kestrum")};
+            QLatin1Char('/') + To_Qt(Name_Of_Own_Folder())};
 }
 
 /// A folder of this user's alone; empty when there is none to be had.

@@ -32,6 +32,9 @@ namespace kestrum {
 /// Whether there is a file, and no folder, that may be read.
 [[nodiscard]] bool Can_Be_Read(const std::string& path);
 
+/// Whether files can be made in a folder.
+[[nodiscard]] bool May_Write_In(const std::string& folder);
+
 /// Makes a folder with all above it; false when it cannot be had. One that is there is fine.
 [[nodiscard]] bool Make_Folder(const std::string& path);
 /// Gives a file another name, over one that bears it, as far as that can be done.

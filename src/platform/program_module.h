@@ -8,6 +8,9 @@ namespace kestrum {
 /// The folder that the running program lies in.
 [[nodiscard]] std::string Program_Folder();
 
+/// How the program's own folder is called among those of the user's programs.
+[[nodiscard]] std::string Name_Of_Own_Folder();
+
 /// A routine that a module of the program holds, to be taken for the type it has there.
 struct Module_Routine {
     void* routine = nullptr;

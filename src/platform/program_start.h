@@ -15,6 +15,9 @@ namespace kestrum {
 /// and what is printed goes into it.
 void Prepare_Standard_Streams();
 
+/// A program with windows, which the system may give no streams, prints where it was started from.
+void Borrow_Terminal();
+
 /// Whether what is printed goes to a terminal, which obeys the control characters in it.
 [[nodiscard]] bool Prints_To_Terminal();
 

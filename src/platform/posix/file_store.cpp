@@ -77,6 +77,10 @@ bool Can_Be_Read(const std::string& path) {
     return fs::is_regular_file(path, failed) && ::access(path.c_str(), R_OK) == 0;
 }
 
+bool May_Write_In(const std::string& folder) {
+    return ::access(folder.c_str(), W_OK) == 0;
+}
+
 bool Make_Folder(const std::string& path) {
     std::error_code failed;
     fs::create_directories(path, failed);

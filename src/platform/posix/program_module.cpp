@@ -14,6 +14,10 @@ std::string Program_Folder() {
     return std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path().string();
 }
 
+std::string Name_Of_Own_Folder() {
+    return "kestrum";
+}
+
 Module_Routine Routine_Of_Module(std::string_view module, const char* routine) {
     const std::string name = std::string(module) + ".so";
     // By its whole path: a bare name is looked for in the system's folders.

@@ -19,6 +19,10 @@ void Prepare_Standard_Streams() {
     }
 }
 
+void Borrow_Terminal() {
+    // It has the streams of its caller.
+}
+
 bool Prints_To_Terminal() {
     return ::isatty(STDOUT_FILENO) == 1;
 }

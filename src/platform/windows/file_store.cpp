@@ -68,6 +68,17 @@ bool Can_Be_Read(const std::string& path) {
     return true;
 }
 
+bool May_Write_In(const std::string& folder) {
+    const HANDLE found = ::CreateFileW(System_Path(folder).c_str(), FILE_ADD_FILE,
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (found == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    ::CloseHandle(found);
+    return true;
+}
+
 bool Make_Folder(const std::string& path) {
     const std::wstring folder = System_Path(path);
     // From the top down, from behind the disk on.

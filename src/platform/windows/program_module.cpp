@@ -29,6 +29,10 @@ std::string Program_Folder() {
     return Narrow_Text(program.substr(0, program.find_last_of(L'\\')));
 }
 
+std::string Name_Of_Own_Folder() {
+    return "Kestrum";
+}
+
 Module_Routine Routine_Of_Module(std::string_view module, const char* routine) {
     const std::string name = std::string(module) + ".dll";
     // By its whole path: a bare name is looked for in the system's folders.

@@ -2,6 +2,7 @@
 
 #include "platform/windows/system_path.h"
 
+#include <cstdio>
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
@@ -32,6 +33,14 @@ void Prepare_Standard_Streams() {
         ::_setmode(number, _O_BINARY);
     }
     ::SetConsoleOutputCP(CP_UTF8);
+}
+
+void Borrow_Terminal() {
+    if (::_get_osfhandle(::_fileno(stdout)) < 0 && ::AttachConsole(ATTACH_PARENT_PROCESS) != 0) {
+        static_cast<void>(std::freopen("CONOUT$", "w", stdout));
+        static_cast<void>(std::freopen("CONOUT$", "w", stderr));
+        ::SetConsoleOutputCP(CP_UTF8);
+    }
 }
 
 bool Prints_To_Terminal() {

@@ -1,17 +1,14 @@
 #include "platform/running_program.h"
 
+#include "platform/file_moves.h"
+#include "platform/file_path.h"
+#include "platform/meeting_socket.h"
+
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <charconv>
-#include <cstring>
 #include <filesystem>
-#include <poll.h>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
 #include <thread>
-#include <unistd.h>
 
 namespace kestrum {
 
@@ -32,11 +29,7 @@ public:
     Socket(const Socket&) = delete;
     Socket& operator=(const Socket&) = delete;
 
-    ~Socket() {
-        if (handle_ >= 0) {
-            ::close(handle_);
-        }
-    }
+    ~Socket() { Close_Socket(handle_); }
 
     [[nodiscard]] int Handle() const { return handle_; }
 
@@ -61,74 +54,36 @@ std::uint64_t Digest(std::string_view text) {
     return digest;
 }
 
-/// A folder of this user's, and no link, that nobody else may enter.
-bool Is_Private(const std::string& folder) {
-    struct stat found {};
-
-    constexpr mode_t others = 077;
-    return ::lstat(folder.c_str(), &found) == 0 && S_ISDIR(found.st_mode) &&
-           found.st_uid == ::geteuid() && (found.st_mode & others) == 0;
-}
-
-bool Make_Private(const std::string& folder) {
-    constexpr mode_t own = 0700;
-    return (::mkdir(folder.c_str(), own) == 0 || errno == EEXIST) && Is_Private(folder);
-}
-
-std::optional<sockaddr_un> Address_Of(const std::string& place) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    if (place.size() >= sizeof address.sun_path) {
-        return std::nullopt;
-    }
-    std::memcpy(&address.sun_path, place.data(), place.size());
-    return address;
-}
-
-const sockaddr* General(const sockaddr_un& address) {
-    return reinterpret_cast<const sockaddr*>(&address); // NOLINT(*-reinterpret-cast)
-}
-
-bool Is_Own_User(int connection) {
-    ucred other{};
-    socklen_t size = sizeof other;
-    return ::getsockopt(connection, SOL_SOCKET, SO_PEERCRED, &other, &size) == 0 &&
-           other.uid == ::geteuid();
-}
-
-/// Waits until something can be read, or written.
-bool Is_Ready(int connection, short event, Clock_Of_Waiting::time_point end) {
-    const auto left =
-        std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock_Of_Waiting::now());
-    pollfd waiting{.fd = connection, .events = event, .revents = 0};
-    return left.count() > 0 && ::poll(&waiting, 1, static_cast<int>(left.count())) == 1;
+bool Is_Ready(int connection, Socket_Way way, Clock_Of_Waiting::time_point end) {
+    return Waits_For(
+        connection, way,
+        std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock_Of_Waiting::now()));
 }
 
 /// All that the other end says until it has finished; nothing when that cannot be had.
 std::optional<std::string> Everything_From(int connection, Clock_Of_Waiting::time_point end) {
     std::string all;
     std::array<char, 4096> piece{};
-    while (all.size() <= most_bytes && Is_Ready(connection, POLLIN, end)) {
-        const ssize_t count = ::recv(connection, piece.data(), piece.size(), MSG_DONTWAIT);
+    while (all.size() <= most_bytes && Is_Ready(connection, Socket_Way::Read, end)) {
+        const int count = Receive_From(connection, piece);
         if (count == 0) {
             return all;
         }
-        if (count < 0 && errno != EAGAIN && errno != EINTR) {
+        if (count == no_more) {
             break;
         }
-        all.append(piece.data(), count < 0 ? 0 : static_cast<std::size_t>(count));
+        all.append(piece.data(), static_cast<std::size_t>(std::max(count, 0)));
     }
     return std::nullopt;
 }
 
 bool Say_All(int connection, std::string_view text, Clock_Of_Waiting::time_point end) {
-    while (!text.empty() && Is_Ready(connection, POLLOUT, end)) {
-        const ssize_t count =
-            ::send(connection, text.data(), text.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
-        if (count < 0 && errno != EAGAIN && errno != EINTR) {
+    while (!text.empty() && Is_Ready(connection, Socket_Way::Write, end)) {
+        const int count = Send_To(connection, text);
+        if (count == no_more) {
             return false;
         }
-        text.remove_prefix(count < 0 ? 0 : static_cast<std::size_t>(count));
+        text.remove_prefix(static_cast<std::size_t>(std::max(count, 0)));
     }
     return text.empty();
 }
@@ -152,36 +107,29 @@ std::optional<Words> Words_In(std::string_view text) {
 }
 
 /// One attempt; nothing when nobody listens there, else whether it was heard.
-std::optional<bool> Tell_Once(const sockaddr_un& address, std::string_view text,
+std::optional<bool> Tell_Once(const std::string& place, std::string_view text,
                               Clock_Of_Waiting::time_point end) {
-    const Socket connection(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    if (::connect(connection.Handle(), General(address), sizeof address) != 0) {
+    const Socket connection(Call_Place(place));
+    if (connection.Handle() < 0) {
         return std::nullopt;
     }
-    if (!Is_Own_User(connection.Handle()) || !Say_All(connection.Handle(), text, end)) {
+    if (!Say_All(connection.Handle(), text, end)) {
         return false;
     }
-    ::shutdown(connection.Handle(), SHUT_WR);
+    End_Of_Speech(connection.Handle());
     const std::optional<std::string> answer = Everything_From(connection.Handle(), end);
     return answer && *answer == std::string(1, heard);
 }
 
 } // namespace
 
-std::string Meeting_Folder(std::string_view runtime_folder, std::string_view temporary_folder) {
-    const std::string runtime(runtime_folder);
-    if (runtime.starts_with('/') && Is_Private(runtime) && Make_Private(runtime + "/kestrum")) {
-        return runtime + "/kestrum";
-    }
-    const std::string own = std::string(temporary_folder) + "/kestrum-" + Hexadecimal(::geteuid());
-    return own.starts_with('/') && Make_Private(own) ? own : std::string();
-}
-
 std::string Meeting_Place(std::string_view meeting_folder, std::string_view program_folder,
                           std::string_view display) {
     std::error_code fault;
-    const fs::path folder = fs::canonical(program_folder, fault); // however it was written
-    const std::string one = fault ? std::string(program_folder) : folder.string();
+    // However it was written.
+    const fs::path folder = fs::canonical(File_Path(program_folder), fault);
+    const std::u8string letters = fault ? File_Path(program_folder).u8string() : folder.u8string();
+    const std::string one(letters.begin(), letters.end());
     return std::string(meeting_folder) + "/" +
            Hexadecimal(Digest(one + '\0' + std::string(display)));
 }
@@ -192,26 +140,23 @@ Running_Program::~Running_Program() {
 
 bool Running_Program::Take(const std::string& place) {
     Leave();
-    const std::optional<sockaddr_un> address = Address_Of(place);
-    if (!address || !lock_.Take(place + ".lock")) {
-        return false;
-    }
-    ::unlink(place.c_str()); // of a program that has crashed: nobody holds the lock but we
-    listening_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    constexpr int callers = 16;
-    if (::bind(listening_, General(*address), sizeof *address) != 0 ||
-        ::listen(listening_, callers) != 0) {
-        Leave();
+    if (!lock_.Take(place + ".lock")) {
         return false;
     }
     place_ = place;
+    Forget_Place(place); // of a program that has crashed: nobody holds the lock but we
+    listening_ = Listen_At(place);
+    if (listening_ < 0) {
+        Leave();
+        return false;
+    }
     return true;
 }
 
 std::optional<Words> Running_Program::Hear() {
     constexpr std::chrono::milliseconds patience{500}; // the windows stand still meanwhile
-    const Socket caller(::accept4(listening_, nullptr, nullptr, SOCK_CLOEXEC));
-    if (caller.Handle() < 0 || !Is_Own_User(caller.Handle())) {
+    const Socket caller(Next_Caller(listening_));
+    if (caller.Handle() < 0) {
         return std::nullopt;
     }
     const auto end = Clock_Of_Waiting::now() + patience;
@@ -224,13 +169,11 @@ std::optional<Words> Running_Program::Hear() {
 }
 
 void Running_Program::Leave() {
-    if (listening_ >= 0) {
-        ::close(listening_);
-        listening_ = -1;
-    }
+    Close_Socket(listening_);
+    listening_ = -1;
     if (lock_.Is_Held() && !place_.empty()) {
-        ::unlink(place_.c_str());
-        ::unlink((place_ + ".lock").c_str()); // while it is held, or another would lose its own
+        Forget_Place(place_);
+        Remove_File(place_ + ".lock"); // while it is held, or another would lose its own
     }
     place_.clear();
     lock_.Release();
@@ -238,19 +181,18 @@ void Running_Program::Leave() {
 
 bool Tell_Running_Program(const std::string& place, std::span<const std::string> words,
                           std::chrono::milliseconds patience) {
-    const std::optional<sockaddr_un> address = Address_Of(place);
     std::string text = std::string(greeting) + '\0';
     for (const std::string& word : words) {
         text += word + '\0';
     }
-    if (!address || text.size() > most_bytes) {
+    if (text.size() > most_bytes) {
         return false;
     }
     const auto now = Clock_Of_Waiting::now();
     const auto end = now + patience;
     constexpr std::chrono::milliseconds to_begin{1000}; // it may hold the place and not listen yet
     while (Clock_Of_Waiting::now() < std::min(end, now + to_begin)) {
-        if (const std::optional<bool> is_heard = Tell_Once(*address, text, end)) {
+        if (const std::optional<bool> is_heard = Tell_Once(place, text, end)) {
             return *is_heard;
         }
         constexpr std::chrono::milliseconds pause{20};

@@ -1,15 +1,13 @@
-#include "desktop/end_signals.h"
+#include "platform/end_signals.h"
 
 #include <array>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <exception>
 #include <fcntl.h>
 #include <unistd.h>
-#include <utility>
 
-namespace kestrum::desktop {
+namespace kestrum {
 
 namespace {
 
@@ -42,16 +40,13 @@ bool Is_Switched_Off(int number) {
 
 } // namespace
 
-End_Signals::End_Signals(std::function<void()> last_act) : last_act_(std::move(last_act)) {
+End_Signals::End_Signals() {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         return; // then a signal does what it always does
     }
     reading_end_ = ends[0];
     writing_end = ends[1];
-    notifier_ = std::make_unique<QSocketNotifier>(reading_end_, QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
-                     [this] { End(); });
     for (const int number : ending_signals) {
         if (!Is_Switched_Off(number)) {
             Set_Handler(number, Pass_On, static_cast<int>(SA_RESETHAND) | SA_RESTART);
@@ -60,7 +55,7 @@ End_Signals::End_Signals(std::function<void()> last_act) : last_act_(std::move(l
 }
 
 End_Signals::~End_Signals() {
-    if (!notifier_) {
+    if (reading_end_ < 0) {
         return;
     }
     for (const int number : ending_signals) {
@@ -68,22 +63,18 @@ End_Signals::~End_Signals() {
             Set_Handler(number, SIG_DFL, 0);
         }
     }
-    notifier_.reset();
     ::close(reading_end_);
     ::close(writing_end.exchange(-1));
 }
 
-void End_Signals::End() {
+std::optional<int> End_Signals::Heard() const {
     unsigned char number = 0;
-    if (::read(reading_end_, &number, 1) != 1) {
-        return;
-    }
-    try {
-        last_act_();
-    } catch (const std::exception&) { // NOLINT(*-empty-catch): the end comes in any case
-    }
-    Set_Handler(number, SIG_DFL, 0);
-    ::raise(number);
+    return ::read(reading_end_, &number, 1) == 1 ? std::optional<int>(number) : std::nullopt;
 }
 
-} // namespace kestrum::desktop
+void End_Signals::Obey(int signal) {
+    Set_Handler(signal, SIG_DFL, 0);
+    ::raise(signal);
+}
+
+} // namespace kestrum
