@@ -67,7 +67,7 @@ public:
         }
         const fs::path output = File_Path(options_.output);
         try {
-            Flush_Disk_Of((options_.into_folder ? output : output.parent_path()).string());
+            Flush_Disk_Of(Text_Of(options_.into_folder ? output : output.parent_path()));
         } catch (const Run_Time_Error& failure) {
             errors_ << "convert: the disk has not taken all files -- " + failure.Description() +
                            "\n";
@@ -100,7 +100,7 @@ private:
         if (!options_.into_folder) {
             return options_.output;
         }
-        const std::string name = File_Path(file).stem().string();
+        const std::string name = Text_Of(File_Path(file).stem());
         return Join_Path(options_.output, name + "." + std::string(Ending_Of_Format(options_.to)));
     }
 

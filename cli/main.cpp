@@ -76,8 +76,8 @@ int Print(std::span<const char* const> arguments) {
 }
 
 int Report(std::span<const char* const> arguments) {
-    return Run_Report(Report_Options_From(arguments), std::filesystem::current_path().string(),
-                      std::cout, std::cerr);
+    return Run_Report(Report_Options_From(arguments),
+                      kestrum::Text_Of(std::filesystem::current_path()), std::cout, std::cerr);
 }
 
 int Chart(std::span<const char* const> arguments) {

@@ -23,7 +23,7 @@ std::string Program_Folder(std::string_view given) {
         throw Usage_Error("--folder: there is no folder " + Quoted(given));
     }
     const bool ends_with_separator = !folder.has_filename() && folder != folder.root_path();
-    return (ends_with_separator ? folder.parent_path() : folder).string();
+    return Text_Of(ends_with_separator ? folder.parent_path() : folder);
 }
 
 /// Takes a number off the front of a text.

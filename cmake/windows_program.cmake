@@ -6,7 +6,6 @@ function(kestrum_windows_program target description)
   endif()
   set(KESTRUM_PROGRAM "${target}")
   set(KESTRUM_DESCRIPTION "${description}")
-  set(KESTRUM_ICON_LINE "")
   configure_file("${PROJECT_SOURCE_DIR}/cmake/windows_program.rc.in"
     "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc" @ONLY)
   target_sources(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")

@@ -12,6 +12,7 @@
 #include "desktop/text_access.h"
 #include "desktop/text_bridge.h"
 #include "desktop/theme_style.h"
+#include "painting/own_fonts.h"
 #include "platform/program_start.h"
 #include "platform/running_program.h"
 
@@ -146,6 +147,7 @@ int Run_Desktop(int count, char* values[],
         QApplication::setApplicationName(QStringLiteral("kestrum"));
         QApplication::setDesktopFileName(QStringLiteral("kestrum"));
         QApplication::setQuitOnLastWindowClosed(false); // the session ends the program
+        painting::Know_Own_Fonts();
         Apply_Theme();
         Install_Text_Access();
         return Run(Options_From(

@@ -1,6 +1,7 @@
 #include "desktop/manual.h"
 
 #include "desktop/text_bridge.h"
+#include "platform/file_path.h"
 #include "platform/program_files.h"
 #include "platform/shell.h"
 
@@ -31,7 +32,7 @@ namespace {
 
 /// The page of an installation or of a build, or the text that it is made of.
 QString Path_Of_Manual() {
-    const std::string page = Program_File(Program_Part::Documents, "manual.html").string();
+    const std::string page = Text_Of(Program_File(Program_Part::Documents, "manual.html"));
     if (!page.empty()) {
         return To_Qt(page);
     }

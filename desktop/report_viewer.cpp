@@ -27,7 +27,7 @@ std::optional<char32_t> Character_Of(const QKeyEvent& event) {
 QFont Letters_Of_One_Width() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     if (!QFontInfo(font).fixedPitch()) { // a desktop that names none
-        font.setFamily(QStringLiteral("monospace"));
+        font.setFamilies({QStringLiteral("monospace"), QStringLiteral("DejaVu Sans Mono")});
     }
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);

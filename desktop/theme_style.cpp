@@ -274,7 +274,12 @@ QIcon Theme_Style::standardIcon(StandardPixmap picture, const QStyleOption* opti
 
 void Apply_Theme() {
     QApplication::setStyle(new Theme_Style);
-    QApplication::setFont(theme::Text_Font());
+    // The desktop may name letters that are not there; what stands in must be none with serifs.
+    QFont letters = theme::Text_Font();
+    letters.setFamilies(
+        {letters.family(), QStringLiteral("Segoe UI"), QStringLiteral("DejaVu Sans")});
+    letters.setStyleHint(QFont::SansSerif);
+    QApplication::setFont(letters);
 }
 
 } // namespace kestrum::desktop

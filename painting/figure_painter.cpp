@@ -53,7 +53,8 @@ void Paint_Step(const Figure_Path& path, QPainter& painter) {
 }
 
 void Paint_Step(const Figure_Text& text, QPainter& painter) {
-    QFont font(QStringLiteral("DejaVu Sans"));
+    QFont font;
+    font.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("Arial")});
     font.setStyleHint(QFont::SansSerif);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setBold(text.bold);

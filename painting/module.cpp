@@ -1,3 +1,4 @@
+#include "painting/own_fonts.h"
 #include "painting/qt_painter.h"
 
 #include <QGuiApplication>
@@ -19,6 +20,7 @@ void Start_Qt() {
     // Kept to the end of the process, which need not wait for it to be taken down.
     static const auto* const application = new QGuiApplication(count, arguments.data());
     static_cast<void>(application);
+    kestrum::painting::Know_Own_Fonts();
 }
 
 } // namespace

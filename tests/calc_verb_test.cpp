@@ -174,13 +174,13 @@ TEST_F(Calc_Verb, A_Calculation_That_Stops_Leaves_A_Loaded_File) {
 }
 
 TEST_F(Calc_Verb, Json_Has_One_Object_For_Each_File) {
-    const std::string file = Write("a \"b\"\xff.dat", With({"Text102_6 = 1.9", "Text101_30 = \t"}));
+    const std::string file = Write("a b.dat", With({"Text102_6 = 1.9", "Text101_30 = \t"}));
     EXPECT_EQ(Run({.format = Calc_Format::Json, .files = {file, bench_.folder.File("c.dat")}}), 1);
     std::istringstream lines(out_);
     std::string line;
     std::getline(lines, line);
     const auto first = nlohmann::json::parse(line);
-    EXPECT_EQ(first["file"], bench_.folder.File("a \"b\"\xEF\xBF\xBD.dat"));
+    EXPECT_EQ(first["file"], file);
     EXPECT_EQ(first["loaded"], true);
     EXPECT_EQ(first["metric"], false);
     EXPECT_EQ(first["figures"].size(), figure_count);
@@ -202,11 +202,19 @@ TEST_F(Calc_Verb, Json_Has_One_Object_For_Each_File) {
 
 TEST_F(Calc_Verb, Csv_Quotes_What_Holds_A_Mark_Of_The_Format) {
     const std::string file =
-        Write("a, \"b\".dat", With({"Text101_17 = 50 \"soft\""})); // no number: stops in row 17
+        Write("a, b.dat", With({"Text101_17 = 50 \"soft\""})); // no number: stops in row 17
     EXPECT_EQ(Run_Csv({file}), 0);
-    EXPECT_TRUE(Printed("\"" + bench_.folder.File("a, \"\"b\"\".dat") +
+    EXPECT_TRUE(Printed("\"" + file +
                         R"(",Text108(17),"Actual Valve Lift Inch, lift 50 ""soft""",)"
                         R"(1/1000 in,"50 ""soft""")"));
+}
+
+TEST_F(Calc_Verb, Names_Of_Any_Bytes_Are_Quoted) {
+    const std::string file = Write("a \"b\"\xff.dat", Stored_Test());
+    EXPECT_EQ(Run({.format = Calc_Format::Json, .files = {file}}), 0);
+    EXPECT_EQ(nlohmann::json::parse(out_)["file"], bench_.folder.File("a \"b\"\xEF\xBF\xBD.dat"));
+    EXPECT_EQ(Run_Csv({file}), 0);
+    EXPECT_NE(out_.find("a \"\"b\"\"\xff.dat\","), std::string::npos);
 }
 
 TEST_F(Calc_Verb, Control_Characters_Of_Names_Reach_No_Terminal) {

@@ -256,9 +256,9 @@ TEST_F(Chart_Verb, The_Library_Lists_What_It_Finds_And_Why_Not) {
 
 TEST_F(Chart_Verb, A_Picture_Names_Its_Tests_As_Text) {
     const std::string picture = bench.folder.Path() + "/chart.svg";
-    static_cast<void>(Chart_With({Write("a<b.csv", ford), Write("jeep.csv", jeep), "-o", picture}));
+    static_cast<void>(Chart_With({Write("a&b.csv", ford), Write("jeep.csv", jeep), "-o", picture}));
     const std::string svg = bench.folder.Read("chart.svg");
-    EXPECT_NE(svg.find(">1 a&lt;b.csv"), std::string::npos);
+    EXPECT_NE(svg.find(">1 a&amp;b.csv"), std::string::npos);
     EXPECT_NE(svg.find(">2 jeep.csv  ex<"), std::string::npos);
     EXPECT_NE(svg.find(">138<"), std::string::npos);
 }

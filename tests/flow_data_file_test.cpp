@@ -173,10 +173,12 @@ TEST(Flow_Data_File, Finds_A_Preloaded_File_By_Its_Name) {
         Load_Flow_File(bench.session, bench.session.Sheet(4), c.asked);
         EXPECT_EQ(bench.Take_Events(), c.found ? Events{} : Events{not_loaded}) << c.name;
         EXPECT_EQ(bench.Get("Form4.Text102(0)"), c.found ? "Found" : "E7TE") << c.name;
-        EXPECT_EQ(fs::weakly_canonical(bench.Get("Form4.Text39")),
-                  fs::weakly_canonical(c.found ? path : ""))
-            << c.name;
+        const std::string shown = bench.Get("Form4.Text39");
+        EXPECT_TRUE(c.found ? fs::equivalent(shown, path) : shown.empty()) << c.name;
     }
+}
+
+TEST(Flow_Data_File, Finds_A_Preloaded_File_In_The_Programs_Folder_Alone) {
     Test_Bench bench;
     const Temp_Folder elsewhere; // a file of that name where the program was started
     fs::create_directory(elsewhere.File("heads"));
@@ -186,6 +188,10 @@ TEST(Flow_Data_File, Finds_A_Preloaded_File_By_Its_Name) {
     Load_Flow_File(bench.session, bench.session.Sheet(1), "heads/head.dat");
     EXPECT_EQ(bench.Take_Events(), Events{not_loaded});
     fs::current_path(before);
+}
+
+TEST(Flow_Data_File, Prefers_The_Exact_Name_Then_The_First_In_Byte_Order) {
+    Test_Bench bench;
     bench.folder.Write("HEAD.dat", "Text102_0 = first in byte order\n");
     bench.folder.Write("Head.dat", "Text102_0 = second\n");
     Load_Flow_File(bench.session, bench.session.Sheet(1), "head.dat");

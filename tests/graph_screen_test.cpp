@@ -4,14 +4,10 @@
 #include "files/main_data_file.h"
 #include "graph/graph_state.h"
 #include "screens/geometry.h"
+#include "tests/full_disk.h"
 #include "tests/graph_test_bench.h"
 
 #include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace kestrum {
 
@@ -273,16 +269,9 @@ TEST_F(Graph_Screen_Test, Tells_Of_Every_Save_That_Fails) {
 TEST_F(Graph_Screen_Test, A_Full_Disk_Leaves_The_Old_Picture_Whole) {
     const std::string path = bench_.folder.Write("a.png", "the last one");
     painter_.padding = 100000;
-    const pid_t child = ::fork();
-    if (child == 0) {
-        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
-        const rlimit limit{4096, 4096};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        ::_exit(Save(path) == Events{"chooser to save", not_saved} ? 0 : 1);
-    }
-    int status = -1;
-    ::waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(Holds_On_Full_Disk(4096, [&] {
+        return Save(path) == Events{"chooser to save", not_saved};
+    }));
     EXPECT_EQ(bench_.folder.Read("a.png"), "the last one");
     EXPECT_EQ(bench_.folder.Names(), Events{"a.png"});
 }

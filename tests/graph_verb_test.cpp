@@ -3,15 +3,14 @@
 #include "cli/usage_error.h"
 #include "files/flow_data_file.h"
 #include "tests/script_run.h"
+#include "tests/shell.h"
 #include "tests/test_bench.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <sstream>
-#include <sys/wait.h>
 
 namespace kestrum::cli {
 
@@ -239,10 +238,7 @@ TEST(Graph_Options, Options_And_Files_Mix) {
 /// Runs the program as a shell does. Gives its status.
 int Run_Program(const Temp_Folder& folder, const std::string& arguments,
                 const std::string& output = "output") {
-    const std::string line = "cd '" + folder.Path() + "' && '" KESTRUM_CLI "' " + arguments + " >" +
-                             output + " 2>errors";
-    const int status = std::system(line.c_str());
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return Status_In_Shell(folder, "CLI " + arguments + " >" + output + " 2>errors");
 }
 
 TEST_F(Graph_Verbs, The_Program_Paints_Or_Says_That_It_Cannot) {
@@ -266,6 +262,9 @@ TEST_F(Graph_Verbs, The_Program_Paints_Or_Says_That_It_Cannot) {
     }
     EXPECT_EQ(Run_Program(bench_.folder, "graph stock.dat ported.dat"), 2);
     EXPECT_EQ(Run_Program(bench_.folder, "compare stock.dat none.dat --type 0"), 1);
+}
+
+TEST_F(Graph_Verbs, Output_That_Is_Lost_Is_Told) {
     EXPECT_EQ(Run_Program(bench_.folder, "compare stock.dat ported.dat --type 0", "/dev/full"), 2);
 }
 
@@ -284,9 +283,9 @@ TEST(Script_Printer, Hands_Out_What_Was_Printed) {
 TEST(Script_Printer, Knows_The_Printers_Of_The_Option) {
     const Temp_Folder folder;
     folder.Write("script", "click Form60.Command2\nprinter\n");
-    EXPECT_EQ(Run_Program(folder, "script --printers 'Laser,Other one' script"), 0);
+    EXPECT_EQ(Run_Program(folder, "script --printers \"Laser,Other one\" script"), 0);
     EXPECT_NE(folder.Read("output").find(R"({"device":"Laser","pages":)"), std::string::npos);
-    EXPECT_EQ(Run_Program(folder, "script --printers '' script"), 0);
+    EXPECT_EQ(Run_Program(folder, "script --printers \"\" script"), 0);
     EXPECT_NE(folder.Read("output").find(R"("text":"Printer error")"), std::string::npos);
     EXPECT_NE(folder.Read("output").find(R"({"printer":[]})"), std::string::npos);
 }

@@ -3,34 +3,17 @@
 #include "cli/script_runner.h"
 #include "files/rescue.h"
 #include "platform/file_store.h"
+#include "tests/slow_disk.h"
 #include "tests/test_bench.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <optional>
 #include <sstream>
-#include <sys/syscall.h>
-#include <sys/wait.h>
-#include <thread>
-#include <unistd.h>
-
-namespace {
-
-std::atomic<int> slow_disk_milliseconds = 0;
-
-} // namespace
-
-/// Stands before the system's own in this program, so that a test can have a slow disk.
-extern "C" int fsync(int handle) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(slow_disk_milliseconds));
-    return static_cast<int>(::syscall(SYS_fsync, handle));
-}
 
 namespace kestrum {
 

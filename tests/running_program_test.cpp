@@ -1,17 +1,12 @@
+#include "platform/meeting_socket.h"
 #include "platform/running_program.h"
 #include "tests/temp_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <csignal>
 #include <filesystem>
 #include <future>
-#include <poll.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace kestrum {
 
@@ -22,20 +17,15 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 bool Is_Called(const Running_Program& running) {
-    pollfd waiting{.fd = running.Handle(), .events = POLLIN, .revents = 0};
-    return ::poll(&waiting, 1, 10'000) == 1;
+    return Waits_For(running.Handle(), Socket_Way::Read, seconds(10));
 }
 
 /// Bytes from a caller who may not be one of ours.
 void Call_With(const std::string& place, std::string_view bytes) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    place.copy(static_cast<char*>(address.sun_path), place.size());
-    const int caller = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    ASSERT_EQ(::connect(caller, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-    ASSERT_EQ(::send(caller, bytes.data(), bytes.size(), MSG_NOSIGNAL),
-              static_cast<ssize_t>(bytes.size()));
-    ::close(caller);
+    const int caller = Call_Place(place);
+    ASSERT_GE(caller, 0);
+    ASSERT_EQ(Send_To(caller, bytes), static_cast<int>(bytes.size()));
+    Close_Socket(caller);
 }
 
 TEST(Running_Program, Hears_What_A_Second_Start_Says) {
@@ -73,38 +63,6 @@ TEST(Running_Program, Takes_No_Word_Of_A_Caller_That_Is_None_Of_Ours) {
         ASSERT_TRUE(Is_Called(running));
         EXPECT_FALSE(running.Hear()) << bytes;
     }
-}
-
-TEST(Running_Program, That_Was_Killed_Is_In_Nobodys_Way) {
-    const Temp_Folder folder;
-    const std::string place = folder.File("place");
-    const pid_t child = ::fork();
-    if (child == 0) {
-        Running_Program killed;
-        static_cast<void>(killed.Take(place));
-        ::kill(::getpid(), SIGKILL);
-    }
-    ::waitpid(child, nullptr, 0);
-    ASSERT_TRUE(fs::exists(place)) << "the crash has left its socket";
-    Running_Program next;
-    EXPECT_TRUE(next.Take(place));
-    EXPECT_GE(next.Handle(), 0);
-}
-
-TEST(Meeting, Is_In_No_Folder_That_Others_Can_Enter) {
-    const Temp_Folder folder;
-    const std::string runtime = folder.File("runtime");
-    fs::create_directory(runtime);
-    fs::permissions(runtime, fs::perms::owner_all);
-    EXPECT_EQ(Meeting_Folder(runtime, folder.Path()), runtime + "/kestrum");
-    fs::permissions(runtime, fs::perms::group_exec, fs::perm_options::add);
-    const std::string own = Meeting_Folder(runtime, folder.Path());
-    EXPECT_TRUE(own.starts_with(folder.File("kestrum-"))) << own;
-    EXPECT_EQ(Meeting_Folder("", folder.Path()), own);
-    fs::remove_all(own);
-    fs::create_directory_symlink(runtime, own); // laid there by somebody else
-    EXPECT_EQ(Meeting_Folder("", folder.Path()), "");
-    EXPECT_EQ(Meeting_Folder("", folder.File("none")), "");
 }
 
 TEST(Meeting, Is_Of_One_Folder_On_One_Display) {

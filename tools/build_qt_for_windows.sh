@@ -9,8 +9,8 @@ parts="$kit.parts"
 
 "$tree/tools/install_packages.sh" windows-qt
 version=$(dpkg-query -W -f '${Version}' qt6-base-dev)
-# What would make another kit: the source and all that says how it is built.
-recipe=$(cat "$0" "$tree/cmake/windows_toolchain.cmake" <(echo "$version") | sha256sum | cut -d ' ' -f 1)
+# What would make another kit: the source and what says how it is built.
+recipe=$(cat "$0" <(echo "$version") | sha256sum | cut -d ' ' -f 1)
 if [ "$(cat "$kit/recipe" 2>/dev/null)" = "$recipe" ]; then
     echo "The Qt kit in $kit is up to date"
     exit 0
@@ -52,10 +52,9 @@ options=(
     -DFEATURE_{sql,network,dbus,xml,concurrent,opengl,vulkan,direct2d}=OFF -DINPUT_opengl=no
     # Debian's source has no wintab.h, and this compiler does not export the classes of DirectWrite.
     -DFEATURE_tabletevent=OFF -DFEATURE_directwrite=OFF)
-host_packages=$(dirname "$(dirname "$(dpkg -L qt6-base-dev | grep /Qt6HostInfoConfig.cmake)")")
 cmake -S "$parts/source" -B "$parts/build" -G Ninja -Wno-dev \
     -DCMAKE_TOOLCHAIN_FILE="$tree/cmake/windows_toolchain.cmake" -DKESTRUM_WINE=OFF \
-    -DCMAKE_INSTALL_PREFIX="$kit" -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host_packages" \
+    -DCMAKE_INSTALL_PREFIX="$kit" \
     "${launcher[@]}" "${options[@]}" >"$parts/configure.log" || { tail -n 40 "$parts/configure.log" >&2; exit 1; }
 nice cmake --build "$parts/build" -j "${KESTRUM_JOBS:-$(nproc)}"
 rm -rf "$kit"

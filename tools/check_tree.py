@@ -21,6 +21,14 @@ RANKS = {"base": 0, "platform": 1, "screens": 1, "drawing": 2, "core": 3,
 QT_PLACES = re.compile(r"desktop/|painting/|tests/(?:desktop/|graph_painting)|bench/(?:desktop|bare_window|graph_bench)")
 QT_INCLUDE = re.compile(r"^[ \t]*#[ \t]*include[ \t]*[<\"]((?:Qt?[A-Z]|q[a-z]+\.h|private/q)[^>\"]*)", re.M)
 
+# What touches the system lies in one folder for each of them, so that nothing else asks which one it is.
+SYSTEM_PLACES = re.compile(r"(?:src/platform|tests|tests/desktop)/(?:posix|windows)/")
+SYSTEM_INCLUDE = re.compile(
+    r"^[ \t]*#[ \t]*include[ \t]*[<\"]((?:sys|arpa|net|netinet|linux)/[^>\"]+|c?signal(?:\.h)?|(?:unistd|fcntl|io|poll"
+    r"|dirent|dlfcn|langinfo|pthread|pwd|grp|termios|windows|win\w+|ws2\w+|aclapi|sddl|shellapi|shlobj|mmsystem)\.h)[>\"]"
+    r"|^[ \t]*#[ \t]*(?:el)?if[^\n]*?\b(_WIN32|_WIN64|__MINGW\w+|_MSC_VER|__linux__|__unix__|__APPLE__|Q_OS_\w+)\b",
+    re.M)
+
 # Calls that follow the locale, or round or read numbers in another way than src/core does.
 LOCALE_WORDS = re.compile(
     r"\b(?:ato(?:f|i|l|ll)|strto(?:d|f|ld|u?l|u?ll)|sto(?:d|f|ld|i|u?l|u?ll)|to_w?string"
@@ -106,6 +114,14 @@ def check_qt(tree):
         if path.startswith("src/") and path.endswith("CMakeLists.txt"):
             for match in re.finditer(r"^[^#\n]*\b(Qt6?::\w+|kestrum_qt_flags)", text, re.M):
                 yield path, line_of(text, match.start(1)), f"links {match[1]}: src/ does without Qt"
+
+
+def check_system(tree):
+    for path, text in sources(tree).items():
+        if not SYSTEM_PLACES.match(path):
+            for match in SYSTEM_INCLUDE.finditer(without_comments(text)):
+                yield path, line_of(text, match.start(1 if match[1] else 2)), (
+                    f"{match[1] or match[2]}: what hangs on the system stays in posix/ and windows/")
 
 
 def check_directions(tree):
@@ -259,7 +275,7 @@ def check_lists(tree):
             yield path, 1, "stands in no CMakeLists.txt"
 
 
-CHECKS = (check_qt, check_directions, check_cycles, check_locale, check_names, check_words,
+CHECKS = (check_qt, check_system, check_directions, check_cycles, check_locale, check_names, check_words,
           check_lengths, check_lists)
 
 

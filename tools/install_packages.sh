@@ -4,7 +4,8 @@
 #   tools/install_packages.sh package   to make the Debian package of them
 #   tools/install_packages.sh test      to test all of it as well
 #   tools/install_packages.sh windows   to build for Windows what needs no Qt, and test that
-#   tools/install_packages.sh windows-qt   to build Qt for it, and the desktop program
+#   tools/install_packages.sh windows-qt   to build Qt for it
+#   tools/install_packages.sh package-windows   to make the zip of both programs
 set -euo pipefail
 
 to_run=(g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core)
@@ -15,6 +16,7 @@ to_test=(appstream desktop-file-utils libglib2.0-bin lintian mandoc shared-mime-
 to_cross_build=(g++-mingw-w64-x86-64-posix cmake ninja-build nlohmann-json3-dev googletest wine wine64
                 python3)
 to_build_qt=("${to_cross_build[@]}" qt6-base-dev dpkg-dev)
+to_package_windows=("${to_build_qt[@]}" fonts-dejavu-core lowdown)
 
 case "${1:-}" in
     run) wanted=("${to_run[@]}") ;;
@@ -22,7 +24,8 @@ case "${1:-}" in
     test) wanted=("${to_run[@]}" "${to_package[@]}" "${to_test[@]}") ;;
     windows) wanted=("${to_cross_build[@]}") ;;
     windows-qt) wanted=("${to_build_qt[@]}") ;;
-    *) echo "usage: tools/install_packages.sh run|package|test|windows|windows-qt" >&2; exit 2 ;;
+    package-windows) wanted=("${to_package_windows[@]}") ;;
+    *) echo "usage: tools/install_packages.sh run|package|test|windows|windows-qt|package-windows" >&2; exit 2 ;;
 esac
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then

@@ -1,26 +1,22 @@
 #include "library/folder_walk.h"
 
 #include "base/text.h"
-#include "platform/file_path.h"
+#include "platform/file_store.h"
+#include "platform/folder_entries.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace kestrum {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 class Walk {
 public:
     Walk(const std::string& folder, const std::function<bool()>& goes_on)
-        : folder_(File_Path(folder)), goes_on_(goes_on) {}
+        : folder_(folder), goes_on_(goes_on) {}
 
     [[nodiscard]] Folder_Walk Take() {
-        std::error_code failure;
-        walk_.is_there = fs::is_directory(folder_, failure);
+        walk_.is_there = Is_Folder(folder_);
         if (walk_.is_there) {
             // A list of folders still to be looked through: no depth of them costs a stack.
             open_.emplace_back();
@@ -39,24 +35,20 @@ private:
     [[nodiscard]] bool Goes_On() const { return !goes_on_ || goes_on_(); }
 
     void Look_Through(const std::string& below) {
-        std::error_code failure;
-        fs::directory_iterator entry(folder_ / File_Path(below), failure);
-        while (!failure && entry != fs::directory_iterator() && Goes_On()) {
-            Take_Entry(*entry, below);
-            entry.increment(failure);
-        }
-        if (failure) {
-            walk_.problems.push_back((folder_ / File_Path(below)).string() + ": " +
-                                     failure.message());
+        const std::string folder = Join_Path(folder_, below);
+        const std::string failure = Look_Through_Folder(folder, [&](const Folder_Entry& entry) {
+            Take_Entry(entry, below);
+            return Goes_On();
+        });
+        if (!failure.empty()) {
+            walk_.problems.push_back(folder + ": " + failure);
         }
     }
 
-    void Take_Entry(const fs::directory_entry& entry, const std::string& below) {
-        std::error_code ignored;
-        std::string file = below + entry.path().filename().string();
-        const bool is_link = entry.is_symlink(ignored);
-        if (entry.is_directory(ignored)) {
-            if (!is_link) {
+    void Take_Entry(const Folder_Entry& entry, const std::string& below) {
+        std::string file = below + entry.name;
+        if (entry.is_folder) {
+            if (!entry.is_link) {
                 open_.push_back(file + "/");
             }
             return;
@@ -66,7 +58,7 @@ private:
         }
     }
 
-    fs::path folder_;
+    const std::string& folder_;
     const std::function<bool()>& goes_on_;
     Folder_Walk walk_;
     std::vector<std::string> open_;

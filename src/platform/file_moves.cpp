@@ -17,7 +17,7 @@ std::string Numbered_Name(const fs::path& name, int number) {
     std::array<char, 12> digits{};
     const auto [end, failure] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
     static_cast<void>(failure); // twelve characters hold every int
-    return name.stem().string() + "-" + std::string(digits.data(), end) + name.extension().string();
+    return Text_Of(name.stem()) + "-" + std::string(digits.data(), end) + Text_Of(name.extension());
 }
 
 } // namespace
@@ -27,7 +27,7 @@ std::string Move_To_Fresh_Name(const std::string& path, std::string_view folder)
     const fs::path name = File_Path(Bare_Name(path));
     for (int number = 1; number <= most_names; ++number) {
         std::string fresh =
-            Join_Path(folder, number == 1 ? name.string() : Numbered_Name(name, number));
+            Join_Path(folder, number == 1 ? Text_Of(name) : Numbered_Name(name, number));
         const Rename_Outcome outcome = Rename_Without_Loss(path, fresh);
         if (outcome == Rename_Outcome::Done) {
             return fresh;

@@ -128,8 +128,7 @@ std::string Meeting_Place(std::string_view meeting_folder, std::string_view prog
     std::error_code fault;
     // However it was written.
     const fs::path folder = fs::canonical(File_Path(program_folder), fault);
-    const std::u8string letters = fault ? File_Path(program_folder).u8string() : folder.u8string();
-    const std::string one(letters.begin(), letters.end());
+    const std::string one = fault ? std::string(program_folder) : Text_Of(folder);
     return std::string(meeting_folder) + "/" +
            Hexadecimal(Digest(one + '\0' + std::string(display)));
 }

@@ -19,6 +19,10 @@ void Remove_Empty_Folder(const std::string& path) {
 }
 
 Rename_Outcome Rename_Without_Loss(const std::string& from, const std::string& to) {
+    // One that moves to its own name is told that it has done so.
+    if (::GetFileAttributesW(System_Path(to).c_str()) != INVALID_FILE_ATTRIBUTES) {
+        return Rename_Outcome::Name_Taken;
+    }
     if (!Has_Forbidden_Name(to) && ::MoveFileExW(System_Path(from).c_str(), System_Path(to).c_str(),
                                                  MOVEFILE_WRITE_THROUGH) != 0) {
         return Rename_Outcome::Done;

@@ -8,19 +8,6 @@
 
 namespace kestrum {
 
-namespace {
-
-std::string Words_Of_Failure(DWORD failure) {
-    std::wstring words(512, L'\0');
-    words.resize(::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                                  nullptr, failure, 0, words.data(),
-                                  static_cast<DWORD>(words.size()), nullptr));
-    words.erase(words.find_last_not_of(L"\r\n ") + 1);
-    return Narrow_Text(words);
-}
-
-} // namespace
-
 std::string Program_Folder() {
     constexpr std::size_t longest_path = 32768;
     std::wstring program(longest_path, L'\0');

@@ -47,6 +47,19 @@ std::string_view Behind_Disk(std::string_view path) {
     return path.size() > 1 && path[1] == ':' ? path.substr(2) : path;
 }
 
+/// The first part of a path that no file may have as its name; empty when there is none.
+std::string_view Forbidden_Part(std::string_view path) {
+    path = Behind_Disk(path);
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find_first_of(separators), path.size());
+        if (Is_Forbidden(path.substr(0, end))) {
+            return path.substr(0, end);
+        }
+        path.remove_prefix(std::min(end + 1, path.size()));
+    }
+    return {};
+}
+
 } // namespace
 
 std::wstring Wide_Text(std::string_view text) {
@@ -64,6 +77,15 @@ std::string Narrow_Text(std::wstring_view text) {
     std::string narrow(static_cast<std::size_t>(length), '\0');
     ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, narrow.data(), length, nullptr, nullptr);
     return narrow;
+}
+
+std::string Words_Of_Failure(unsigned long failure) {
+    std::wstring words(512, L'\0');
+    words.resize(::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                  nullptr, failure, 0, words.data(),
+                                  static_cast<DWORD>(words.size()), nullptr));
+    words.erase(words.find_last_not_of(L"\r\n ") + 1);
+    return Narrow_Text(words);
 }
 
 std::wstring System_Path(std::string_view path) {
@@ -84,20 +106,14 @@ std::wstring System_Path(std::string_view path) {
 }
 
 bool Has_Forbidden_Name(std::string_view path) {
-    path = Behind_Disk(path);
-    while (!path.empty()) {
-        const std::size_t end = std::min(path.find_first_of(separators), path.size());
-        if (Is_Forbidden(path.substr(0, end))) {
-            return true;
-        }
-        path.remove_prefix(std::min(end + 1, path.size()));
-    }
-    return false;
+    return !Forbidden_Part(path).empty();
 }
 
 void Refuse_Forbidden_Name(std::string_view path) {
-    if (Has_Forbidden_Name(path)) {
-        Fail(error::path_or_file_access);
+    const std::string_view part = Forbidden_Part(path);
+    if (!part.empty()) {
+        throw Run_Time_Error(error::path_or_file_access,
+                             "Windows takes no file of the name \"" + std::string(part) + "\"");
     }
 }
 

@@ -12,6 +12,9 @@ namespace kestrum {
 /// What is no letter comes out as the sign for one that is not known.
 [[nodiscard]] std::string Narrow_Text(std::wstring_view text);
 
+/// What the system says about one of its errors, in the user's language.
+[[nodiscard]] std::string Words_Of_Failure(unsigned long failure);
+
 /// A path as the system takes one of any length: whole, behind "\\?\".
 [[nodiscard]] std::wstring System_Path(std::string_view path);
 
@@ -19,7 +22,7 @@ namespace kestrum {
 /// with a letter that is forbidden, or one that ends in a blank or a point, which would be cut off.
 [[nodiscard]] bool Has_Forbidden_Name(std::string_view path);
 
-/// Raises 75 for such a path: the system would make another file, or none, without a word.
+/// Raises 75 for such a path, with words that tell why: the system would make another file, or none, without a word.
 void Refuse_Forbidden_Name(std::string_view path);
 
 } // namespace kestrum

@@ -2,6 +2,7 @@
 #include "platform/clock.h"
 #include "platform/file_moves.h"
 #include "platform/file_store.h"
+#include "platform/folder_entries.h"
 #include "platform/lock_file.h"
 #include "platform/new_file.h"
 #include "platform/passing_file.h"
@@ -9,11 +10,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <functional>
+#include <future>
+#include <windows.h>
 
-// What a save and its neighbours do on Windows; on other systems saving_test.cpp and
-// lock_file_test.cpp look at the same.
+// What a save and its neighbours do on Windows; on other systems posix/saving_test.cpp looks
+// at the same.
 
 namespace kestrum {
 
@@ -54,6 +58,37 @@ TEST(Windows_Saving, What_Cannot_Be_Written_Has_Its_Number_And_Stays_Whole) {
     fs::permissions(path, fs::perms::all);
 }
 
+TEST(Windows_Saving, A_Hidden_File_Stays_Hidden) {
+    const Temp_Folder folder;
+    const std::string path = folder.Write("head.dat", "old");
+    ASSERT_NE(::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN), 0);
+    Write_Whole_File(path, "new");
+    EXPECT_EQ(folder.Read("head.dat"), "new");
+    EXPECT_NE(::GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
+}
+
+TEST(Windows_Saving, Two_Savers_Neither_Refuse_Nor_Tear_Each_Other) {
+    const Temp_Folder folder;
+    const std::array versions{std::string(90000, 'a'), std::string(50000, 'b')};
+    const std::string path = folder.Write("head.dat", versions[0]);
+    std::array<std::future<int>, 2> savers;
+    for (std::size_t at = 0; at < savers.size(); ++at) {
+        savers.at(at) = std::async(std::launch::async, [&, at] {
+            int refused = 0;
+            for (int save = 0; save < 50; ++save) {
+                refused += Error_Of([&] { Write_Whole_File(path, versions.at(at)); }) != 0 ? 1 : 0;
+            }
+            return refused;
+        });
+    }
+    for (int reads = 0; reads < 200; ++reads) {
+        const std::string found = Read_Whole_File(path);
+        ASSERT_TRUE(found == versions[0] || found == versions[1]) << found.size();
+    }
+    EXPECT_EQ(savers[0].get() + savers[1].get(), 0);
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{"head.dat"});
+}
+
 TEST(Windows_Saving, Names_That_The_System_Keeps_For_Itself_Are_Told) {
     const Temp_Folder folder;
     for (const char* const name : {"con.dat", "NUL", "com1.txt", "head.dat ", "head.", "a?b.dat",
@@ -65,6 +100,12 @@ TEST(Windows_Saving, Names_That_The_System_Keeps_For_Itself_Are_Told) {
         EXPECT_EQ(Error_Of([&] { Write_Whole_File(folder.File(name), "new"); }), 0) << name;
     }
     EXPECT_EQ(folder.Names().size(), 4U);
+    try {
+        Write_Whole_File(folder.File("aux/con.dat"), "new");
+        ADD_FAILURE();
+    } catch (const Run_Time_Error& failure) {
+        EXPECT_EQ(failure.Description(), "Windows takes no file of the name \"aux\"");
+    }
 }
 
 TEST(Windows_Saving, Long_Names_Work_All_The_Way) {
@@ -79,6 +120,14 @@ TEST(Windows_Saving, Long_Names_Work_All_The_Way) {
     Write_Whole_File(path, "new");
     EXPECT_EQ(Read_Whole_File(path), "new");
     EXPECT_EQ(Names_In_Folder(deep), std::vector<std::string>{"head.dat"});
+    std::vector<std::string> found;
+    EXPECT_EQ(Look_Through_Folder(deep,
+                                  [&](const Folder_Entry& entry) {
+                                      found.push_back(entry.name);
+                                      return true;
+                                  }),
+              "");
+    EXPECT_EQ(found, std::vector<std::string>{"head.dat"});
     EXPECT_TRUE(Can_Be_Read(path));
     EXPECT_FALSE(Can_Be_Read(deep));
     EXPECT_EQ(Utc_Time_Of_File(path).size(), std::string("2026-11-22T21:15:00Z").size());
