@@ -24,6 +24,8 @@ if [ "${1:-}" = --windows ]; then
     ctest --preset windows-cli
     step "Example cases under wine"
     python3 tests/cases/check.py build/windows-cli/kestrum-cli.exe
+    step "Saves that go wrong under wine"
+    tests/windows/try_saves.py build/windows-cli/kestrum-cli.exe
     printf '\nAll of it passed in %s s\n' "$SECONDS"
     exit 0
 fi

@@ -1,7 +1,9 @@
 #include "desktop/arrivals.h"
 
 #include "application/opened_files.h"
+#include "desktop/native_path.h"
 #include "desktop/text_bridge.h"
+#include "platform/file_store.h"
 
 #include <QAction>
 #include <QDropEvent>
@@ -20,14 +22,14 @@ std::vector<std::string> Files_In(const QMimeData& data) {
     std::vector<std::string> files;
     for (const QUrl& url : data.urls()) {
         if (url.isLocalFile()) {
-            files.push_back(From_Qt(url.toLocalFile()));
+            files.push_back(Native_Path(url.toLocalFile()));
         }
     }
     return files;
 }
 
 std::string Words_For_Load(const std::string& path) {
-    return "Load " + path.substr(path.rfind('/') + 1);
+    return "Load " + Bare_Name(path);
 }
 
 } // namespace

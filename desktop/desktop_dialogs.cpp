@@ -1,6 +1,7 @@
 #include "desktop/desktop_dialogs.h"
 
 #include "desktop/file_filters.h"
+#include "desktop/native_path.h"
 #include "desktop/text_bridge.h"
 
 #include <QApplication>
@@ -195,7 +196,7 @@ std::optional<Chosen_Path> Desktop_Dialogs::Choose_File(const Chooser& chooser) 
         return std::nullopt;
     }
     return Chosen_Path{
-        .path = From_Qt(dialog.selectedFiles().constFirst()),
+        .path = Native_Path(dialog.selectedFiles().constFirst()),
         .filter_index =
             Entry_Of(filters, dialog.selectedNameFilter()).value_or(chooser.filter_index)};
 }

@@ -3,6 +3,7 @@
 #include "application/version.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "desktop/native_path.h"
 #include "desktop/text_bridge.h"
 #include "platform/file_store.h"
 #include "platform/program_module.h"
@@ -63,10 +64,6 @@ QString Stand_In_Folder() {
     return !own.isEmpty() && QDir().mkpath(folder) ? folder : QString();
 }
 
-std::string Native(const QString& path) {
-    return From_Qt(QDir::toNativeSeparators(path));
-}
-
 bool Is_Session_Switch(const std::string& argument) {
     const std::string lower = Lower_Copy(argument);
     return lower == "/fs" || lower == "/fn" || lower == "/mp";
@@ -100,7 +97,7 @@ void Take_Files(Start_Options& options, std::span<const std::string> names) {
         const QUrl url(To_Qt(name));
         const QString path = url.isLocalFile() ? url.toLocalFile() : To_Qt(name);
         if (!path.isEmpty()) {
-            options.files.push_back(From_Qt(QFileInfo(path).absoluteFilePath()));
+            options.files.push_back(Native_Path(QFileInfo(path).absoluteFilePath()));
         }
     }
 }
@@ -145,20 +142,21 @@ Program_Place Program_Folder(const Start_Options& options) {
     const Wish wish = Wanted_Folder(options);
     const QString folder = QDir::cleanPath(QFileInfo(wish.folder).absoluteFilePath());
     if (QDir().mkpath(folder)) {
-        return {.folder = Native(folder), .notice = {}};
+        return {.folder = Native_Path(folder), .notice = {}};
     }
     const QString stand_in = wish.is_asked_for ? QString() : Stand_In_Folder();
     if (stand_in.isEmpty()) {
         throw Run_Time_Error(error::path_or_file_access,
-                             "The program's folder cannot be made:\r\n" + Native(folder) +
+                             "The program's folder cannot be made:\r\n" + Native_Path(folder) +
                                  "\r\n\r\nStart the program with --folder and a folder that can "
                                  "be written to.");
     }
-    return {.folder = Native(stand_in),
-            .notice = "The program's folder cannot be made in your home:\r\n" + Native(folder) +
+    return {.folder = Native_Path(stand_in),
+            .notice = "The program's folder cannot be made in your home:\r\n" +
+                      Native_Path(folder) +
                       "\r\n\r\nThis session and its rescue copies are kept among the temporary "
                       "files, which the system clears:\r\n" +
-                      Native(stand_in) + "\r\n\r\nSave your tests to a place that stays."};
+                      Native_Path(stand_in) + "\r\n\r\nSave your tests to a place that stays."};
 }
 
 Surroundings Present_Surroundings(const Start_Options& options, const std::string& folder) {

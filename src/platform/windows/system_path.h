@@ -22,7 +22,8 @@ namespace kestrum {
 /// with a letter that is forbidden, or one that ends in a blank or a point, which would be cut off.
 [[nodiscard]] bool Has_Forbidden_Name(std::string_view path);
 
-/// Raises 75 for such a path, with words that tell why: the system would make another file, or none, without a word.
+/// Raises 75 for such a path, with words that tell why: the system would make another file, or
+/// none, without a word.
 void Refuse_Forbidden_Name(std::string_view path);
 
 } // namespace kestrum
