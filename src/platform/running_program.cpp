@@ -1,5 +1,6 @@
 #include "platform/running_program.h"
 
+#include "base/byte_digest.h"
 #include "platform/file_moves.h"
 #include "platform/file_path.h"
 #include "platform/meeting_socket.h"
@@ -42,16 +43,6 @@ std::string Hexadecimal(std::uint64_t number) {
     std::array<char, base> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, base);
     return {digits.data(), end.ptr};
-}
-
-/// A short name for a long one, the same in every run.
-std::uint64_t Digest(std::string_view text) {
-    constexpr std::uint64_t prime = 1099511628211U;
-    std::uint64_t digest = 14695981039346656037U;
-    for (const char letter : text) {
-        digest = (digest ^ static_cast<unsigned char>(letter)) * prime;
-    }
-    return digest;
 }
 
 bool Is_Ready(int connection, Socket_Way way, Clock_Of_Waiting::time_point end) {
@@ -130,7 +121,7 @@ std::string Meeting_Place(std::string_view meeting_folder, std::string_view prog
     const fs::path folder = fs::canonical(File_Path(program_folder), fault);
     const std::string one = fault ? std::string(program_folder) : Text_Of(folder);
     return std::string(meeting_folder) + "/" +
-           Hexadecimal(Digest(one + '\0' + std::string(display)));
+           Hexadecimal(Digest_Of(one + '\0' + std::string(display)));
 }
 
 Running_Program::~Running_Program() {

@@ -68,36 +68,37 @@ std::string Control::Address() const {
 }
 
 void Control::Set_Text(std::string_view new_text) {
-    if (state_.text != new_text || state_.is_left) {
+    Set_Left(false);
+    if (state_.text != new_text) {
         state_.text = new_text;
-        state_.is_left = false;
-        Mark_Changed();
+        Mark_Input_Changed();
     }
 }
 
 void Control::Set_Left(bool left) {
     if (state_.is_left != left) {
         state_.is_left = left;
+        screen_->left_count_ += left ? 1 : -1;
         Mark_Changed();
     }
 }
 
 void Control::Append_Text(std::string_view more) {
     state_.text += more;
-    Mark_Changed();
+    Mark_Input_Changed();
 }
 
 void Control::Set_Value(int new_value) {
     if (state_.value != new_value) {
         state_.value = new_value;
-        Mark_Changed();
+        Mark_Input_Changed();
     }
 }
 
 void Control::Set_Look(const Look& new_look) {
     if (state_.look != new_look) {
         state_.look = new_look;
-        Mark_Changed();
+        Mark_Input_Changed();
     }
 }
 
@@ -134,14 +135,28 @@ void Control::Set_Items(std::vector<std::string> new_items) {
 
 void Control::Set_State(const Control_State& new_state) {
     if (state_ != new_state) {
+        Set_Left(new_state.is_left);
         state_ = new_state;
-        Mark_Changed();
+        Mark_Input_Changed();
     }
+}
+
+/// Brings its share in the digests of the screen up to date.
+void Control::Take_Share() {
+    const Input_Digests before = share_;
+    share_ = Share_Of(*this);
+    screen_->digests_.figures += share_.figures - before.figures;
+    screen_->digests_.inputs += share_.inputs - before.inputs;
+}
+
+/// The text, the value or whether it is entered has changed.
+void Control::Mark_Input_Changed() {
+    Take_Share();
+    Mark_Changed();
 }
 
 void Control::Mark_Changed() {
     screen_->kept_states_.reset();
-    screen_->Forget_Findings();
     if (!changed_) {
         changed_ = true;
         screen_->changes_.push_back(this);

@@ -3,6 +3,7 @@
 #include "base/font.h"
 #include "base/numeric_text.h"
 #include "screens/control_entry.h"
+#include "screens/digest.h"
 
 #include <string>
 #include <string_view>
@@ -130,12 +131,16 @@ public:
 
 private:
     friend class Screen;
+    void Take_Share();
+    void Mark_Input_Changed();
     void Mark_Changed();
 
     Screen* screen_;
     const Control_Entry* entry_;
     int index_;
     Control_State state_;
+    /// What is in the digests of the screen for it.
+    Input_Digests share_;
     bool changed_ = false;
 };
 

@@ -1,33 +1,11 @@
 #include "screens/digest.h"
 
+#include "base/byte_digest.h"
 #include "screens/screen.h"
-
-#include <string_view>
 
 namespace kestrum {
 
 namespace {
-
-/// Fowler, Noll and Vo's, of 64 bits.
-class Digest {
-public:
-    void Add(std::string_view text) {
-        for (const char character : text) {
-            Add(character == ',' ? '.' : character);
-        }
-        Add('\0');
-    }
-
-    [[nodiscard]] std::uint64_t Value() const { return value_; }
-
-private:
-    void Add(char character) {
-        constexpr std::uint64_t prime = 0x100000001B3;
-        value_ = (value_ ^ static_cast<unsigned char>(character)) * prime;
-    }
-
-    std::uint64_t value_ = 0xCBF29CE484222325;
-};
 
 bool Is_Entered(const Control& control) {
     return control.Is_Text_Box() && !control.Present_Look().locked;
@@ -51,27 +29,31 @@ bool Feeds_Results(const Control& control) {
     return false;
 }
 
-} // namespace
-
-std::uint64_t Digest_Of_Figures(const Screen& screen) {
-    Digest digest;
-    for (const Control& control : screen.Controls()) {
-        if (Feeds_Results(control)) {
-            digest.Add(control.Text());
-            digest.Add(control.Value() == 0 ? "" : "on");
-        }
+/// Of a text and where it stands; the last steps spread it over all bits, as sums need.
+std::uint64_t Digest_In_Place(const Control& control) {
+    Byte_Digest digest;
+    digest.Add(control.Entry().array);
+    digest.Add(static_cast<char>(control.Index()));
+    for (const char character : control.Text()) {
+        digest.Add(character == ',' ? '.' : character);
     }
-    return digest.Value();
+    digest.Add(control.Value() == 0 ? '\0' : '\1');
+    constexpr std::uint64_t odd = 0x9E3779B97F4A7C15; // of the golden section
+    constexpr unsigned half = 32;
+    const std::uint64_t mixed = (digest.Value() ^ digest.Value() >> half) * odd;
+    return mixed ^ mixed >> half;
 }
 
-std::uint64_t Digest_Of_Inputs(const Screen& screen) {
-    Digest digest;
-    for (const Control& control : screen.Controls()) {
-        if (Is_Entered(control)) {
-            digest.Add(control.Text());
-        }
+} // namespace
+
+Input_Digests Share_Of(const Control& control) {
+    const bool entered = Is_Entered(control);
+    const bool feeds = Feeds_Results(control);
+    if (!entered && !feeds) {
+        return {};
     }
-    return digest.Value();
+    const std::uint64_t digest = Digest_In_Place(control);
+    return {.figures = feeds ? digest : 0, .inputs = entered ? digest : 0};
 }
 
 } // namespace kestrum

@@ -1,7 +1,6 @@
 #include "screens/screen.h"
 
 #include "base/run_time_error.h"
-#include "screens/digest.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -38,6 +37,9 @@ Screen::Screen(Screen_Id id, std::span<const Control_Entry> table) : id_(id), na
             members.resize(std::max(members.size(), static_cast<std::size_t>(index) + 1));
             members[static_cast<std::size_t>(index)] = &control;
         }
+    }
+    for (Control& control : controls_) {
+        control.Take_Share();
     }
     Note_Calculation();
     Note_Saved();
@@ -90,7 +92,6 @@ void Screen::Set_State(const Screen_State& state) {
     scale = state.scale;
     calculated_from_ = state.calculated_from;
     saved_as_ = state.saved_as;
-    Forget_Findings();
     if (state.controls == kept_states_) {
         return; // nothing has changed since
     }
@@ -101,39 +102,22 @@ void Screen::Set_State(const Screen_State& state) {
 }
 
 void Screen::Note_Calculation() {
-    for (Control& control : controls_) {
-        control.Set_Left(false);
+    for (auto control = controls_.begin(); left_count_ > 0; ++control) {
+        control->Set_Left(false);
     }
-    Set_Calculated_From(Digest_Of_Figures(*this));
+    calculated_from_ = digests_.figures;
 }
 
-void Screen::Set_Calculated_From(std::uint64_t digest) {
-    calculated_from_ = digest;
-    Forget_Findings();
-}
-
-bool Screen::Results_Are_Old() {
-    if (!results_are_old_) {
-        results_are_old_ = calculated_from_ != Digest_Of_Figures(*this);
-    }
-    return *results_are_old_;
+bool Screen::Results_Are_Old() const {
+    return calculated_from_ != digests_.figures;
 }
 
 void Screen::Note_Saved() {
-    saved_as_ = Digest_Of_Inputs(*this);
-    Forget_Findings();
+    saved_as_ = digests_.inputs;
 }
 
-bool Screen::Is_Unsaved() {
-    if (!is_unsaved_) {
-        is_unsaved_ = saved_as_ != Digest_Of_Inputs(*this);
-    }
-    return *is_unsaved_;
-}
-
-void Screen::Forget_Findings() {
-    results_are_old_.reset();
-    is_unsaved_.reset();
+bool Screen::Is_Unsaved() const {
+    return saved_as_ != digests_.inputs;
 }
 
 const Control_Array& Screen::Array(std::string_view array_name) const {

@@ -107,16 +107,16 @@ public:
 
     /// The results are those of the present inputs, wherever these came from, until one changes.
     void Note_Calculation();
-    [[nodiscard]] bool Results_Are_Old();
+    [[nodiscard]] bool Results_Are_Old() const;
 
     /// Digest of the inputs that the results were worked out from.
     [[nodiscard]] std::uint64_t Calculated_From() const { return calculated_from_; }
 
-    void Set_Calculated_From(std::uint64_t digest);
+    void Set_Calculated_From(std::uint64_t digest) { calculated_from_ = digest; }
 
     /// The present inputs stand in a file, or are those that the screen begins with.
     void Note_Saved();
-    [[nodiscard]] bool Is_Unsaved();
+    [[nodiscard]] bool Is_Unsaved() const;
 
     /// A control array by its name. A name that the table lacks is a fault of the program.
     [[nodiscard]] const Control_Array& Array(std::string_view array_name) const;
@@ -127,8 +127,6 @@ protected:
 private:
     friend class Control;
 
-    void Forget_Findings();
-
     Screen_Id id_;
     std::string name_;
     std::vector<Control> controls_;
@@ -137,11 +135,12 @@ private:
     std::vector<Control*> changes_;
     /// The controls as they stand, if they have been asked for since the last change.
     std::shared_ptr<const std::vector<Control_State>> kept_states_;
-    // Digests of inputs, and what has been found by them since the last change.
+    /// How many controls are older than the last calculation or file.
+    int left_count_ = 0;
+    // Of the inputs as they stand, as the results follow from them, and as a file has them.
+    Input_Digests digests_;
     std::uint64_t calculated_from_ = 0;
     std::uint64_t saved_as_ = 0;
-    std::optional<bool> results_are_old_;
-    std::optional<bool> is_unsaved_;
 };
 
 } // namespace kestrum

@@ -1,5 +1,6 @@
 #include "platform/writing_program.h"
 
+#include "base/byte_digest.h"
 #include "base/run_time_error.h"
 #include "platform/file_store.h"
 
@@ -58,13 +59,7 @@ std::uint64_t This_System() {
     std::string words = Content_If_Any("/proc/sys/kernel/random/boot_id");
     std::error_code unknown;
     words += fs::read_symlink("/proc/self/ns/pid", unknown).string();
-    constexpr std::uint64_t offset = 0xCBF29CE484222325U;
-    constexpr std::uint64_t prime = 0x100000001B3U;
-    std::uint64_t mixed = offset;
-    for (const char letter : words) {
-        mixed = (mixed ^ static_cast<unsigned char>(letter)) * prime;
-    }
-    return mixed;
+    return Digest_Of(words);
 }
 
 } // namespace

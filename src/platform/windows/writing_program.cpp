@@ -1,5 +1,6 @@
 #include "platform/writing_program.h"
 
+#include "base/byte_digest.h"
 #include "platform/windows/system_path.h"
 
 #include <array>
@@ -24,13 +25,7 @@ std::uint64_t This_System() {
     std::array<wchar_t, 256> name{};
     auto length = static_cast<DWORD>(name.size());
     ::GetComputerNameExW(ComputerNamePhysicalDnsHostname, name.data(), &length);
-    constexpr std::uint64_t offset = 0xCBF29CE484222325U;
-    constexpr std::uint64_t prime = 0x100000001B3U;
-    std::uint64_t mixed = offset;
-    for (const wchar_t letter : name) {
-        mixed = (mixed ^ static_cast<std::uint64_t>(letter)) * prime;
-    }
-    return mixed;
+    return Digest_Of({reinterpret_cast<const char*>(name.data()), sizeof name}); // NOLINT(*-cast)
 }
 
 } // namespace
