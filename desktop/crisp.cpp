@@ -54,15 +54,44 @@ void Crisp::Mark(const QRect& dots, QRgb colour, bool interrupted) const {
     }
 }
 
+/// The path around a large card is traced line by line, which takes longer than all else on a
+/// page; only its ends are round.
 void Crisp::Card(const QRectF& area, double radius, QRgb line, QRgb fill) const {
+    const QRect dots = Dots_Of(area);
+    const int thickness = Dots_In(1);
+    const int end = Dots_In(radius) + thickness;
+    if (dots.height() <= 4 * end) {
+        Round({dots, radius, line, fill});
+        return;
+    }
+    const QRect middle = dots.adjusted(0, end, 0, -end);
+    Fill({middle.topLeft(), QSize(thickness, middle.height())}, line);
+    Fill(middle.adjusted(middle.width() - thickness, 0, 0, 0), line);
+    painter_.fillRect(Area_Of(middle.adjusted(thickness, 0, -thickness, 0)),
+                      QColor::fromRgba(fill));
+    const QSize whole(dots.width(), 2 * end);
+    const QSize shown(dots.width(), end);
+    const QPoint last = dots.bottomLeft() + QPoint(0, 1);
+    for (const bool is_top : {true, false}) {
+        painter_.save();
+        painter_.setClipRect(
+            Area_Of({is_top ? dots.topLeft() : last - QPoint(0, end), QSizeF(shown)}),
+            Qt::IntersectClip);
+        Round({QRect(is_top ? dots.topLeft() : last - QPoint(0, 2 * end), whole), radius, line,
+               fill});
+        painter_.restore();
+    }
+}
+
+void Crisp::Round(const Round_Card& card) const {
     const int thickness = Dots_In(1);
     const double half = thickness / 2.0;
-    const QRectF middle = QRectF(Dots_Of(area)).adjusted(half, half, -half, -half);
     painter_.save();
     painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.setPen(QPen(QColor::fromRgb(line), thickness / to_dots_.m11()));
-    painter_.setBrush(QColor::fromRgba(fill));
-    painter_.drawRoundedRect(Area_Of(middle), radius, radius);
+    painter_.setPen(QPen(QColor::fromRgb(card.line), thickness / to_dots_.m11()));
+    painter_.setBrush(QColor::fromRgba(card.fill));
+    painter_.drawRoundedRect(Area_Of(QRectF(card.dots).adjusted(half, half, -half, -half)),
+                             card.radius, card.radius);
     painter_.restore();
 }
 

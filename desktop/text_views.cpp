@@ -13,9 +13,12 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPolygonF>
+#include <QStyle>
+#include <QTextLayout>
 #include <QToolTip>
 
 #include <algorithm>
+#include <memory>
 
 namespace kestrum::desktop {
 
@@ -26,21 +29,53 @@ constexpr qsizetype longest_line = 1000;
 
 } // namespace
 
+namespace {
+
+/// One line, shaped once for both its width and its painting.
+class Set_Line {
+public:
+    Set_Line(const QString& text, const QPainter& painter) : layout_(text, painter.font()) {
+        QTextOption option;
+        option.setWrapMode(QTextOption::NoWrap);
+        layout_.setTextOption(option);
+        layout_.setCacheEnabled(true); // or it would be shaped again to be painted
+        layout_.beginLayout();
+        layout_.createLine();
+        layout_.endLayout();
+    }
+
+    [[nodiscard]] int Width() const { return qRound(layout_.lineAt(0).naturalTextWidth()); }
+
+    void Paint(QPainter& painter, const QPoint& corner) const { layout_.draw(&painter, corner); }
+
+private:
+    QTextLayout layout_;
+};
+
+} // namespace
+
 void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
                   const QString& text) {
-    const QString line = text.left(longest_line);
+    const QString line = text.left(longest_line).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    if (line.isEmpty()) {
+        return;
+    }
     const QFont usual = painter.font();
     QFont font = usual;
+    auto set = std::make_unique<Set_Line>(line, painter);
     while (font.pixelSize() > theme::smallest_pixels &&
-           (painter.fontMetrics().horizontalAdvance(line) > area.width() ||
-            painter.fontMetrics().ascent() > area.height())) {
+           (set->Width() > area.width() || painter.fontMetrics().ascent() > area.height())) {
         font.setPixelSize(font.pixelSize() - 1);
         painter.setFont(font);
+        set = std::make_unique<Set_Line>(line, painter);
     }
     const QFontMetrics metrics = painter.fontMetrics();
-    const bool fits = metrics.horizontalAdvance(line) <= area.width();
-    painter.drawText(area, static_cast<int>(alignment) | Qt::TextSingleLine,
-                     fits ? line : metrics.elidedText(line, Qt::ElideRight, area.width()));
+    if (set->Width() > area.width()) {
+        const QString cut = metrics.elidedText(line, Qt::ElideRight, area.width());
+        set = std::make_unique<Set_Line>(cut, painter);
+    }
+    const QSize size(set->Width(), metrics.height());
+    set->Paint(painter, QStyle::alignedRect(Qt::LeftToRight, alignment, size, area).topLeft());
     painter.setFont(usual);
 }
 

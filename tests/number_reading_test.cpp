@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
+#include <random>
+#include <string>
+
 namespace kestrum {
 
 namespace {
@@ -27,6 +31,22 @@ TEST(Number_Reading, Takes_What_A_Field_May_Hold) {
     };
     for (const Number_Case& c : cases) {
         EXPECT_EQ(dot_mode.Read(c.text), c.value) << c.text;
+    }
+}
+
+TEST(Number_Reading, Gives_The_Nearest_Double_Of_Every_Plain_Text) {
+    std::minstd_rand chance; // NOLINT(*-msc*) the same texts in every run
+    for (int round = 0; round < 200000; ++round) {
+        std::string text = chance() % 4 == 0 ? "-" : "";
+        const std::size_t digits = 1 + chance() % 18; // beyond what one division can do
+        for (std::size_t digit = 0; digit < digits; ++digit) {
+            text += static_cast<char>('0' + chance() % 10);
+        }
+        const std::size_t sign = text.front() == '-' ? 1 : 0;
+        text.insert(sign + chance() % (digits + 1), ".");
+        double expected = 0;
+        std::from_chars(text.data(), text.data() + text.size(), expected);
+        ASSERT_EQ(dot_mode.Read(text).Value(), expected) << text;
     }
 }
 

@@ -6,7 +6,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <optional>
 
 namespace kestrum {
 
@@ -88,6 +90,35 @@ Number_Parts Parts_Of(std::string_view text, char point) {
     return parts;
 }
 
+/// The number of a short plain text: a sign in front, digits and a separator. Its digits as a whole
+/// number and the power of ten below it are both exact, so the quotient is the nearest double.
+/// Nothing for any other text.
+std::optional<double> Short_Number(std::string_view text, char point) {
+    constexpr auto powers_of_ten = std::to_array<double>(
+        {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15});
+    const bool negative = text.starts_with('-');
+    if (negative) {
+        text.remove_prefix(1);
+    }
+    const std::size_t place_of_point = std::min(text.find(point), text.size());
+    const bool has_point = place_of_point < text.size();
+    const std::size_t digit_count = text.size() - (has_point ? 1 : 0);
+    if (digit_count == 0 || digit_count > std::size_t{significant_digits}) {
+        return {};
+    }
+    std::int64_t whole = 0;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (Is_Digit(text[index])) {
+            whole = whole * 10 + (text[index] - '0'); // NOLINT(*-magic-numbers)
+        } else if (index != place_of_point) {
+            return {};
+        }
+    }
+    const std::size_t decimals = has_point ? digit_count - place_of_point : 0;
+    const double value = static_cast<double>(whole) / powers_of_ten.at(decimals);
+    return negative ? -value : value;
+}
+
 /// A value too small for double is zero; one too large is an overflow.
 double Value_Out_Of_Range(std::string_view digits) {
     const std::size_t letter = std::min(digits.find('e'), digits.size());
@@ -107,11 +138,12 @@ double Value_Out_Of_Range(std::string_view digits) {
     Fail(error::overflow);
 }
 
-double Converted(const char* first, const char* last) {
+double Converted(std::string_view digits) {
     double value = 0;
-    const auto [end, failure] = std::from_chars(first, last, value);
+    const char* const last = digits.data() + digits.size();
+    const auto [end, failure] = std::from_chars(digits.data(), last, value);
     if (failure == std::errc::result_out_of_range) {
-        return Value_Out_Of_Range({first, static_cast<std::size_t>(last - first)});
+        return Value_Out_Of_Range(digits);
     }
     if (failure != std::errc() || end != last) {
         Fail(error::type_mismatch);
@@ -227,21 +259,17 @@ int Rounded_To(Real number) {
 } // namespace
 
 Real Numeric_Text::Read(std::string_view text) const {
-    const Number_Parts parts = Parts_Of(text, Point());
-    // Most numbers can be read where they stand.
-    const bool as_it_stands = comma_mode == 0 && parts.exponent.empty();
-    double value = 0;
-    if (as_it_stands) {
-        value = Converted(parts.mantissa.data(), parts.mantissa.data() + parts.mantissa.size());
-    } else {
-        std::string plain(parts.mantissa);
-        std::ranges::replace(plain, ',', '.');
-        if (!parts.exponent.empty()) {
-            plain += 'e';
-            plain += parts.exponent;
-        }
-        value = Converted(plain.data(), plain.data() + plain.size());
+    if (const auto value = Short_Number(text, Point())) {
+        return {*value};
     }
+    const Number_Parts parts = Parts_Of(text, Point());
+    std::string plain(parts.mantissa);
+    std::ranges::replace(plain, ',', '.');
+    if (!parts.exponent.empty()) {
+        plain += 'e';
+        plain += parts.exponent;
+    }
+    const double value = Converted(plain);
     return {parts.negative ? -value : value};
 }
 

@@ -141,8 +141,11 @@ void Control::Set_State(const Control_State& new_state) {
     }
 }
 
-/// Brings its share in the digests of the screen up to date.
+/// Brings its share in the digests of the screen up to date. Results have none.
 void Control::Take_Share() {
+    if (share_.inputs == 0 && Is_Text_Box() && state_.look.locked) {
+        return; // by far the most changes are of results
+    }
     const Input_Digests before = share_;
     share_ = Share_Of(*this);
     screen_->digests_.figures += share_.figures - before.figures;
