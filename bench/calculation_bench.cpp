@@ -21,9 +21,9 @@ namespace kestrum {
 namespace {
 
 // Texts that one calculation of the stored test reads and numbers that it writes: the calls of
-// std::from_chars and std::to_chars for doubles in a program that calculates twice less those in
-// one that calculates once, as callgrind counts them. A read of the same field in two formulas is
-// two reads, for the field may have changed.
+// Numeric_Text::Read and of std::to_chars for doubles in a program that calculates twice less those
+// in one that calculates once, as callgrind counts them. A read of the same field in two formulas
+// is two reads, for the field may have changed.
 constexpr int texts_read = 824;
 constexpr int numbers_written = 300;
 

@@ -31,9 +31,11 @@ bool Feeds_Results(const Control& control) {
 
 /// Of a text and where it stands; the last steps spread it over all bits, as sums need.
 std::uint64_t Digest_In_Place(const Control& control) {
+    constexpr int byte = 8;
+    const auto place = &control - control.Owner().Controls().data();
     Byte_Digest digest;
-    digest.Add(control.Entry().array);
-    digest.Add(static_cast<char>(control.Index()));
+    digest.Add(static_cast<char>(place));
+    digest.Add(static_cast<char>(place >> byte));
     for (const char character : control.Text()) {
         digest.Add(character == ',' ? '.' : character);
     }
