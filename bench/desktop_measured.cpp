@@ -110,23 +110,6 @@ private:
     bool noting_ = false;
 };
 
-struct Span {
-    Nanoseconds passed = 0;
-    Nanoseconds worked = 0; // by the processor, for this program
-};
-
-/// From the click to the last paint.
-[[gnu::noinline]] Span Adapt_And_Repaint(Program& program, const Paint_Watch& watch) {
-    Session& session = program.Its_Session();
-    const Nanoseconds start = Now();
-    const std::clock_t worked = std::clock();
-    program.Its_Gate().Enter_Command(
-        [&session] { Click(session, *session.Main().Find("FullScrRes", {})); });
-    const Nanoseconds repainted = watch.Last_Paint(start);
-    constexpr Nanoseconds per_tick = 1'000'000'000 / CLOCKS_PER_SEC;
-    return {.passed = repainted - start, .worked = (std::clock() - worked) * per_tick};
-}
-
 /// Every screen stands open, so all windows are resized and painted.
 void Measure_Adaptation(Program& program) {
     Session& session = program.Its_Session();
@@ -136,9 +119,15 @@ void Measure_Adaptation(Program& program) {
         program.Its_Gate().Enter([&] { session.Show(session.The(id)); });
     }
     static_cast<void>(watch.Last_Paint(opened));
-    const Span span = Adapt_And_Repaint(program, watch);
-    const std::string line = R"({"repainted_ms":)" + Milliseconds(span.passed) +
-                             R"(,"worked_ms":)" + Milliseconds(span.worked) + "}\n";
+    const Nanoseconds start = Now();
+    const std::clock_t worked = std::clock();
+    program.Its_Gate().Enter_Command(
+        [&session] { Click(session, *session.Main().Find("FullScrRes", {})); });
+    const Nanoseconds repainted = watch.Last_Paint(start);
+    constexpr Nanoseconds per_tick = 1'000'000'000 / CLOCKS_PER_SEC;
+    const std::string line = R"({"repainted_ms":)" + Milliseconds(repainted - start) +
+                             R"(,"worked_ms":)" + Milliseconds((std::clock() - worked) * per_tick) +
+                             "}\n";
     std::fputs(line.c_str(), stdout);
     std::fflush(stdout);
     QCoreApplication::exit(0);
