@@ -1,10 +1,85 @@
 #include "desktop/crisp.h"
 
 #include <QPen>
+#include <QPixmapCache>
 
 #include <algorithm>
 
 namespace kestrum::desktop {
+
+namespace {
+
+/// How a card looks, in dots.
+struct Card_Look {
+    double radius;
+    int thickness;
+    QRgb line;
+    QRgb fill;
+
+    /// The side of a square that holds a round corner.
+    [[nodiscard]] int Corner() const { return static_cast<int>(radius) + 1 + thickness; }
+};
+
+/// The painter's unit is one dot.
+void Trace(QPainter& painter, const QRect& dots, const Card_Look& look) {
+    const double half = look.thickness / 2.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor::fromRgb(look.line), look.thickness));
+    painter.setBrush(QColor::fromRgba(look.fill));
+    painter.drawRoundedRect(QRectF(dots).adjusted(half, half, -half, -half), look.radius,
+                            look.radius);
+}
+
+/// A card that is nothing but its four corners, traced once for each look.
+QPixmap Corners_Of(const Card_Look& look) {
+    const QString key = QStringLiteral("card %1 %2 %3 %4")
+                            .arg(look.radius)
+                            .arg(look.thickness)
+                            .arg(look.line)
+                            .arg(look.fill);
+    QPixmap corners;
+    if (!QPixmapCache::find(key, &corners)) {
+        const QRect all(0, 0, 2 * look.Corner(), 2 * look.Corner());
+        corners = QPixmap(all.size());
+        corners.fill(Qt::transparent);
+        QPainter painter(&corners);
+        Trace(painter, all, look);
+        QPixmapCache::insert(key, corners);
+    }
+    return corners;
+}
+
+void Paint_Corners(QPainter& painter, const QRect& dots, const Card_Look& look) {
+    const QPixmap corners = Corners_Of(look);
+    const int side = look.Corner();
+    const QSize size(side, side);
+    for (const bool right : {false, true}) {
+        for (const bool below : {false, true}) {
+            const QPoint from(right ? side : 0, below ? side : 0);
+            const QPoint to(right ? dots.right() + 1 - side : dots.left(),
+                            below ? dots.bottom() + 1 - side : dots.top());
+            painter.drawPixmap(QRect(to, size), corners, QRect(from, size));
+        }
+    }
+}
+
+void Paint_Between_Corners(QPainter& painter, const QRect& dots, const Card_Look& look) {
+    const int side = look.Corner();
+    const int thickness = look.thickness;
+    const QRect across = dots.adjusted(side, 0, -side, 0);
+    const QRect down = dots.adjusted(0, side, 0, -side);
+    const QColor line = QColor::fromRgb(look.line);
+    painter.fillRect(across.adjusted(0, 0, 0, thickness - dots.height()), line);
+    painter.fillRect(across.adjusted(0, dots.height() - thickness, 0, 0), line);
+    painter.fillRect(down.adjusted(0, 0, thickness - dots.width(), 0), line);
+    painter.fillRect(down.adjusted(dots.width() - thickness, 0, 0, 0), line);
+    const QColor fill = QColor::fromRgba(look.fill);
+    painter.fillRect(across.adjusted(0, thickness, 0, side - dots.height()), fill);
+    painter.fillRect(across.adjusted(0, dots.height() - side, 0, -thickness), fill);
+    painter.fillRect(down.adjusted(thickness, 0, -thickness, 0), fill);
+}
+
+} // namespace
 
 Crisp::Crisp(QPainter& painter)
     : painter_(painter), to_dots_(painter.deviceTransform()), from_dots_(to_dots_.inverted()) {}
@@ -54,44 +129,19 @@ void Crisp::Mark(const QRect& dots, QRgb colour, bool interrupted) const {
     }
 }
 
-/// The path around a large card is traced line by line, which takes longer than all else on a
-/// page; only its ends are round.
+/// To trace the corners of every card and button takes longer than all else on a page.
 void Crisp::Card(const QRectF& area, double radius, QRgb line, QRgb fill) const {
     const QRect dots = Dots_Of(area);
-    const int thickness = Dots_In(1);
-    const int end = Dots_In(radius) + thickness;
-    if (dots.height() <= 4 * end) {
-        Round({dots, radius, line, fill});
-        return;
-    }
-    const QRect middle = dots.adjusted(0, end, 0, -end);
-    Fill({middle.topLeft(), QSize(thickness, middle.height())}, line);
-    Fill(middle.adjusted(middle.width() - thickness, 0, 0, 0), line);
-    painter_.fillRect(Area_Of(middle.adjusted(thickness, 0, -thickness, 0)),
-                      QColor::fromRgba(fill));
-    const QSize whole(dots.width(), 2 * end);
-    const QSize shown(dots.width(), end);
-    const QPoint last = dots.bottomLeft() + QPoint(0, 1);
-    for (const bool is_top : {true, false}) {
-        painter_.save();
-        painter_.setClipRect(
-            Area_Of({is_top ? dots.topLeft() : last - QPoint(0, end), QSizeF(shown)}),
-            Qt::IntersectClip);
-        Round({QRect(is_top ? dots.topLeft() : last - QPoint(0, 2 * end), whole), radius, line,
-               fill});
-        painter_.restore();
-    }
-}
-
-void Crisp::Round(const Round_Card& card) const {
-    const int thickness = Dots_In(1);
-    const double half = thickness / 2.0;
+    const Card_Look look{
+        .radius = radius * to_dots_.m11(), .thickness = Dots_In(1), .line = line, .fill = fill};
     painter_.save();
-    painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.setPen(QPen(QColor::fromRgb(card.line), thickness / to_dots_.m11()));
-    painter_.setBrush(QColor::fromRgba(card.fill));
-    painter_.drawRoundedRect(Area_Of(QRectF(card.dots).adjusted(half, half, -half, -half)),
-                             card.radius, card.radius);
+    painter_.setWorldTransform(from_dots_ * painter_.worldTransform());
+    if (std::min(dots.width(), dots.height()) < 2 * look.Corner()) {
+        Trace(painter_, dots, look);
+    } else {
+        Paint_Corners(painter_, dots, look);
+        Paint_Between_Corners(painter_, dots, look);
+    }
     painter_.restore();
 }
 
