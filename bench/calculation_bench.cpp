@@ -148,14 +148,11 @@ BENCHMARK(Metric_And_Back)->Repetitions(repetitions);
 } // namespace kestrum
 
 int main(int count, char* values[]) {
-    benchmark::Initialize(&count, values);
-    if (benchmark::ReportUnrecognizedArguments(count, values)) {
-        return 1;
-    }
-    kestrum::Fastest_Reporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.Print_Ratio("calculation / bare conversions", "Calculation", "Bare_Conversions", 2);
-    reporter.Print_Ratio("load / calculation", "Load", "Calculation", 3);
-    reporter.Print_Ratio("switch of units / two calculations of all", "Metric_And_Back",
-                         "Four_Calculations_Of_All", 1);
+    return kestrum::Run_Benchmarks(count, values, [](const kestrum::Fastest_Reporter& reporter) {
+        reporter.Print_Ratio("calculation / bare conversions", "Calculation", "Bare_Conversions",
+                             2);
+        reporter.Print_Ratio("load / calculation", "Load", "Calculation", 3);
+        reporter.Print_Ratio("switch of units / two calculations of all", "Metric_And_Back",
+                             "Four_Calculations_Of_All", 1);
+    });
 }

@@ -45,4 +45,17 @@ private:
     std::map<std::string, double> times_;
 };
 
+/// Runs the benchmarks and then `print`, which gets their times; gives the program's status.
+template <typename Print>
+int Run_Benchmarks(int count, char** values, Print print) {
+    benchmark::Initialize(&count, values);
+    if (benchmark::ReportUnrecognizedArguments(count, values)) {
+        return 1;
+    }
+    Fastest_Reporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    print(reporter);
+    return 0;
+}
+
 } // namespace kestrum

@@ -122,11 +122,7 @@ int main(int count, char* values[]) {
     qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
     const QGuiApplication application(count, values);
 #endif
-    benchmark::Initialize(&count, values);
-    if (benchmark::ReportUnrecognizedArguments(count, values)) {
-        return 1;
-    }
-    kestrum::Fastest_Reporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.Print_Ratio("graph / bare exponentials", "Whole_Graph", "Bare_Exponentials", 1.5);
+    return kestrum::Run_Benchmarks(count, values, [](const kestrum::Fastest_Reporter& reporter) {
+        reporter.Print_Ratio("graph / bare exponentials", "Whole_Graph", "Bare_Exponentials", 1.5);
+    });
 }

@@ -53,13 +53,9 @@ BENCHMARK(Five_Calculations)->Repetitions(repetitions);
 } // namespace kestrum
 
 int main(int count, char* values[]) {
-    benchmark::Initialize(&count, values);
-    if (benchmark::ReportUnrecognizedArguments(count, values)) {
-        return 1;
-    }
-    kestrum::Fastest_Reporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.Print_Ratio("report / its five calculations", "Report_Of_Five", "Five_Calculations",
-                         5);
-    reporter.Print_Milliseconds("report of five tests", "Report_Of_Five", 5);
+    return kestrum::Run_Benchmarks(count, values, [](const kestrum::Fastest_Reporter& reporter) {
+        reporter.Print_Ratio("report / its five calculations", "Report_Of_Five",
+                             "Five_Calculations", 5);
+        reporter.Print_Milliseconds("report of five tests", "Report_Of_Five", 5);
+    });
 }

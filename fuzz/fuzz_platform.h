@@ -4,6 +4,8 @@
 #include "core/null_platform.h"
 #include "core/session.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 
 namespace kestrum::fuzz {
@@ -30,6 +32,21 @@ private:
     unsigned bits_ = 0;
     int boxes_ = 0;
 };
+
+/// Loads what a fuzzer gives into one of two benches that stay from one input to the next, one for
+/// each decimal separator. The first byte chooses it and answers the boxes.
+template <typename Bench>
+int Load_In_Either_Mode(const std::uint8_t* data, std::size_t size) {
+    static Bench dots(false);
+    static Bench commas(true);
+    if (size == 0) {
+        return 0;
+    }
+    constexpr unsigned comma_bit = 0x80;
+    const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1); // NOLINT
+    ((data[0] & comma_bit) != 0 ? commas : dots).Load(data[0], bytes);
+    return 0;
+}
 
 inline void Require(bool holds) {
     if (!holds) {

@@ -46,14 +46,5 @@ private:
 } // namespace kestrum
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace kestrum;
-    static Config_Bench dots(false);
-    static Config_Bench commas(true);
-    if (size == 0) {
-        return 0;
-    }
-    constexpr unsigned comma_bit = 0x80;
-    const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1); // NOLINT
-    ((data[0] & comma_bit) != 0 ? commas : dots).Load(data[0], bytes);
-    return 0;
+    return kestrum::fuzz::Load_In_Either_Mode<kestrum::Config_Bench>(data, size);
 }
