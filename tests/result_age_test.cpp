@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+
 namespace kestrum {
 
 namespace {
@@ -97,6 +100,43 @@ TEST(Result_Age, A_Sheet_Is_Unsaved_From_An_Edit_Until_A_File_Holds_It) {
     EXPECT_TRUE(sheet.Is_Unsaved()) << "nothing was written";
     bench.platform.Choose(path);
     static_cast<void>(bench.Click("Form1.Load_Data"));
+    EXPECT_FALSE(sheet.Is_Unsaved());
+}
+
+TEST(Result_Age, Follows_From_The_Inputs_Whatever_Way_They_Came) {
+    Test_Bench bench;
+    Screen& sheet = bench.session.Sheet(1);
+    Screen& other = bench.session.Sheet(2);
+    const Screen_State start = sheet.Present_State();
+    std::minstd_rand chance; // NOLINT(*-msc*) the same changes in every run
+    for (int round = 0; round < 2000; ++round) {
+        Control& control = sheet.Controls()[chance() % sheet.Controls().size()];
+        Look look = control.Present_Look();
+        switch (chance() % 5) {
+        case 0:
+            control.Append_Text("1");
+            break;
+        case 1:
+            look.locked = !look.locked;
+            control.Set_Look(look);
+            break;
+        case 2:
+            control.Set_Left(chance() % 2 == 0);
+            break;
+        default:
+            control.Set_Text(chance() % 2 == 0 ? "12,5" : "12.5");
+        }
+    }
+    EXPECT_TRUE(sheet.Results_Are_Old());
+    sheet.Note_Calculation();
+    sheet.Note_Saved();
+    EXPECT_TRUE(std::ranges::none_of(sheet.Controls(), &Control::Is_Left));
+    const Screen_State changed = sheet.Present_State();
+    other.Set_State(changed); // each control in one step
+    EXPECT_FALSE(other.Results_Are_Old());
+    EXPECT_FALSE(other.Is_Unsaved());
+    sheet.Set_State(start);
+    EXPECT_FALSE(sheet.Results_Are_Old());
     EXPECT_FALSE(sheet.Is_Unsaved());
 }
 
