@@ -41,9 +41,28 @@ bool Start(const Player& player, const QString& path) {
     return process.startDetached();
 }
 
+/// The opener of a desktop tells nobody that it has found no program for mails, so it is asked
+/// before. A system that cannot be asked is taken to have one.
+bool Has_Mail_Program() {
+    const QString asking = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (asking.isEmpty()) {
+        return true;
+    }
+    constexpr int patience = 3000; // milliseconds
+    QProcess process;
+    process.start(asking, {QStringLiteral("query"), QStringLiteral("default"),
+                           QStringLiteral("x-scheme-handler/mailto")});
+    const bool answered = process.waitForFinished(patience) &&
+                          process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return !answered || !process.readAllStandardOutput().trimmed().isEmpty();
+}
+
 } // namespace
 
 bool Desktop_Shell::Open(const std::string& address) {
+    if (address.starts_with("mailto:") && !Has_Mail_Program()) {
+        return false;
+    }
     return QDesktopServices::openUrl(QUrl(To_Qt(address), QUrl::TolerantMode));
 }
 

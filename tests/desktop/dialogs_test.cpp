@@ -4,12 +4,15 @@
 #include "desktop/text_bridge.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFile>
 #include <QFileDialog>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -121,6 +124,35 @@ TEST(Sounds, Are_Played_By_A_Program_Of_Their_Own_And_Only_If_They_Are_Sounds) {
     EXPECT_TRUE(QTest::qWaitFor([&played] { return played.exists(); }));
     ASSERT_TRUE(played.open(QIODevice::ReadOnly));
     EXPECT_EQ(played.readAll().trimmed(), "-q " + path("a b.wav").toLocal8Bit());
+}
+
+TEST(Mails, Are_Handed_On_Unless_The_Desktop_Names_No_Program_For_Them) {
+    const QTemporaryDir folder;
+    QTextBrowser opener;
+    QUrl opened;
+    QObject::connect(&opener, &QTextBrowser::anchorClicked,
+                     [&opened](const QUrl& address) { opened = address; });
+    QDesktopServices::setUrlHandler(QStringLiteral("mailto"), &opener, "anchorClicked");
+    const QByteArray usual_path = qgetenv("PATH");
+    qputenv("PATH", folder.path().toLocal8Bit());
+    Desktop_Shell shell;
+    const auto opens = [&](const QByteArray& answer) {
+        QFile asking(folder.filePath(QStringLiteral("xdg-mime")));
+        QFile::remove(asking.fileName());
+        EXPECT_TRUE(asking.open(QIODevice::WriteOnly));
+        asking.write("#!/bin/sh\n" + answer);
+        asking.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        asking.close();
+        opened.clear();
+        return shell.Open("mailto:a@b.c");
+    };
+    EXPECT_FALSE(opens("echo\n"));
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_TRUE(opens("echo mail.desktop\n"));
+    EXPECT_EQ(opened, QUrl(QStringLiteral("mailto:a@b.c")));
+    EXPECT_TRUE(opens("exit 2\n")) << "it cannot tell";
+    qputenv("PATH", usual_path);
+    QDesktopServices::unsetUrlHandler(QStringLiteral("mailto"));
 }
 
 } // namespace
