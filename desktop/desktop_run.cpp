@@ -48,15 +48,18 @@ const char* const usage =
 
 /// What can be answered without a display. Gives false when there is nothing of the kind.
 bool Answers_At_Once(const Start_Options& options) {
+    if (!options.wants_help && !options.wants_version && options.fault.empty()) {
+        return false;
+    }
     Borrow_Terminal();
     if (options.wants_help) {
         std::fputs(usage, stdout);
     } else if (options.wants_version) {
         std::fputs(("kestrum " + Program_Version() + "\n").c_str(), stdout);
-    } else if (!options.fault.empty()) {
+    } else {
         std::fputs(("kestrum: " + options.fault + "\n").c_str(), stderr);
     }
-    return options.wants_help || options.wants_version || !options.fault.empty();
+    return true;
 }
 
 /// Where this start meets others; empty when it can meet nobody.

@@ -9,7 +9,7 @@ foreach(library Core Gui PrintSupport Widgets)
   install(FILES "$<TARGET_FILE:Qt6::${library}>" DESTINATION .)
 endforeach()
 foreach(plugin platforms/QWindowsIntegration platforms/QMinimalIntegration imageformats/QGif
-    imageformats/QICO imageformats/QJpeg printsupport/QWindowsPrinterSupport)
+    imageformats/QICO imageformats/QJpeg)
   get_filename_component(folder "${plugin}" DIRECTORY)
   get_filename_component(name "${plugin}" NAME)
   install(FILES "$<TARGET_FILE:Qt6::${name}Plugin>" DESTINATION "${folder}")
