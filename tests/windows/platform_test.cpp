@@ -6,6 +6,7 @@
 #include "platform/lock_file.h"
 #include "platform/new_file.h"
 #include "platform/passing_file.h"
+#include "platform/running_program.h"
 #include "tests/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -180,6 +181,17 @@ TEST(Windows_Locks, One_Program_Holds_A_File) {
     EXPECT_FALSE(Lock_File().Take(folder.File("in-use")));
     lock.Release();
     EXPECT_TRUE(Lock_File().Take(folder.File("in-use")));
+}
+
+TEST(Windows_Meeting, Is_In_A_Folder_Of_The_Users_Own) {
+    const Temp_Folder folder;
+    const std::string meeting = Meeting_Folder("", folder.Path());
+    EXPECT_EQ(meeting, folder.File("kestrum-meeting"));
+    EXPECT_EQ(Meeting_Folder("", folder.Path()), meeting) << "one that is there";
+    EXPECT_TRUE(May_Write_In(meeting));
+    const std::string file = folder.Write("file", "");
+    EXPECT_EQ(Meeting_Folder("", file), "");
+    EXPECT_EQ(Meeting_Folder("", folder.File("none")), "");
 }
 
 TEST(Windows_Clock, Speaks_The_Languages_Of_The_System) {

@@ -81,7 +81,7 @@ std::string New_Token() {
     std::random_device chance; // the system's own
     std::string token;
     while (token.size() < token_size) {
-        token += static_cast<char>('a' + chance() % base);
+        token += static_cast<char>('g' + chance() % base); // no digit of the port before it
     }
     return token;
 }
