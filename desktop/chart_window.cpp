@@ -8,10 +8,10 @@
 #include "drawing/picture_file.h"
 #include "painting/figure_painter.h"
 #include "platform/file_store.h"
+#include "records/named_files.h"
 
 #include <QAction>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -28,17 +28,6 @@ namespace kestrum::desktop {
 namespace {
 
 constexpr int row_height = 24; // of the tables
-
-/// A picture's or table's file as the user names it; one that has no ending gets the usual one.
-QString Chosen_Name(QWidget* parent, const QString& title, const QString& filter,
-                    const QString& ending) {
-    QString path = QFileDialog::getSaveFileName(parent, title, QString(), filter);
-    const QString name = path.section(QLatin1Char('/'), -1);
-    if (!path.isEmpty() && !name.contains(QLatin1Char('.'))) {
-        path += ending;
-    }
-    return path;
-}
 
 QStringList Names_Of(const std::vector<Chart_Test>& tests) {
     QStringList names;
@@ -241,39 +230,49 @@ void Chart_Window::Copy_Tables() const {
     message_->setText(QStringLiteral("The chosen cells are in the clipboard"));
 }
 
-void Chart_Window::Save(const QString& path, const std::function<std::string()>& bytes) {
-    if (path.isEmpty()) {
+std::string Chart_Window::Proposal(std::string_view ending) const {
+    const auto name = [this](std::size_t test) {
+        return tests_.size() > test ? tests_[test].figures.name : std::string();
+    };
+    return Proposal_For_Tests(name(0), tests_.size() == 2 ? name(1) : std::string(), ending);
+}
+
+void Chart_Window::Save(std::string_view entries, std::string_view ending,
+                        const std::function<std::string(const QString& path)>& bytes) {
+    const auto chosen =
+        session_.dialogs.Choose_File({.mode = Chooser_Mode::Save,
+                                      .filter = {},
+                                      .folder = session_.surroundings.folder,
+                                      .proposal = Proposal(ending),
+                                      .more_entries = std::string(entries)});
+    if (!chosen) {
         return;
     }
     try {
-        Write_Whole_File(From_Qt(path), bytes());
-        message_->setText(QStringLiteral("Saved ") + path);
+        Write_Whole_File(chosen->path, bytes(To_Qt(chosen->path)));
+        message_->setText(QStringLiteral("Saved to ") + To_Qt(chosen->path));
     } catch (const Run_Time_Error& failure) {
         message_->setText(To_Qt("Not saved: " + failure.Description()));
     }
 }
 
 void Chart_Window::Save_Tables() {
-    Save(Chosen_Name(this, QStringLiteral("Save the tables"), QStringLiteral("CSV files (*.csv)"),
-                     QStringLiteral(".csv")),
-         [this] { return Separated_Text(texts_, ','); });
+    Save("CSV files (*.csv)|*.csv", ".csv",
+         [this](const QString&) { return Separated_Text(texts_, ','); });
 }
 
 void Chart_Window::Save_Page() {
-    const QString path =
-        Chosen_Name(this, QStringLiteral("Save the page"),
-                    QStringLiteral("PDF files (*.pdf);;SVG files (*.svg);;PNG files (*.png)"),
-                    QStringLiteral(".pdf"));
-    Save(path, [this, &path] {
-        constexpr int dots_in_inch = 144;
-        const std::vector<Figure> pages = Pages();
-        if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
-            return Figure_Svg(Below_Each_Other(pages));
-        }
-        const bool is_png = path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
-        return painting::Figure_Bytes(pages, is_png ? Picture_Format::Png : Picture_Format::Pdf,
-                                      dots_in_inch);
-    });
+    Save("PDF files (*.pdf)|*.pdf|SVG files (*.svg)|*.svg|PNG files (*.png)|*.png", ".pdf",
+         [this](const QString& path) {
+             constexpr int dots_in_inch = 144;
+             const std::vector<Figure> pages = Pages();
+             if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+                 return Figure_Svg(Below_Each_Other(pages));
+             }
+             const bool is_png = path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
+             return painting::Figure_Bytes(
+                 pages, is_png ? Picture_Format::Png : Picture_Format::Pdf, dots_in_inch);
+         });
 }
 
 void Chart_Window::Print() {
@@ -282,6 +281,7 @@ void Chart_Window::Print() {
         return;
     }
     const Printable printable{.title = QStringLiteral("Chart"),
+                              .proposal = Proposal(".pdf"),
                               .landscape = false,
                               .paint = [pages = Pages()](QPagedPaintDevice& device) {
                                   return Paint_Pages(pages, device);

@@ -33,8 +33,11 @@ private:
     void Save_Tables();
     void Save_Page();
     void Print();
-    /// Saves and says so, or why not.
-    void Save(const QString& path, const std::function<std::string()>& bytes);
+    /// A name made of the test's part number, or of those of two tests.
+    [[nodiscard]] std::string Proposal(std::string_view ending) const;
+    /// Saves under the name that the user chooses and says so, or why not.
+    void Save(std::string_view entries, std::string_view ending,
+              const std::function<std::string(const QString& path)>& bytes);
 
     Session& session_;
     std::vector<Chart_Test> tests_;

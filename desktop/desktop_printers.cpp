@@ -47,7 +47,8 @@ void Desktop_Printers::Print_Screen(const std::string& device, const Screen_Pict
     if (window == nullptr) {
         Fail(error::printer_error);
     }
-    Print_Or_Show(device, Printable_Of(Fine_Picture_Of(*window), window->windowTitle()));
+    Print_Or_Show(device, Printable_Of(Fine_Picture_Of(*window),
+                                       window->windowTitle().remove(QStringLiteral("[*]"))));
 }
 
 void Desktop_Printers::Print_Or_Show(const std::string& device, const Printable& printable) {
@@ -58,35 +59,39 @@ void Desktop_Printers::Print_Or_Show(const std::string& device, const Printable&
     }
 }
 
-bool Desktop_Printers::Send(const std::string& device, const Printable& printable,
-                            std::optional<Paper_Size> paper) {
-    if (device == pdf_file) {
-        return Write_Pdf(printable, paper.value_or(Usual_Paper()));
+std::optional<QString> Desktop_Printers::Send(const std::string& device,
+                                              const Printable& printable,
+                                              std::optional<Paper_Size> paper) {
+    const auto words = device == pdf_file ? Write_Pdf(printable, paper.value_or(Usual_Paper()))
+                                          : Print_On_Printer(device, printable, paper);
+    if (words && say) {
+        say(*words);
     }
+    return words;
+}
+
+QString Desktop_Printers::Print_On_Printer(const std::string& device, const Printable& printable,
+                                           std::optional<Paper_Size> paper) {
     QPrinter printer(QPrinter::HighResolution);
     Set_Up_Printer(printer, device, printable, paper);
     if (!printable.paint(printer) || printer.printerState() == QPrinter::Error) {
         Fail(error::printer_error);
     }
-    if (say) {
-        say(QStringLiteral("Printed on ") + To_Qt(device));
-    }
-    return true;
+    return QStringLiteral("Printed on ") + To_Qt(device);
 }
 
-bool Desktop_Printers::Write_Pdf(const Printable& printable, Paper_Size paper) {
+std::optional<QString> Desktop_Printers::Write_Pdf(const Printable& printable, Paper_Size paper) {
     const auto path = dialogs_.Choose_File({.mode = Chooser_Mode::Save,
                                             .filter = "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*",
                                             .filter_index = 1,
-                                            .folder = folder_});
+                                            .folder = folder_,
+                                            .proposal = printable.proposal,
+                                            .completes = ".pdf"});
     if (!path) {
-        return false;
+        return std::nullopt;
     }
     Write_Whole_File(path->path, Pdf_Bytes(printable, paper));
-    if (say) {
-        say(QStringLiteral("Saved to ") + To_Qt(path->path));
-    }
-    return true;
+    return QStringLiteral("Saved to ") + To_Qt(path->path);
 }
 
 } // namespace kestrum::desktop

@@ -29,9 +29,10 @@ public:
 
     void Preview_Next() override { previews_ = true; }
 
-    /// Prints at once, on a paper or on the printer's own one. Raises 482 when the device fails,
-    /// and what writing a file raises. False when the user gave no name for the file.
-    bool Send(const std::string& device, const Printable& printable,
+    /// Prints at once, on a paper or on the printer's own one, and gives the words where to. Raises
+    /// 482 when the device fails, and what writing a file raises. Nothing when the user gave no name
+    /// for the file.
+    std::optional<QString> Send(const std::string& device, const Printable& printable,
               std::optional<Paper_Size> paper);
 
     /// Shows a print before it goes to a device; exchanged by tests.
@@ -43,7 +44,10 @@ public:
 
 private:
     void Print_Or_Show(const std::string& device, const Printable& printable);
-    bool Write_Pdf(const Printable& printable, Paper_Size paper);
+    [[nodiscard]] static QString Print_On_Printer(const std::string& device,
+                                                  const Printable& printable,
+                                                  std::optional<Paper_Size> paper);
+    [[nodiscard]] std::optional<QString> Write_Pdf(const Printable& printable, Paper_Size paper);
 
     Dialogs& dialogs_;
     const painting::Qt_Painter& logos_;

@@ -87,8 +87,8 @@ private:
     /// A failure stays in this window, which can be printed from again.
     void Send(const std::string& device) {
         try {
-            if (printers_.Send(device, printable_, Paper_Chosen())) {
-                words_->setText(QStringLiteral("Printed on ") + To_Qt(device));
+            if (const auto words = printers_.Send(device, printable_, Paper_Chosen())) {
+                words_->setText(*words);
             }
         } catch (const Run_Time_Error& failure) {
             words_->setText(To_Qt(failure.Description()));

@@ -36,6 +36,7 @@ void Turn(QPagedPaintDevice& device, const Printable& printable) {
 
 Printable Printable_Of(const Document& document, const painting::Qt_Painter& logos) {
     return {.title = To_Qt(document.title),
+            .proposal = document.proposal,
             .landscape = false,
             .paint = [document, &logos](QPagedPaintDevice& device) {
                 return painting::Print_On(document, device, logos);

@@ -17,6 +17,8 @@ namespace kestrum::desktop {
 /// Something that is to come out on paper, whatever device it is painted on.
 struct Printable {
     QString title;
+    /// Name or path of a PDF file; empty: none.
+    std::string proposal{};
     bool landscape = false;
     /// False when the device cannot be painted on.
     std::function<bool(QPagedPaintDevice& device)> paint;

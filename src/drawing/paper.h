@@ -33,6 +33,8 @@ using Pages = std::vector<Drawing>;
 struct Document {
     std::string title;
     std::function<Pages(const Paper&)> lay_out;
+    /// Name or path of a PDF file that may be made of it; empty: none.
+    std::string proposal{};
 };
 
 /// Width that every printed page takes, whatever stands on it.

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "graph/compare_table.h"
 #include "output/document_printing.h"
+#include "output/graph_saving.h"
 #include "output/print_head.h"
 
 #include <algorithm>
@@ -122,9 +123,12 @@ Pages Compare_Pages(Session& session, const Paper& paper) {
 
 void Print_Compare(Session& session) {
     Fill_Compare_Table(session);
-    Print_Document(session, {.title = "Comparison", .lay_out = [&session](const Paper& paper) {
-                                 return Compare_Pages(session, paper);
-                             }});
+    Print_Document(session, {.title = "Comparison",
+                             .lay_out =
+                                 [&session](const Paper& paper) {
+                                     return Compare_Pages(session, paper);
+                                 },
+                             .proposal = Proposal_For_Compared(session, ".pdf")});
 }
 
 } // namespace kestrum

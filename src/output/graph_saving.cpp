@@ -19,7 +19,20 @@ struct Ending {
 constexpr std::array<Ending, 3> endings{
     {{".png", Picture_Format::Png}, {".svg", Picture_Format::Svg}, {".pdf", Picture_Format::Pdf}}};
 
+/// A test's label without its number.
+std::string_view Part_Number_Of(std::string_view label) {
+    constexpr std::string_view between = " - ";
+    const std::size_t found = label.find(between);
+    return found == std::string_view::npos ? label : label.substr(found + between.size());
+}
+
 } // namespace
+
+std::string Proposal_For_Compared(const Session& session, std::string_view ending) {
+    const Graph_State& graph = Graph_Of(session);
+    return Proposal_For_Tests(Part_Number_Of(graph.from_label), Part_Number_Of(graph.to_label),
+                              ending);
+}
 
 std::optional<Placed_Logo> Shown_Logo(Session& session) {
     const Control& picture = session.Form60().Picture2;
@@ -58,7 +71,9 @@ void Save_Graph(Session& session) {
                                     "PDF Documents (*.pdf)|*.pdf|BMP Pictures (*.bmp)|*.bmp";
     try {
         const std::string path =
-            Chosen_File(session, Chooser_Mode::Save, filter, bitmaps, {.more_entries = by_name});
+            Chosen_File(session, Chooser_Mode::Save, filter, bitmaps,
+                        {.proposal = Proposal_For_Compared(session, ".bmp"),
+                         .more_entries = by_name});
         Write_Graph(session, path);
         Tell_Saved(session, path);
     } catch (const Run_Time_Error&) {

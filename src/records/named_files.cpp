@@ -22,6 +22,13 @@ bool Is_Unfit_For_A_Name(char character) {
            unfit.find(character) != std::string_view::npos;
 }
 
+/// A part number as a part of a file's name.
+std::string Fit_For_A_Name(std::string_view part_number) {
+    std::string name(Without_Outer_Blanks(part_number));
+    std::ranges::replace_if(name, Is_Unfit_For_A_Name, '-');
+    return name;
+}
+
 } // namespace
 
 Chosen_Path Choice_Of_File(Session& session, Chooser_Mode mode, std::string_view filter,
@@ -50,8 +57,16 @@ std::string Proposal_For(const Session& session, const Flow_Sheet& sheet, std::s
         const std::string path = Path_Of_Named_File(session, shown);
         return path.substr(0, Start_Of_Ending(path)) + std::string(ending);
     }
-    std::string name(Without_Outer_Blanks(sheet.Text102(0).Text()));
-    std::ranges::replace_if(name, Is_Unfit_For_A_Name, '-');
+    return Proposal_For_Tests(sheet.Text102(0).Text(), {}, ending);
+}
+
+std::string Proposal_For_Tests(std::string_view one, std::string_view other,
+                               std::string_view ending) {
+    std::string name = Fit_For_A_Name(one);
+    const std::string second = Fit_For_A_Name(other);
+    if (!second.empty() && second != name) {
+        name += (name.empty() ? "" : " and ") + second;
+    }
     return name.empty() ? name : name + std::string(ending);
 }
 

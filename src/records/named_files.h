@@ -29,6 +29,11 @@ struct Name_Help {
 [[nodiscard]] std::string Proposal_For(const Session& session, const Flow_Sheet& sheet,
                                        std::string_view ending);
 
+/// What to propose for a file about one test or two, by their part numbers: "E7TE and GT40P.bmp".
+/// Empty where neither has one.
+[[nodiscard]] std::string Proposal_For_Tests(std::string_view one, std::string_view other,
+                                             std::string_view ending);
+
 /// The path of a file that goes by its name, which is meant in the program's folder unless it
 /// begins at the root. Names that came through lower-casing or the decimal switch are still found.
 [[nodiscard]] std::string Path_Of_Named_File(const Session& session, std::string_view name);
