@@ -8,6 +8,7 @@
 #include "desktop/safe_application.h"
 #include "desktop/text_bridge.h"
 #include "files/kept_tests.h"
+#include "graph/table_age.h"
 
 #include <QGuiApplication>
 
@@ -50,6 +51,9 @@ Program::~Program() {
 
 void Program::Set_Gate_Up() {
     gate_.Set_Follow_Up([this] {
+        if (!ended_) {
+            Note_Age_Of_Table(session_);
+        }
         windows_.Refresh();
         Note_Used_Files(session_);
         if (!session_.file.news.empty()) {

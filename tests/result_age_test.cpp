@@ -1,4 +1,5 @@
 #include "application/undo_history.h"
+#include "graph/table_age.h"
 #include "platform/file_store.h"
 #include "tests/test_bench.h"
 
@@ -66,6 +67,47 @@ TEST(Result_Age, A_Comparison_Shows_Which_Figures_Its_Last_Calculation_Has_Not_W
         }
     }
     EXPECT_EQ(left, "Text109 Text110 ") << "they show the energies of before";
+}
+
+TEST(Result_Age, A_Comparison_Grows_Old_When_A_Test_Of_It_Holds_Other_Figures) {
+    Test_Bench bench;
+    Undo_History history(bench.session);
+    Screen& table = bench.session.Form50();
+    const auto is_old = [&] {
+        Note_Age_Of_Table(bench.session);
+        return table.Results_Are_Old();
+    };
+    const auto step = [&](const auto& act) {
+        history.Begin();
+        act();
+        history.End("Step");
+    };
+    const auto flow = [&](std::string_view sheet, std::string_view text) {
+        bench.Set(std::string(sheet) + ".Text106(20)", text);
+        static_cast<void>(bench.Click(std::string(sheet) + ".Command1"));
+    };
+    EXPECT_FALSE(is_old()) << "nothing has been compared";
+    step([&] { static_cast<void>(bench.Click("Form50.Command1")); });
+    EXPECT_FALSE(is_old());
+    bench.Set("Form1.Text102(0)", "Iron");
+    step([&] { flow("Form3", "99"); });
+    EXPECT_FALSE(is_old()) << "neither the name nor another test stands in the table";
+    step([&] { flow("Form2", "99"); });
+    EXPECT_TRUE(is_old());
+    ASSERT_TRUE(history.Undo());
+    EXPECT_FALSE(is_old()) << "the figures of the table are back";
+    ASSERT_TRUE(history.Redo());
+    step([&] { static_cast<void>(bench.Click("Form50.Command1")); });
+    EXPECT_FALSE(is_old());
+    ASSERT_TRUE(history.Undo());
+    EXPECT_TRUE(is_old()) << "the table of before, and the test of today";
+    ASSERT_TRUE(history.Redo());
+    static_cast<void>(bench.Click("Main.Check2"));
+    EXPECT_TRUE(is_old()) << "the sheets are metric, the table is not";
+    static_cast<void>(bench.Click("Form50.Command1"));
+    EXPECT_FALSE(is_old());
+    static_cast<void>(bench.Close("Form1"));
+    EXPECT_TRUE(is_old());
 }
 
 TEST(Result_Age, Undo_Brings_The_Age_Back_As_Well) {

@@ -48,7 +48,6 @@ TEST(Running_Program, That_Hangs_Or_Ends_Does_Not_Hold_A_Second_Start) {
     ASSERT_TRUE(running.Take(folder.File("place")));
     EXPECT_FALSE(Tell_Running_Program(folder.File("place"), Words{"x"}, milliseconds(50)));
     running.Leave();
-    EXPECT_EQ(folder.Names(), std::vector<std::string>{}) << "an end leaves nothing behind";
     EXPECT_FALSE(Tell_Running_Program(folder.File("place"), Words{"x"}, milliseconds(50)));
 }
 
@@ -63,6 +62,19 @@ TEST(Running_Program, Takes_No_Word_Of_A_Caller_That_Is_None_Of_Ours) {
         ASSERT_TRUE(Is_Called(running));
         EXPECT_FALSE(running.Hear()) << bytes;
     }
+}
+
+TEST(Meeting, Leaves_No_Empty_Folder_Behind) {
+    const Temp_Folder folder;
+    const std::string own = Meeting_Folder("", folder.Path());
+    Running_Program first;
+    Running_Program second;
+    ASSERT_TRUE(first.Take(own + "/a"));
+    ASSERT_TRUE(second.Take(own + "/b"));
+    first.Leave();
+    EXPECT_TRUE(std::filesystem::exists(own)) << "another program is met there";
+    second.Leave();
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{});
 }
 
 TEST(Meeting, Is_Of_One_Folder_On_One_Display) {

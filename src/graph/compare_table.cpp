@@ -4,6 +4,7 @@
 #include "graph/compare_types.h"
 #include "graph/graph_state.h"
 #include "graph/port_energy.h"
+#include "graph/table_age.h"
 #include "graph/test_columns.h"
 
 #include <array>
@@ -250,6 +251,7 @@ void Fill_Compare_Table(Session& session) {
     }
     Fill_Half(session, table.Option1, Graph_Of(session).from_label, Fill_From);
     Fill_Half(session, table.Option2, Graph_Of(session).to_label, Fill_To);
+    Note_Filled_Table(session);
 }
 
 } // namespace kestrum

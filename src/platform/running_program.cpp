@@ -164,6 +164,8 @@ void Running_Program::Leave() {
     if (lock_.Is_Held() && !place_.empty()) {
         Forget_Place(place_);
         Remove_File(place_ + ".lock"); // while it is held, or another would lose its own
+        std::error_code others_meet_there;
+        fs::remove(File_Path(place_).parent_path(), others_meet_there); // an empty folder alone
     }
     place_.clear();
     lock_.Release();

@@ -109,7 +109,7 @@ void Screen::Note_Calculation() {
 }
 
 bool Screen::Results_Are_Old() const {
-    return calculated_from_ != digests_.figures;
+    return sources_changed_ || calculated_from_ != digests_.figures;
 }
 
 void Screen::Note_Saved() {

@@ -114,6 +114,9 @@ public:
 
     void Set_Calculated_From(std::uint64_t digest) { calculated_from_ = digest; }
 
+    /// Other screens hold other figures than those that the results were taken from.
+    void Set_Sources_Changed(bool changed) { sources_changed_ = changed; }
+
     /// The present inputs stand in a file, or are those that the screen begins with.
     void Note_Saved();
     [[nodiscard]] bool Is_Unsaved() const;
@@ -141,6 +144,7 @@ private:
     Input_Digests digests_;
     std::uint64_t calculated_from_ = 0;
     std::uint64_t saved_as_ = 0;
+    bool sources_changed_ = false;
 };
 
 } // namespace kestrum
