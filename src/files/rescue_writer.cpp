@@ -26,6 +26,9 @@ void Rescue_Writer::Put(const std::string& folder, Rescue_Set files) {
 
 bool Rescue_Writer::Flush(std::chrono::milliseconds at_most) {
     std::unique_lock hold(mutex_);
+    if (!thread_.joinable()) {
+        return waiting_.empty(); // what was given up at the stop is written by nobody
+    }
     is_asked_ = !waiting_.empty();
     changed_.notify_all();
     const bool is_done =
