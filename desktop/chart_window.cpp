@@ -239,12 +239,11 @@ std::string Chart_Window::Proposal(std::string_view ending) const {
 
 void Chart_Window::Save(std::string_view entries, std::string_view ending,
                         const std::function<std::string(const QString& path)>& bytes) {
-    const auto chosen =
-        session_.dialogs.Choose_File({.mode = Chooser_Mode::Save,
-                                      .filter = {},
-                                      .folder = session_.surroundings.folder,
-                                      .proposal = Proposal(ending),
-                                      .more_entries = std::string(entries)});
+    const auto chosen = session_.dialogs.Choose_File({.mode = Chooser_Mode::Save,
+                                                      .filter = {},
+                                                      .folder = session_.surroundings.folder,
+                                                      .proposal = Proposal(ending),
+                                                      .more_entries = std::string(entries)});
     if (!chosen) {
         return;
     }

@@ -59,11 +59,11 @@ void Desktop_Printers::Print_Or_Show(const std::string& device, const Printable&
     }
 }
 
-std::optional<QString> Desktop_Printers::Send(const std::string& device,
-                                              const Printable& printable,
+std::optional<QString> Desktop_Printers::Send(const std::string& device, const Printable& printable,
                                               std::optional<Paper_Size> paper) {
-    const auto words = device == pdf_file ? Write_Pdf(printable, paper.value_or(Usual_Paper()))
-                                          : Print_On_Printer(device, printable, paper);
+    std::optional<QString> words = device == pdf_file
+                                       ? Write_Pdf(printable, paper.value_or(Usual_Paper()))
+                                       : Print_On_Printer(device, printable, paper);
     if (words && say) {
         say(*words);
     }

@@ -30,10 +30,10 @@ public:
     void Preview_Next() override { previews_ = true; }
 
     /// Prints at once, on a paper or on the printer's own one, and gives the words where to. Raises
-    /// 482 when the device fails, and what writing a file raises. Nothing when the user gave no name
-    /// for the file.
+    /// 482 when the device fails, and what writing a file raises. Nothing when the user gave no
+    /// name for the file.
     std::optional<QString> Send(const std::string& device, const Printable& printable,
-              std::optional<Paper_Size> paper);
+                                std::optional<Paper_Size> paper);
 
     /// Shows a print before it goes to a device; exchanged by tests.
     std::function<void(Desktop_Printers& printers, const std::string& device,

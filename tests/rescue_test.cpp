@@ -345,7 +345,8 @@ TEST(Rescue, Copies_That_Cannot_Be_Written_Are_Told_Once) {
     const auto begun = std::chrono::steady_clock::now();
     run.rescue->Finish(false);
     run.rescue.reset();
-    EXPECT_LT(std::chrono::steady_clock::now() - begun, 10s) << "nobody waits for what was given up";
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 10s)
+        << "nobody waits for what was given up";
 }
 
 TEST(Start_Up, Keeps_Each_Session_File_That_Cannot_Be_Read_To_Its_End) {

@@ -123,12 +123,11 @@ Pages Compare_Pages(Session& session, const Paper& paper) {
 
 void Print_Compare(Session& session) {
     Fill_Compare_Table(session);
-    Print_Document(session, {.title = "Comparison",
-                             .lay_out =
-                                 [&session](const Paper& paper) {
-                                     return Compare_Pages(session, paper);
-                                 },
-                             .proposal = Proposal_For_Compared(session, ".pdf")});
+    Print_Document(
+        session,
+        {.title = "Comparison",
+         .lay_out = [&session](const Paper& paper) { return Compare_Pages(session, paper); },
+         .proposal = Proposal_For_Compared(session, ".pdf")});
 }
 
 } // namespace kestrum

@@ -237,12 +237,11 @@ Pages Flow_Sheet_Pages(Session& session, const Flow_Sheet& sheet, const Paper& p
 
 void Print_Flow_Sheet(Session& session, Flow_Sheet& sheet) {
     Calc_Flow_Test(session, sheet);
-    Print_Document(session, {.title = "Flow Sheet",
-                             .lay_out =
-                                 [&](const Paper& paper) {
-                                     return Flow_Sheet_Pages(session, sheet, paper);
-                                 },
-                             .proposal = Proposal_For(session, sheet, ".pdf")});
+    Print_Document(
+        session,
+        {.title = "Flow Sheet",
+         .lay_out = [&](const Paper& paper) { return Flow_Sheet_Pages(session, sheet, paper); },
+         .proposal = Proposal_For(session, sheet, ".pdf")});
 }
 
 } // namespace kestrum

@@ -70,10 +70,9 @@ void Save_Graph(Session& session) {
     constexpr const char* by_name = "PNG Pictures (*.png)|*.png|SVG Drawings (*.svg)|*.svg|"
                                     "PDF Documents (*.pdf)|*.pdf|BMP Pictures (*.bmp)|*.bmp";
     try {
-        const std::string path =
-            Chosen_File(session, Chooser_Mode::Save, filter, bitmaps,
-                        {.proposal = Proposal_For_Compared(session, ".bmp"),
-                         .more_entries = by_name});
+        const std::string path = Chosen_File(
+            session, Chooser_Mode::Save, filter, bitmaps,
+            {.proposal = Proposal_For_Compared(session, ".bmp"), .more_entries = by_name});
         Write_Graph(session, path);
         Tell_Saved(session, path);
     } catch (const Run_Time_Error&) {

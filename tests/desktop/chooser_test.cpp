@@ -81,9 +81,8 @@ User_At_Dialogs::Act Type(const char* name) {
 }
 
 User_At_Dialogs::Act Answer(QMessageBox::StandardButton button) {
-    return [button](QWidget& dialog) {
-        dynamic_cast<QMessageBox&>(dialog).button(button)->click();
-    };
+    return
+        [button](QWidget& dialog) { dynamic_cast<QMessageBox&>(dialog).button(button)->click(); };
 }
 
 /// Picks an entry of the chooser by its words, and types a name where one is given.
@@ -159,8 +158,7 @@ protected:
 };
 
 TEST_F(Choosers, Propose_The_Part_Number_And_Then_The_Path_Of_The_File) {
-    EXPECT_EQ(Save_Sheet({Return_Key, Return_Key}),
-              Lines({"GT40P-2.dat", "124 Records Written"}));
+    EXPECT_EQ(Save_Sheet({Return_Key, Return_Key}), Lines({"GT40P-2.dat", "124 Records Written"}));
     EXPECT_EQ(folder.Names(), Files{"GT40P-2.dat"});
     EXPECT_TRUE(Says(session.Sheet(1), "Saved to " + folder.File("GT40P-2.dat")));
     session.Sheet(1).Text102(0).Set_Text("another");
@@ -185,10 +183,9 @@ TEST_F(Choosers, Complete_A_Name_Only_Where_Their_Entry_Is_For_That_Ending) {
 
 TEST_F(Choosers, Ask_Again_When_The_Completed_Name_Is_There) {
     Write_Whole_File(folder.File("run.dat"), "old");
-    const QStringList refused =
-        Save_Sheet({Type("run"), Answer(QMessageBox::No), [](QWidget& chooser) {
-                        QTest::keyClick(&chooser, Qt::Key_Escape);
-                    }, Return_Key});
+    const QStringList refused = Save_Sheet(
+        {Type("run"), Answer(QMessageBox::No),
+         [](QWidget& chooser) { QTest::keyClick(&chooser, Qt::Key_Escape); }, Return_Key});
     ASSERT_GE(refused.size(), 3);
     EXPECT_TRUE(refused[1].contains(QStringLiteral("run.dat already exists")));
     EXPECT_EQ(folder.Read("run.dat"), "old");
@@ -213,8 +210,8 @@ TEST_F(Choosers, The_Graph_Is_Saved_Under_Its_Part_Numbers_In_The_Format_That_Is
     save_graph({Pick("PNG Pictures")});
     save_graph({Pick("SVG Drawings", "curves")});
     save_graph({Type("bare")});
-    EXPECT_EQ(folder.Names(), (Files{"GT40P-2 and Stock- 1.bmp", "GT40P-2 and Stock- 1.png",
-                                     "bare", "curves.svg"}));
+    EXPECT_EQ(folder.Names(), (Files{"GT40P-2 and Stock- 1.bmp", "GT40P-2 and Stock- 1.png", "bare",
+                                     "curves.svg"}));
     EXPECT_TRUE(folder.Read("GT40P-2 and Stock- 1.png").starts_with("\x89PNG"));
     EXPECT_TRUE(folder.Read("bare").starts_with("BM")) << "the required entry completes nothing";
     EXPECT_TRUE(Says(session.Form60(), "Saved to " + folder.File("bare")));
