@@ -1,6 +1,7 @@
 #include "desktop/chart_settings.h"
 
 #include "desktop/text_bridge.h"
+#include "desktop/user_settings.h"
 
 #include <QSignalBlocker>
 
@@ -56,7 +57,6 @@ Chart_Settings::Chart_Settings(QWidget* parent, const QStringList& names, bool m
     pressure_->setRange(least_pressure, most_pressure);
     pressure_->setDecimals(1);
     pressure_->setSingleStep(1);
-    pressure_->setValue(full_flow_pressure);
     mean_to_ = Number(QStringLiteral("&Mean to lift"), QStringLiteral("common"));
     cam_ = Number(QStringLiteral("&Cam lift"), QStringLiteral("none"));
     step_ = Number(QStringLiteral("Table st&ep"), QStringLiteral("baseline's"));
@@ -64,6 +64,7 @@ Chart_Settings::Chart_Settings(QWidget* parent, const QStringList& names, bool m
         lift_unit_->setCurrentIndex(static_cast<int>(Lift_Unit::Millimetre));
         flow_unit_->setCurrentIndex(static_cast<int>(Flow_Unit::Cubic_Metres));
     }
+    Remember_All(metric);
     Take_Lift_Unit();
     connect(lift_unit_, &QComboBox::currentIndexChanged, this, [this] { Take_Lift_Unit(); });
     connect(title_, &QLineEdit::textChanged, this, [this] { changed(); });
@@ -74,6 +75,32 @@ Chart_Settings::Chart_Settings(QWidget* parent, const QStringList& names, bool m
     for (QDoubleSpinBox* const box : {pressure_, mean_to_, cam_, step_}) {
         connect(box, &QDoubleSpinBox::valueChanged, this, [this] { changed(); });
     }
+}
+
+void Chart_Settings::Remember(QComboBox& box, const QString& name) {
+    const QString key = QStringLiteral("chart/") + name;
+    if (const auto kept = user_settings::Kept_Choice(key);
+        kept && *kept >= 0 && *kept < box.count()) {
+        box.setCurrentIndex(static_cast<int>(*kept));
+    }
+    connect(&box, &QComboBox::activated, this,
+            [key](int index) { user_settings::Keep_Choice(key, index); });
+}
+
+/// What hangs on the tests begins anew: the title, the baseline, and the lifts of a cam and a
+/// range. Each system of units keeps its own.
+void Chart_Settings::Remember_All(bool metric) {
+    const QString system = metric ? QStringLiteral("-metric") : QStringLiteral("-us");
+    Remember(*quantity_, QStringLiteral("quantity"));
+    Remember(*sides_, QStringLiteral("sides"));
+    Remember(*lift_unit_, QStringLiteral("lift") + system);
+    Remember(*flow_unit_, QStringLiteral("flow") + system);
+    Remember(*gain_, QStringLiteral("gain"));
+    Remember(*gain_side_, QStringLiteral("gain-of"));
+    const QString key = QStringLiteral("chart/pressure");
+    pressure_->setValue(user_settings::Kept_Choice(key).value_or(full_flow_pressure));
+    connect(pressure_, &QDoubleSpinBox::valueChanged, this,
+            [key](double value) { user_settings::Keep_Choice(key, value); });
 }
 
 QComboBox* Chart_Settings::Choice(const QString& name, const QStringList& items) {

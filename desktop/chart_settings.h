@@ -32,6 +32,9 @@ private:
     [[nodiscard]] QComboBox* Choice(const QString& name, const QStringList& items);
     [[nodiscard]] QDoubleSpinBox* Number(const QString& name, const QString& without);
     void Take_Lift_Unit();
+    /// Chosen as it was last, and remembered from now on.
+    void Remember(QComboBox& box, const QString& name);
+    void Remember_All(bool metric);
 
     QFormLayout* form_;
     QLineEdit* title_;

@@ -5,6 +5,7 @@
 #include "desktop/desktop_printers.h"
 #include "desktop/text_bridge.h"
 #include "desktop/theme.h"
+#include "desktop/window_place.h"
 #include "drawing/picture_file.h"
 #include "painting/figure_painter.h"
 #include "platform/file_store.h"
@@ -15,6 +16,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QHideEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -106,6 +108,7 @@ Chart_Window::Chart_Window(Session& session, std::vector<Chart_Test> tests)
     settings_->changed = [this] { Show_Changes(); };
     constexpr QSize usual_size(1200, 760);
     resize(usual_size.boundedTo(screen()->availableSize()));
+    Take_Kept_Size(*this);
     // A line for each of some tests shows; the chart wants the room.
     constexpr int head_height = 92;
     constexpr std::size_t most_lines = 5;
@@ -114,6 +117,13 @@ Chart_Window::Chart_Window(Session& session, std::vector<Chart_Test> tests)
     left->setSizes({height() - lines, lines});
     Show_Changes();
     view_->setFocus();
+}
+
+void Chart_Window::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (!event->spontaneous()) {
+        Keep_Place_Of(*this);
+    }
 }
 
 QTableWidget* Chart_Window::Table(const QString& name) {

@@ -23,6 +23,9 @@ public:
 
     [[nodiscard]] Chart_View& View() const { return *view_; }
 
+protected:
+    void hideEvent(QHideEvent* event) override;
+
 private:
     [[nodiscard]] QWidget* Side();
     [[nodiscard]] QTableWidget* Table(const QString& name);

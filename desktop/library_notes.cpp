@@ -24,6 +24,8 @@ void Take_Line(Library_Notes& notes, std::string_view line) {
         notes.metric_folders.insert(text);
     } else if (word == "hidden") {
         notes.hidden_columns.insert(text);
+    } else if (word == "column") {
+        notes.column_order.push_back(text);
     } else if (word == "groups") {
         notes.by_port_volume = true;
     }
@@ -54,6 +56,9 @@ void Write_Library_Notes(const std::string& program_folder, const Library_Notes&
     }
     for (const std::string& column : notes.hidden_columns) {
         text += "hidden " + column + "\n";
+    }
+    for (const std::string& column : notes.column_order) {
+        text += "column " + column + "\n";
     }
     text += notes.by_port_volume ? "groups\n" : "";
     try {

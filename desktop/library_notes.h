@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 namespace kestrum::desktop {
 
@@ -12,6 +13,8 @@ struct Library_Notes {
     std::set<std::string> metric_folders;
     /// Columns that the user has put away, by their names.
     std::set<std::string> hidden_columns{"part_number", "format", "exhaust_peak_lift"};
+    /// Names of all columns as the user has put them, from the left; empty: as they come.
+    std::vector<std::string> column_order{};
     bool by_port_volume = false;
 
     bool operator==(const Library_Notes&) const = default;

@@ -3,6 +3,7 @@
 #include "desktop/library_curve.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -60,6 +61,7 @@ void Library_Table::Set_Up_Head() {
     head->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(head, &QHeaderView::sortIndicatorChanged, this,
             [this](int column, Qt::SortOrder order) { on_sort(column, order); });
+    connect(head, &QHeaderView::sectionMoved, this, [this] { on_order(Column_Order()); });
     connect(head, &QHeaderView::customContextMenuRequested, this, [this, head](const QPoint& at) {
         QMenu* const menu = Column_Menu();
         menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -74,6 +76,27 @@ void Library_Table::Set_Widths() {
         setColumnWidth(column, Width_Of(Name_At(column), title) * letter);
         setColumnHidden(column, hidden_.contains(std::string(Name_At(column))));
     }
+}
+
+void Library_Table::Set_Column_Order(const std::vector<std::string>& names) {
+    QHeaderView* const head = horizontalHeader();
+    const QSignalBlocker quiet(head);
+    int place = 0;
+    for (const std::string& name : names) {
+        for (int column = 0; column < head->count(); ++column) {
+            if (Name_At(column) == name) {
+                head->moveSection(head->visualIndex(column), place++);
+            }
+        }
+    }
+}
+
+std::vector<std::string> Library_Table::Column_Order() const {
+    std::vector<std::string> names;
+    for (int place = 0; place < horizontalHeader()->count(); ++place) {
+        names.emplace_back(Name_At(horizontalHeader()->logicalIndex(place)));
+    }
+    return names;
 }
 
 QMenu* Library_Table::Column_Menu() {

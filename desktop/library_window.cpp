@@ -4,12 +4,14 @@
 #include "desktop/library_opening.h"
 #include "desktop/text_bridge.h"
 #include "desktop/theme.h"
+#include "desktop/window_place.h"
 #include "library/test_reader.h"
 #include "platform/file_store.h"
 
 #include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QScreen>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -51,6 +53,19 @@ Library_Window::Library_Window(Session& session, Gate& gate)
     }
 }
 
+Library_Window::~Library_Window() {
+    if (isVisible()) {
+        Keep_Place_Of(*this); // the program ends
+    }
+}
+
+void Library_Window::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (!event->spontaneous()) {
+        Keep_Place_Of(*this);
+    }
+}
+
 void Library_Window::Connect_Timers() {
     constexpr int look_milliseconds = 30;
     look_.setInterval(look_milliseconds);
@@ -75,6 +90,11 @@ void Library_Window::Make_Content() {
         notes_.hidden_columns = hidden;
         Keep_Notes();
     };
+    table_->Set_Column_Order(notes_.column_order);
+    table_->on_order = [this](const std::vector<std::string>& names) {
+        notes_.column_order = names;
+        Keep_Notes();
+    };
     table_->on_sort = [this](int column, Qt::SortOrder order) {
         Change_List([&] { model_.sort(column, order); });
     };
@@ -84,6 +104,7 @@ void Library_Window::Make_Content() {
     layout->addWidget(table_, 1);
     layout->addLayout(Foot_Row());
     resize(usual_size.boundedTo(screen()->availableSize() * 0.95));
+    Take_Kept_Place(*this);
     words_->setFocus();
 }
 

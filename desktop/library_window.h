@@ -26,6 +26,9 @@ namespace kestrum::desktop {
 class Library_Window : public QWidget {
 public:
     Library_Window(Session& session, Gate& gate);
+    Library_Window(const Library_Window&) = delete;
+    Library_Window& operator=(const Library_Window&) = delete;
+    ~Library_Window() override;
 
     /// Reads a folder and remembers it.
     void Open_Folder(const QString& folder);
@@ -35,6 +38,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:

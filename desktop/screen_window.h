@@ -83,7 +83,6 @@ private:
     [[nodiscard]] QString Title() const;
     void Show_Title();
     void Name_Test(const Control& control);
-    [[nodiscard]] bool Take_Kept_Place();
     void Show_Age_Of_Results();
     void Keep_What_Closes();
     void Make_Content();

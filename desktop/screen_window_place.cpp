@@ -3,10 +3,9 @@
 #include "desktop/body.h"
 #include "desktop/help_line.h"
 #include "desktop/screen_window.h"
-#include "desktop/user_settings.h"
+#include "desktop/window_place.h"
 #include "screens/geometry.h"
 
-#include <QGuiApplication>
 #include <QHideEvent>
 #include <QLayout>
 #include <QMenu>
@@ -16,13 +15,6 @@
 #include <cmath>
 
 namespace kestrum::desktop {
-
-namespace {
-
-/// About what a window manager puts around a window.
-constexpr QSize window_frame(8, 32);
-
-} // namespace
 
 QSize Screen_Window::Room() const {
     return screen()->availableSize() - window_frame;
@@ -78,35 +70,13 @@ void Screen_Window::Grow_From(const QSize& page_before) {
                 std::max(room.top(), std::min(y(), last.y()))));
 }
 
-/// Where the window stood when it was used last. A maximized one has the usual place below it.
-bool Screen_Window::Take_Kept_Place() {
-    const auto kept = user_settings::Kept_Place(objectName());
-    if (!kept) {
-        return false;
-    }
-    QList<QRect> displays;
-    for (const QScreen* const display : QGuiApplication::screens()) {
-        const QRect area = display->availableGeometry();
-        displays += QRect(area.topLeft(), area.size() - window_frame);
-    }
-    const QRect area = user_settings::Brought_Back(kept->area, displays);
-    resize(area.size());
-    move(area.topLeft());
-    if (kept->maximized) {
-        setWindowState(windowState() | Qt::WindowMaximized);
-    }
-    return true;
-}
-
 /// A place that the user did not choose, as on a display that the screens are stretched to, is not
 /// kept.
 void Screen_Window::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     const bool is_stretched = scale_ != Screen_Scale();
-    if (placed_ && !event->spontaneous() && !is_stretched && !isMinimized()) {
-        const QRect area =
-            isMaximized() ? QRect(pos(), normalGeometry().size()) : QRect(pos(), size());
-        user_settings::Keep_Place(objectName(), {.area = area, .maximized = isMaximized()});
+    if (placed_ && !event->spontaneous() && !is_stretched) {
+        Keep_Place_Of(*this);
     }
 }
 
@@ -116,7 +86,7 @@ void Screen_Window::Open() {
         placed_ = true;
         if (scale_ != screen_->scale) {
             Take_Stretched_Place();
-        } else if (!Take_Kept_Place()) {
+        } else if (!Take_Kept_Place(*this)) {
             resize(Usual_Size());
             const QRect framed({}, size() + window_frame);
             move(screen()->availableGeometry().center() - framed.center());

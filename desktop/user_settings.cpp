@@ -55,6 +55,16 @@ void Keep_Place(const QString& window, const Window_Place& place) {
     settings.setValue(QStringLiteral("maximized/") + window, place.maximized);
 }
 
+std::optional<double> Kept_Choice(const QString& name) {
+    bool is_number = false;
+    const double value = Present_Settings().value(name).toDouble(&is_number);
+    return is_number ? std::optional(value) : std::nullopt;
+}
+
+void Keep_Choice(const QString& name, double value) {
+    Present_Settings().setValue(name, value);
+}
+
 QRect Brought_Back(const QRect& area, const QList<QRect>& displays) {
     if (displays.isEmpty()) {
         return area;

@@ -137,6 +137,31 @@ TEST_F(Chart_On_Screen, Settings_Change_Chart_And_Tables_At_Once) {
     EXPECT_EQ(Copied(), "Lift thou\t1 stock l/s\n300\t23.6\n");
 }
 
+TEST_F(Chart_On_Screen, Opens_The_Next_Time_As_The_User_Has_Left_It) {
+    auto& quantity = Set<QComboBox>("Quantity");
+    quantity.setFocus();
+    QTest::keyClick(&quantity, Qt::Key_Down);
+    auto& flow = Set<QComboBox>("Flow in");
+    flow.setFocus();
+    QTest::keyClick(&flow, Qt::Key_Down);
+    Set<QDoubleSpinBox>("At in. H\u2082O").setValue(10);
+    Set<QDoubleSpinBox>("Cam lift").setValue(.25);
+    window.resize(713, 541);
+    window.hide();
+    const auto next = [](bool metric) {
+        const Chart_Settings settings(nullptr, {QStringLiteral("a")}, metric);
+        return settings.Request();
+    };
+    EXPECT_EQ(next(false).quantity, static_cast<Chart_Quantity>(1));
+    EXPECT_EQ(next(false).flow_unit, static_cast<Flow_Unit>(1));
+    EXPECT_EQ(next(false).pressure, 10);
+    EXPECT_FALSE(next(false).cam_lift) << "it is that of a head";
+    EXPECT_EQ(next(true).flow_unit, Flow_Unit::Cubic_Metres);
+    EXPECT_EQ(next(true).lift_unit, Lift_Unit::Millimetre);
+    const Chart_Window again(bench.program.Its_Session(), {Head_Named("stock", 100)});
+    EXPECT_EQ(again.size(), window.size());
+}
+
 /// The page goes to the preview with the shop's name; a drawing of paper is white.
 TEST_F(Chart_On_Screen, Prints_The_Page_By_Way_Of_The_Preview) {
     auto& printers = dynamic_cast<Desktop_Printers&>(*bench.program.Its_Session().printers);

@@ -107,6 +107,22 @@ TEST_F(Library, A_Test_Opens_In_A_Free_Sheet_And_Asks_Before_It_Takes_The_Place_
     EXPECT_EQ(bench.Text("Form1.Text102(0)"), "Mine");
 }
 
+TEST_F(Library, Opens_Where_It_Was_With_Its_Columns_In_Their_Order) {
+    QHeaderView* const head = table->horizontalHeader();
+    const int part = Library_Model::Place_Of("date");
+    head->moveSection(head->visualIndex(part), 1);
+    window->setGeometry(11, 13, 777, 444);
+    const QPoint place = window->pos();
+    window->close();
+    const Library_Window again(bench.program.Its_Session(), bench.program.Its_Gate());
+    const auto* const columns = again.findChild<QTableView*>()->horizontalHeader();
+    EXPECT_EQ(columns->visualIndex(part), 1);
+    EXPECT_EQ(columns->visualIndex(Library_Model::Place_Of("file")),
+              head->visualIndex(Library_Model::Place_Of("file")));
+    EXPECT_EQ(again.pos(), place);
+    EXPECT_GE(again.width(), 777);
+}
+
 TEST_F(Library, Metric_Files_Are_Remembered_With_Their_Folder_And_Not_Put_Among_Inches) {
     auto* const metric = window->findChild<QCheckBox*>();
     metric->click();
