@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <cmath>
 
 namespace kestrum::desktop {
 
@@ -81,7 +82,7 @@ void Chart_Settings::Remember(QComboBox& box, const QString& name) {
     const QString key = QStringLiteral("chart/") + name;
     if (const auto kept = user_settings::Kept_Choice(key);
         kept && *kept >= 0 && *kept < box.count()) {
-        box.setCurrentIndex(static_cast<int>(*kept));
+        box.setCurrentIndex(*kept);
     }
     connect(&box, &QComboBox::activated, this,
             [key](int index) { user_settings::Keep_Choice(key, index); });
@@ -97,10 +98,13 @@ void Chart_Settings::Remember_All(bool metric) {
     Remember(*flow_unit_, QStringLiteral("flow") + system);
     Remember(*gain_, QStringLiteral("gain"));
     Remember(*gain_side_, QStringLiteral("gain-of"));
-    const QString key = QStringLiteral("chart/pressure");
-    pressure_->setValue(user_settings::Kept_Choice(key).value_or(full_flow_pressure));
-    connect(pressure_, &QDoubleSpinBox::valueChanged, this,
-            [key](double value) { user_settings::Keep_Choice(key, value); });
+    const QString key = QStringLiteral("chart/pressure-tenths");
+    constexpr int tenths = 10;
+    const auto kept = user_settings::Kept_Choice(key);
+    pressure_->setValue(kept ? 1.0 * *kept / tenths : full_flow_pressure);
+    connect(pressure_, &QDoubleSpinBox::valueChanged, this, [key](double value) {
+        user_settings::Keep_Choice(key, static_cast<int>(std::lround(value * tenths)));
+    });
 }
 
 QComboBox* Chart_Settings::Choice(const QString& name, const QStringList& items) {

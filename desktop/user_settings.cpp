@@ -55,13 +55,13 @@ void Keep_Place(const QString& window, const Window_Place& place) {
     settings.setValue(QStringLiteral("maximized/") + window, place.maximized);
 }
 
-std::optional<double> Kept_Choice(const QString& name) {
+std::optional<int> Kept_Choice(const QString& name) {
     bool is_number = false;
-    const double value = Present_Settings().value(name).toDouble(&is_number);
+    const int value = Present_Settings().value(name).toInt(&is_number);
     return is_number ? std::optional(value) : std::nullopt;
 }
 
-void Keep_Choice(const QString& name, double value) {
+void Keep_Choice(const QString& name, int value) {
     Present_Settings().setValue(name, value);
 }
 

@@ -26,9 +26,9 @@ struct Window_Place {
 [[nodiscard]] std::optional<Window_Place> Kept_Place(const QString& window);
 void Keep_Place(const QString& window, const Window_Place& place);
 
-/// What was chosen of a setting by its name, as it was shown: a number, or the place in a list.
-[[nodiscard]] std::optional<double> Kept_Choice(const QString& name);
-void Keep_Choice(const QString& name, double value);
+/// What was chosen of a setting by its name, as a whole number.
+[[nodiscard]] std::optional<int> Kept_Choice(const QString& name);
+void Keep_Choice(const QString& name, int value);
 
 /// A place of which all can be seen and reached: moved into a display that is there, and no larger.
 [[nodiscard]] QRect Brought_Back(const QRect& area, const QList<QRect>& displays);

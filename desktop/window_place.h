@@ -6,7 +6,7 @@
 namespace kestrum::desktop {
 
 /// About what a window manager puts around a window.
-inline constexpr QSize window_frame(8, 32);
+inline constexpr QSize window_frame{8, 32};
 
 /// Puts a window where it stood when it was used last, brought back onto the displays; false when
 /// that is not known. A maximized one has the usual place below it.
