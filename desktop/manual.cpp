@@ -53,10 +53,12 @@ QString Open_Manual(Session& session, Screen_Kind kind) {
     if (path.isEmpty()) {
         return QStringLiteral("The manual is not beside the program.");
     }
-    QUrl address = QUrl::fromLocalFile(path);
-    if (path.endsWith(QLatin1String(".html"))) {
-        address.setFragment(Chapter_Of(kind));
-    }
+    // What opens files mostly leaves the chapter of an address behind; a page of its own leads
+    // there.
+    const QString chapter =
+        QString(path).replace(QLatin1String("manual.html"),
+                              QLatin1String("manual-") + Chapter_Of(kind) + QLatin1String(".html"));
+    const QUrl address = QUrl::fromLocalFile(QFileInfo::exists(chapter) ? chapter : path);
     const bool is_open = session.shell != nullptr &&
                          session.shell->Open(From_Qt(address.toString(QUrl::FullyEncoded)));
     return (is_open ? QStringLiteral("The manual opens: ")

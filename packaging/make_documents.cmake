@@ -16,6 +16,16 @@ if(KESTRUM_LOWDOWN)
     "${PROJECT_SOURCE_DIR}/docs/pictures/*.svg")
   file(COPY ${pictures} DESTINATION "${CMAKE_BINARY_DIR}/doc/pictures")
   file(COPY manual.css DESTINATION "${CMAKE_BINARY_DIR}/doc")
+  # What opens a file for F1 mostly leaves the chapter of its address behind, so each has a page that
+  # leads on.
+  foreach(chapter main-the-engine a-flow-test comparing-two-tests the-graph text-report)
+    file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/doc/manual-${chapter}.html" CONTENT
+      "<!DOCTYPE html>
+<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Manual - Kestrum Suite</title>
+<meta http-equiv=\"refresh\" content=\"0; url=manual.html#${chapter}\"></head>
+<body><a href=\"manual.html#${chapter}\">Manual</a></body></html>
+")
+  endforeach()
   add_custom_target(kestrum_documents ALL DEPENDS ${pages})
 else()
   message(STATUS "lowdown is not there: the documents are not made as HTML")

@@ -128,6 +128,9 @@ def check_pages(documents):
                 found = f'id="{anchor}"' in file.read_text()
             expect(found, f"{page.name}: a link leads nowhere: {target}#{anchor}")
     expect((documents / "manual.html").exists(), "the manual is not there as a page")
+    code = (ROOT / "desktop/manual.cpp").read_text()
+    for chapter in re.findall(r'return QStringLiteral\("([a-z-]+)"\);', code):
+        expect((documents / f"manual-{chapter}.html").exists(), f"F1 has no page that leads to {chapter}")
 
 
 def main():
