@@ -43,7 +43,10 @@ public:
 protected:
     void timerEvent(QTimerEvent* /*event*/) override {
         QWidget* const dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr || dialog == last_) {
+        // A chooser is in front for a moment while the box before it closes.
+        const bool stays = dialog == in_front_;
+        in_front_ = dialog;
+        if (dialog == nullptr || dialog == last_ || !stays) {
             return;
         }
         last_ = dialog;
@@ -64,6 +67,7 @@ protected:
 
 private:
     std::deque<Act> acts_;
+    QPointer<QWidget> in_front_;
     QPointer<QWidget> last_; // another dialog may stand at its address
 };
 
