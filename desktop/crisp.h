@@ -27,14 +27,6 @@ public:
     void Card(const QRectF& area, double radius, QRgb line, QRgb fill) const;
 
 private:
-    struct Round_Card {
-        QRect dots;
-        double radius; // in units
-        QRgb line;
-        QRgb fill;
-    };
-
-    void Round(const Round_Card& card) const;
     [[nodiscard]] QRectF Area_Of(const QRectF& dots) const;
 
     QPainter& painter_;

@@ -27,14 +27,23 @@ namespace {
 /// More than this of a line is never seen, and a file may bring lines of megabytes.
 constexpr qsizetype longest_line = 1000;
 
-} // namespace
+/// What would begin another line, or jump, is a blank.
+QString On_One_Line(const QString& text) {
+    QString line = text.left(longest_line);
+    for (QChar& character : line) {
+        if (character.category() == QChar::Other_Control ||
+            character == QChar(QChar::LineSeparator) ||
+            character == QChar(QChar::ParagraphSeparator)) {
+            character = QLatin1Char(' ');
+        }
+    }
+    return line;
+}
 
-namespace {
-
-/// One line, shaped once for both its width and its painting.
-class Set_Line {
+/// A line of text, shaped once for both its width and its painting.
+class Shaped_Line {
 public:
-    Set_Line(const QString& text, const QPainter& painter) : layout_(text, painter.font()) {
+    Shaped_Line(const QString& text, const QPainter& painter) : layout_(text, painter.font()) {
         QTextOption option;
         option.setWrapMode(QTextOption::NoWrap);
         layout_.setTextOption(option);
@@ -46,7 +55,16 @@ public:
 
     [[nodiscard]] int Width() const { return qRound(layout_.lineAt(0).naturalTextWidth()); }
 
-    void Paint(QPainter& painter, const QPoint& corner) const { layout_.draw(&painter, corner); }
+    void Paint(QPainter& painter, const QRect& place, const QRect& area) const {
+        if (area.contains(place)) {
+            layout_.draw(&painter, place.topLeft());
+            return;
+        }
+        painter.save();
+        painter.setClipRect(area, Qt::IntersectClip);
+        layout_.draw(&painter, place.topLeft());
+        painter.restore();
+    }
 
 private:
     QTextLayout layout_;
@@ -56,26 +74,26 @@ private:
 
 void Paint_Fitted(QPainter& painter, const QRect& area, Qt::Alignment alignment,
                   const QString& text) {
-    const QString line = text.left(longest_line).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    const QString line = On_One_Line(text);
     if (line.isEmpty()) {
         return;
     }
     const QFont usual = painter.font();
     QFont font = usual;
-    auto set = std::make_unique<Set_Line>(line, painter);
+    auto shaped = std::make_unique<Shaped_Line>(line, painter);
     while (font.pixelSize() > theme::smallest_pixels &&
-           (set->Width() > area.width() || painter.fontMetrics().ascent() > area.height())) {
+           (shaped->Width() > area.width() || painter.fontMetrics().ascent() > area.height())) {
         font.setPixelSize(font.pixelSize() - 1);
         painter.setFont(font);
-        set = std::make_unique<Set_Line>(line, painter);
+        shaped = std::make_unique<Shaped_Line>(line, painter);
     }
     const QFontMetrics metrics = painter.fontMetrics();
-    if (set->Width() > area.width()) {
+    if (shaped->Width() > area.width()) {
         const QString cut = metrics.elidedText(line, Qt::ElideRight, area.width());
-        set = std::make_unique<Set_Line>(cut, painter);
+        shaped = std::make_unique<Shaped_Line>(cut, painter);
     }
-    const QSize size(set->Width(), metrics.height());
-    set->Paint(painter, QStyle::alignedRect(Qt::LeftToRight, alignment, size, area).topLeft());
+    const QSize size(shaped->Width(), metrics.height());
+    shaped->Paint(painter, QStyle::alignedRect(Qt::LeftToRight, alignment, size, area), area);
     painter.setFont(usual);
 }
 
