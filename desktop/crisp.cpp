@@ -1,5 +1,8 @@
 #include "desktop/crisp.h"
 
+#include "base/numeric_text.h"
+#include "desktop/text_bridge.h"
+
 #include <QPen>
 #include <QPixmapCache>
 
@@ -32,19 +35,19 @@ void Trace(QPainter& painter, const QRect& dots, const Card_Look& look) {
 
 /// A card that is nothing but its four corners, traced once for each look.
 QPixmap Corners_Of(const Card_Look& look) {
-    const QString key = QStringLiteral("card %1 %2 %3 %4")
-                            .arg(look.radius)
-                            .arg(look.thickness)
-                            .arg(look.line)
-                            .arg(look.fill);
+    std::string key = "card";
+    for (const double part :
+         {look.radius, 1.0 * look.thickness, 1.0 * look.line, 1.0 * look.fill}) {
+        key += ' ' + Numeric_Text().Plain({part});
+    }
     QPixmap corners;
-    if (!QPixmapCache::find(key, &corners)) {
+    if (!QPixmapCache::find(To_Qt(key), &corners)) {
         const QRect all(0, 0, 2 * look.Corner(), 2 * look.Corner());
         corners = QPixmap(all.size());
         corners.fill(Qt::transparent);
         QPainter painter(&corners);
         Trace(painter, all, look);
-        QPixmapCache::insert(key, corners);
+        QPixmapCache::insert(To_Qt(key), corners);
     }
     return corners;
 }

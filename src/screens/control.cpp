@@ -141,20 +141,23 @@ void Control::Set_State(const Control_State& new_state) {
     }
 }
 
-/// Brings its share in the digests of the screen up to date. Results have none.
+/// Brings its share in the digests of the screen up to date.
 void Control::Take_Share() {
-    if (share_.inputs == 0 && Is_Text_Box() && state_.look.locked) {
-        return; // by far the most changes are of results
-    }
     const Input_Digests before = share_;
     share_ = Share_Of(*this);
+    share_is_old_ = false;
     screen_->digests_.figures += share_.figures - before.figures;
     screen_->digests_.inputs += share_.inputs - before.inputs;
 }
 
-/// The text, the value or whether it is entered has changed.
+/// The text, the value or whether it is entered has changed. A long text grows by many small
+/// pieces, so it is not digested before somebody asks.
 void Control::Mark_Input_Changed() {
-    Take_Share();
+    const bool is_result = share_.inputs == 0 && Is_Text_Box() && state_.look.locked;
+    if (!share_is_old_ && !is_result) { // by far the most changes are of results
+        share_is_old_ = true;
+        screen_->old_shares_.push_back(this);
+    }
     Mark_Changed();
 }
 

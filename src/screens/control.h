@@ -139,8 +139,9 @@ private:
     const Control_Entry* entry_;
     int index_;
     Control_State state_;
-    /// What is in the digests of the screen for it.
+    /// What is in the digests of the screen for it, and whether that is out of date.
     Input_Digests share_;
+    bool share_is_old_ = false;
     bool changed_ = false;
 };
 

@@ -101,23 +101,31 @@ void Screen::Set_State(const Screen_State& state) {
     kept_states_ = state.controls;
 }
 
+const Input_Digests& Screen::Present_Digests() {
+    for (Control* const control : old_shares_) {
+        control->Take_Share();
+    }
+    old_shares_.clear();
+    return digests_;
+}
+
 void Screen::Note_Calculation() {
     for (auto control = controls_.begin(); left_count_ > 0; ++control) {
         control->Set_Left(false);
     }
-    calculated_from_ = digests_.figures;
+    calculated_from_ = Present_Digests().figures;
 }
 
-bool Screen::Results_Are_Old() const {
-    return sources_changed_ || calculated_from_ != digests_.figures;
+bool Screen::Results_Are_Old() {
+    return sources_changed_ || calculated_from_ != Present_Digests().figures;
 }
 
 void Screen::Note_Saved() {
-    saved_as_ = digests_.inputs;
+    saved_as_ = Present_Digests().inputs;
 }
 
-bool Screen::Is_Unsaved() const {
-    return saved_as_ != digests_.inputs;
+bool Screen::Is_Unsaved() {
+    return saved_as_ != Present_Digests().inputs;
 }
 
 const Control_Array& Screen::Array(std::string_view array_name) const {

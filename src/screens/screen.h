@@ -107,7 +107,7 @@ public:
 
     /// The results are those of the present inputs, wherever these came from, until one changes.
     void Note_Calculation();
-    [[nodiscard]] bool Results_Are_Old() const;
+    [[nodiscard]] bool Results_Are_Old();
 
     /// Digest of the inputs that the results were worked out from.
     [[nodiscard]] std::uint64_t Calculated_From() const { return calculated_from_; }
@@ -119,7 +119,7 @@ public:
 
     /// The present inputs stand in a file, or are those that the screen begins with.
     void Note_Saved();
-    [[nodiscard]] bool Is_Unsaved() const;
+    [[nodiscard]] bool Is_Unsaved();
 
     /// A control array by its name. A name that the table lacks is a fault of the program.
     [[nodiscard]] const Control_Array& Array(std::string_view array_name) const;
@@ -129,6 +129,8 @@ protected:
 
 private:
     friend class Control;
+
+    [[nodiscard]] const Input_Digests& Present_Digests();
 
     Screen_Id id_;
     std::string name_;
@@ -142,6 +144,8 @@ private:
     int left_count_ = 0;
     // Of the inputs as they stand, as the results follow from them, and as a file has them.
     Input_Digests digests_;
+    /// Controls that have changed since `digests_` were brought up to date.
+    std::vector<Control*> old_shares_;
     std::uint64_t calculated_from_ = 0;
     std::uint64_t saved_as_ = 0;
     bool sources_changed_ = false;
