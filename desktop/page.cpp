@@ -327,7 +327,7 @@ void Page::Paint_Captions(QPainter& painter) const {
     for (const Own_Words& line : All_Own_Words()) {
         if (line.screen == context_.screen.Kind() && line.holder == holder_ &&
             line.place.column >= 0) {
-            Paint_Fitted(painter, Area_Of(line.place).adjusted(theme::text_padding, 0, -2, 0),
+            Paint_Fitted(painter, Area_Of(line.place).adjusted(theme::text_padding, 0, -2, -1),
                          Qt::AlignLeft | Qt::AlignVCenter, To_Qt(line.words));
         }
     }
@@ -350,7 +350,7 @@ void Page::Paint_Row_Heads(QPainter& painter) const {
         const Control* const head = context_.screen.Find(design_.row_heads, row);
         const QRect area = Area_Of_Row_Heads({0, row, 1, 1});
         if (head != nullptr && !area.isEmpty()) {
-            Paint_Fitted(painter, area.adjusted(theme::text_padding, 0, -theme::text_padding, 0),
+            Paint_Fitted(painter, area.adjusted(theme::text_padding, 0, -theme::text_padding, -1),
                          Qt::AlignRight | Qt::AlignVCenter, To_Qt(head->Text()));
         }
     }

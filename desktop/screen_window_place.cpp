@@ -30,7 +30,7 @@ void Screen_Window::Take_Stretched_Place() {
     scale_ = screen_->scale;
     const Twips place = Place_In_Twips(*screen_);
     const QSizeF wanted(place.width / twips_per_pixel, place.height / twips_per_pixel);
-    showNormal();
+    setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
     const QSize usual = sizeHint();
     const QSize taken = wanted.toSize().expandedTo(usual).boundedTo(Room());
     Stretch_Letters(

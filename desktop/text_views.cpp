@@ -187,8 +187,9 @@ QString Cell_View::Spoken_Name() const {
     return own == nullptr ? Shown_Text() : To_Qt(own->words) + QLatin1String(": ") + Shown_Text();
 }
 
+/// A field keeps a foot below its text; so words and figures of one row stand on one line.
 QRect Cell_View::Text_Area() const {
-    return rect().adjusted(theme::text_padding, 0, -2, 0);
+    return rect().adjusted(theme::text_padding, 0, -2, -1);
 }
 
 QRgb Cell_View::Ink() const {

@@ -11,7 +11,7 @@ namespace {
 
 /// Where the last name of a path has its ending, or the end of the path.
 std::size_t Start_Of_Ending(std::string_view path) {
-    const std::size_t name = path.rfind('/') + 1;
+    const std::size_t name = path.size() - Bare_Name(path).size();
     const std::size_t point = path.rfind('.');
     return point == std::string_view::npos || point <= name ? path.size() : point;
 }

@@ -135,6 +135,17 @@ TEST(Windows, The_Frame_Of_A_Sheet_Unloads_It_And_Quit_Does_Not) {
     EXPECT_EQ(bench.Edit("Form1.Text102(0)").text(), QStringLiteral("E7TE"));
 }
 
+TEST(Windows, That_Are_Closed_Stay_So_When_The_Screens_Are_Stretched) {
+    Desktop_Bench bench;
+    Session& session = bench.program.Its_Session();
+    bench.program.Its_Gate().Enter([&session] { session.Show(session.Form50()); });
+    QWidget& window = *bench.Widget("Form50.subend").window();
+    bench.Click("Form50.subend");
+    EXPECT_FALSE(window.isVisible());
+    bench.program.Its_Gate().Enter([&session] { session.Form50().scale = {1.5, 1.5, 1.65}; });
+    EXPECT_FALSE(window.isVisible());
+}
+
 TEST(Windows, The_Frame_Of_Main_Ends_The_Session) {
     Desktop_Bench bench;
     bench.program.Keep_Rescue_Copies();
