@@ -59,9 +59,18 @@ Wish Wanted_Folder(const Start_Options& options) {
 
 /// A folder of this user's alone; empty when there is none to be had.
 QString Stand_In_Folder() {
-    const QString own = To_Qt(Meeting_Folder({}, From_Qt(QDir::tempPath())));
-    const QString folder = own + QLatin1String("/session");
-    return !own.isEmpty() && QDir().mkpath(folder) ? folder : QString();
+    const std::string temporary = From_Qt(QDir::tempPath());
+    // Another program that ends takes it away while it is empty.
+    constexpr int most_tries = 2;
+    for (int tries = 0; tries < most_tries; ++tries) {
+        const std::string own = Meeting_Folder({}, temporary);
+        QString folder = To_Qt(own) + QLatin1String("/session");
+        if (!own.empty() && (QDir(folder).exists() || QDir().mkdir(folder)) &&
+            Meeting_Folder({}, temporary) == own) {
+            return folder;
+        }
+    }
+    return {};
 }
 
 bool Is_Session_Switch(const std::string& argument) {

@@ -16,13 +16,17 @@ namespace fs = std::filesystem;
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
+Deadline In(milliseconds time) {
+    return std::chrono::steady_clock::now() + time;
+}
+
 bool Is_Called(const Running_Program& running) {
-    return Waits_For(running.Handle(), Socket_Way::Read, seconds(10));
+    return Waits_For(running.Handle(), Socket_Way::Read, In(seconds(10)));
 }
 
 /// Bytes from a caller who may not be one of ours.
 void Call_With(const std::string& place, std::string_view bytes) {
-    const int caller = Call_Place(place);
+    const int caller = Call_Place(place, In(seconds(10)));
     ASSERT_GE(caller, 0);
     ASSERT_EQ(Send_To(caller, bytes), static_cast<int>(bytes.size()));
     Close_Socket(caller);
@@ -44,11 +48,14 @@ TEST(Running_Program, Hears_What_A_Second_Start_Says) {
 
 TEST(Running_Program, That_Hangs_Or_Ends_Does_Not_Hold_A_Second_Start) {
     const Temp_Folder folder;
+    const std::string place =
+        folder.File("meeting") + "/place"; // its folder has just been taken away
     Running_Program running;
-    ASSERT_TRUE(running.Take(folder.File("place")));
-    EXPECT_FALSE(Tell_Running_Program(folder.File("place"), Words{"x"}, milliseconds(50)));
+    ASSERT_TRUE(running.Take(place));
+    EXPECT_FALSE(Tell_Running_Program(place, Words{"x"}, milliseconds(50)));
     running.Leave();
-    EXPECT_FALSE(Tell_Running_Program(folder.File("place"), Words{"x"}, milliseconds(50)));
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{}) << "an end leaves nothing behind";
+    EXPECT_FALSE(Tell_Running_Program(place, Words{"x"}, milliseconds(50)));
 }
 
 TEST(Running_Program, Takes_No_Word_Of_A_Caller_That_Is_None_Of_Ours) {

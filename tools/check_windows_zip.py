@@ -29,12 +29,14 @@ def display(environment):
     reader, writer = os.pipe()
     server = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1920x1080x24", "-nolisten", "tcp"],
                               pass_fds=[writer], stderr=subprocess.DEVNULL)
-    os.close(writer)
-    with os.fdopen(reader) as pipe:
-        environment["DISPLAY"] = ":" + pipe.readline().strip()
-    yield
-    server.terminate()
-    server.wait()
+    try:
+        os.close(writer)
+        with os.fdopen(reader) as pipe:
+            environment["DISPLAY"] = ":" + pipe.readline().strip()
+        yield
+    finally:
+        server.terminate()
+        server.wait()
 
 
 @contextlib.contextmanager
@@ -85,7 +87,8 @@ def wait_for(path, seconds=40):
 def try_desktop(folder, home, environment):
     program = str(folder / "kestrum.exe")
     done = run([program, "--version"], environment)
-    check("the version of the desktop program", done.returncode == 0, done.stderr)
+    check("the version of the desktop program", done.returncode == 0 and b"kestrum " in done.stdout,
+          (done.stdout, done.stderr))
     first = subprocess.Popen(["wine", program], env=environment)
     lock = home / "Kestrum/rescue/in-use"  # taken when Main has been painted
     check("the windows come up, with a folder of the user's", wait_for(lock), os.listdir(home))
@@ -109,9 +112,10 @@ def main():
         with display(environment), unpacked(archives[0]) as folder:
             run(["wineboot", "-i"], environment, 120)
             users = next(iter(glob.glob(out + "/wine/drive_c/users/*/AppData/Local")), None)
-            check("wine has a user", users is not None)
-            try_command_line(folder, out, environment)
-            try_desktop(folder, pathlib.Path(users), environment)
+            check("wine has a user", users is not None, "no folder of one; the programs were not tried")
+            if users:
+                try_command_line(folder, out, environment)
+                try_desktop(folder, pathlib.Path(users), environment)
             subprocess.run(["wineserver", "-k"], env=environment, check=False)
             time.sleep(1)
     sys.exit(1 if failed else 0)

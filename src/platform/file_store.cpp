@@ -1,11 +1,13 @@
 #include "platform/file_store.h"
 
 #include "platform/file_moves.h"
+#include "platform/folder_entries.h"
 #include "platform/system_clock.h"
 
 #include <array>
 #include <chrono>
 #include <filesystem>
+#include <utility>
 
 namespace kestrum {
 
@@ -71,6 +73,15 @@ std::string Folder_Of(std::string_view path) {
 
 bool Holds_Separator(std::string_view name) {
     return name.find_first_of(separators) != std::string_view::npos;
+}
+
+std::vector<std::string> Names_In_Folder(const std::string& folder) {
+    std::vector<std::string> names;
+    static_cast<void>(Look_Through_Folder(folder, [&names](Folder_Entry entry) {
+        names.push_back(std::move(entry.name));
+        return true;
+    }));
+    return names;
 }
 
 std::string Time_Of_File(const std::string& path) {

@@ -3,6 +3,8 @@
 #include "base/byte_digest.h"
 #include "platform/file_moves.h"
 #include "platform/file_path.h"
+#include "platform/file_store.h"
+#include "platform/folder_entries.h"
 #include "platform/meeting_socket.h"
 
 #include <algorithm>
@@ -45,17 +47,11 @@ std::string Hexadecimal(std::uint64_t number) {
     return {digits.data(), end.ptr};
 }
 
-bool Is_Ready(int connection, Socket_Way way, Clock_Of_Waiting::time_point end) {
-    return Waits_For(
-        connection, way,
-        std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock_Of_Waiting::now()));
-}
-
 /// All that the other end says until it has finished; nothing when that cannot be had.
-std::optional<std::string> Everything_From(int connection, Clock_Of_Waiting::time_point end) {
+std::optional<std::string> Everything_From(int connection, Deadline end) {
     std::string all;
     std::array<char, 4096> piece{};
-    while (all.size() <= most_bytes && Is_Ready(connection, Socket_Way::Read, end)) {
+    while (all.size() <= most_bytes && Waits_For(connection, Socket_Way::Read, end)) {
         const int count = Receive_From(connection, piece);
         if (count == 0) {
             return all;
@@ -68,8 +64,8 @@ std::optional<std::string> Everything_From(int connection, Clock_Of_Waiting::tim
     return std::nullopt;
 }
 
-bool Say_All(int connection, std::string_view text, Clock_Of_Waiting::time_point end) {
-    while (!text.empty() && Is_Ready(connection, Socket_Way::Write, end)) {
+bool Say_All(int connection, std::string_view text, Deadline end) {
+    while (!text.empty() && Waits_For(connection, Socket_Way::Write, end)) {
         const int count = Send_To(connection, text);
         if (count == no_more) {
             return false;
@@ -97,14 +93,13 @@ std::optional<Words> Words_In(std::string_view text) {
     return words;
 }
 
-/// One attempt; nothing when nobody listens there, else whether it was heard.
-std::optional<bool> Tell_Once(const std::string& place, std::string_view text,
-                              Clock_Of_Waiting::time_point end) {
-    const Socket connection(Call_Place(place));
-    if (connection.Handle() < 0) {
+/// One attempt; nothing when nobody listens there yet, else whether it was heard.
+std::optional<bool> Tell_Once(const std::string& place, std::string_view text, Deadline end) {
+    const Socket connection(Call_Place(place, end));
+    if (connection.Handle() == nothing_yet) {
         return std::nullopt;
     }
-    if (!Say_All(connection.Handle(), text, end)) {
+    if (connection.Handle() == no_more || !Say_All(connection.Handle(), text, end)) {
         return false;
     }
     End_Of_Speech(connection.Handle());
@@ -130,7 +125,11 @@ Running_Program::~Running_Program() {
 
 bool Running_Program::Take(const std::string& place) {
     Leave();
-    if (!lock_.Take(place + ".lock")) {
+    const std::string lock = place + ".lock";
+    const std::string folder = Folder_Of(place);
+    // Who leaves last takes the folder away, maybe after this one has made sure of it.
+    if (!lock_.Take(lock) &&
+        (Is_Folder(folder) || !Make_Private_Folder(folder) || !lock_.Take(lock))) {
         return false;
     }
     place_ = place;
@@ -145,11 +144,11 @@ bool Running_Program::Take(const std::string& place) {
 
 std::optional<Words> Running_Program::Hear() {
     constexpr std::chrono::milliseconds patience{500}; // the windows stand still meanwhile
-    const Socket caller(Next_Caller(listening_));
+    const Deadline end = Clock_Of_Waiting::now() + patience;
+    const Socket caller(Next_Caller(listening_, end));
     if (caller.Handle() < 0) {
         return std::nullopt;
     }
-    const auto end = Clock_Of_Waiting::now() + patience;
     const std::optional<std::string> said = Everything_From(caller.Handle(), end);
     std::optional<Words> words = said ? Words_In(*said) : std::nullopt;
     if (words) {
@@ -161,14 +160,16 @@ std::optional<Words> Running_Program::Hear() {
 void Running_Program::Leave() {
     Close_Socket(listening_);
     listening_ = -1;
-    if (lock_.Is_Held() && !place_.empty()) {
+    const bool is_met = lock_.Is_Held() && !place_.empty();
+    if (is_met) {
         Forget_Place(place_);
         Remove_File(place_ + ".lock"); // while it is held, or another would lose its own
-        std::error_code others_meet_there;
-        fs::remove(File_Path(place_).parent_path(), others_meet_there); // an empty folder alone
+    }
+    lock_.Release();
+    if (is_met) {
+        Remove_Empty_Folder(Folder_Of(place_)); // others may meet there
     }
     place_.clear();
-    lock_.Release();
 }
 
 bool Tell_Running_Program(const std::string& place, std::span<const std::string> words,

@@ -16,8 +16,8 @@ struct Save_Target {
     bool exists = false;
     /// One that is there bears several names.
     bool has_other_names = false;
-    /// As the system counts them, where the save has to hand them on.
-    unsigned rights = 0;
+    /// What the system keeps with a file, in its own numbers; for the save to hand on.
+    unsigned attributes = 0;
     unsigned owner = 0;
     unsigned group = 0;
 };

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <sys/wait.h>
@@ -30,6 +31,13 @@ TEST(Running_Program, That_Was_Killed_Is_In_Nobodys_Way) {
     Running_Program next;
     EXPECT_TRUE(next.Take(place));
     EXPECT_GE(next.Handle(), 0);
+}
+
+TEST(Running_Program, That_Nobody_Can_Ever_Be_Is_Not_Waited_For) {
+    const std::string too_long(200, 'x'); // for the name of a socket
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_FALSE(Tell_Running_Program("/" + too_long, Words{"x"}, std::chrono::seconds(5)));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(500));
 }
 
 TEST(Meeting, Is_In_No_Folder_That_Others_Can_Enter) {

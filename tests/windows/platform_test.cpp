@@ -4,6 +4,7 @@
 #include "platform/file_store.h"
 #include "platform/folder_entries.h"
 #include "platform/lock_file.h"
+#include "platform/meeting_socket.h"
 #include "platform/new_file.h"
 #include "platform/passing_file.h"
 #include "platform/running_program.h"
@@ -12,9 +13,13 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <future>
+#include <thread>
+#include <winsock2.h>
+// Behind it, or it has its forerunner.
 #include <windows.h>
 
 // What a save and its neighbours do on Windows; on other systems posix/saving_test.cpp looks
@@ -192,6 +197,31 @@ TEST(Windows_Meeting, Is_In_A_Folder_Of_The_Users_Own) {
     const std::string file = folder.Write("file", "");
     EXPECT_EQ(Meeting_Folder("", file), "");
     EXPECT_EQ(Meeting_Folder("", folder.File("none")), "");
+}
+
+TEST(Windows_Meeting, Is_Not_Held_Up_By_Who_Shows_No_Token) {
+    using std::chrono::milliseconds;
+    const Temp_Folder folder;
+    const int listening = Listen_At(folder.File("place"));
+    ASSERT_GE(listening, 0);
+    const auto port = std::stoul(Read_Whole_File(folder.File("place")), nullptr, 16);
+    const SOCKET stranger = ::socket(AF_INET, SOCK_STREAM, IPPROTO_TCP);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = ::htons(static_cast<unsigned short>(port));
+    address.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
+    ASSERT_EQ(::connect(stranger, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    const auto slow_words = std::async(std::launch::async, [stranger] {
+        for (int byte = 0; byte < 20 && ::send(stranger, "g", 1, 0) == 1; ++byte) {
+            std::this_thread::sleep_for(milliseconds(100));
+        }
+    });
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_TRUE(Waits_For(listening, Socket_Way::Read, begin + milliseconds(5000)));
+    EXPECT_EQ(Next_Caller(listening, begin + milliseconds(300)), -1);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, milliseconds(1200));
+    Close_Socket(static_cast<int>(stranger));
+    Close_Socket(listening);
 }
 
 TEST(Windows_Clock, Speaks_The_Languages_Of_The_System) {

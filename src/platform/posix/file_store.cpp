@@ -39,16 +39,6 @@ std::string Join_Path(std::string_view folder, std::string_view name) {
     return (fs::path(folder) / fs::path(name)).string();
 }
 
-std::vector<std::string> Names_In_Folder(const std::string& folder) {
-    std::vector<std::string> names;
-    std::error_code failed;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        names.push_back(entry->path().filename().string());
-    }
-    return names;
-}
-
 std::string Find_Case_Blind(const std::string& path) {
     // No system opens a longer one, and each part of it costs a look into a folder.
     constexpr std::size_t longest_path = 4096;

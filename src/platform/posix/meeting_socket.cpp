@@ -33,11 +33,6 @@ bool Is_Private(const std::string& folder) {
            found.st_uid == ::geteuid() && (found.st_mode & others) == 0;
 }
 
-bool Make_Private(const std::string& folder) {
-    constexpr mode_t own = 0700;
-    return (::mkdir(folder.c_str(), own) == 0 || errno == EEXIST) && Is_Private(folder);
-}
-
 std::optional<sockaddr_un> Address_Of(const std::string& place) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -77,13 +72,19 @@ int Count_Of(ssize_t result) {
 
 } // namespace
 
+bool Make_Private_Folder(const std::string& path) {
+    constexpr mode_t own = 0700;
+    return (::mkdir(path.c_str(), own) == 0 || errno == EEXIST) && Is_Private(path);
+}
+
 std::string Meeting_Folder(std::string_view runtime_folder, std::string_view temporary_folder) {
     const std::string runtime(runtime_folder);
-    if (runtime.starts_with('/') && Is_Private(runtime) && Make_Private(runtime + "/kestrum")) {
+    if (runtime.starts_with('/') && Is_Private(runtime) &&
+        Make_Private_Folder(runtime + "/kestrum")) {
         return runtime + "/kestrum";
     }
     const std::string own = std::string(temporary_folder) + "/kestrum-" + User_Text();
-    return own.starts_with('/') && Make_Private(own) ? own : std::string();
+    return own.starts_with('/') && Make_Private_Folder(own) ? own : std::string();
 }
 
 int Listen_At(const std::string& place) {
@@ -102,23 +103,30 @@ void Forget_Place(const std::string& place) {
     ::unlink(place.c_str());
 }
 
-int Next_Caller(int listening) {
+int Next_Caller(int listening, Deadline /*end*/) {
     const int caller = ::accept4(listening, nullptr, nullptr, SOCK_CLOEXEC);
     return Kept_If(caller >= 0 && Is_Own_User(caller), caller);
 }
 
-int Call_Place(const std::string& place) {
+int Call_Place(const std::string& place, Deadline /*end*/) {
     const std::optional<sockaddr_un> address = Address_Of(place);
     if (!address) {
-        return -1;
+        return no_more;
     }
     const int connection = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    return Kept_If(::connect(connection, General(*address), sizeof *address) == 0 &&
-                       Is_Own_User(connection),
-                   connection);
+    if (::connect(connection, General(*address), sizeof *address) != 0) {
+        Close_Socket(connection);
+        return nothing_yet;
+    }
+    if (!Is_Own_User(connection)) {
+        Close_Socket(connection);
+        return no_more;
+    }
+    return connection;
 }
 
-bool Waits_For(int socket, Socket_Way way, std::chrono::milliseconds most) {
+bool Waits_For(int socket, Socket_Way way, Deadline end) {
+    const auto most = Left_Until(end);
     const short event = way == Socket_Way::Read ? POLLIN : POLLOUT;
     pollfd waiting{.fd = socket, .events = event, .revents = 0};
     return most.count() > 0 && ::poll(&waiting, 1, static_cast<int>(most.count())) == 1;

@@ -59,7 +59,7 @@ Save_Target Target_Of(const std::string& path) {
     target.exists = ::lstat(target.path.c_str(), &facts) == 0;
     target.has_other_names = target.exists && facts.st_nlink > 1;
     constexpr mode_t all_rights = 07777;
-    target.rights = facts.st_mode & all_rights;
+    target.attributes = facts.st_mode & all_rights;
     target.owner = facts.st_uid;
     target.group = facts.st_gid;
     if (target.name.empty() || (target.exists && !S_ISREG(facts.st_mode))) {
@@ -86,13 +86,13 @@ void Take_Over_Rights(const Open_File& made_file, const Save_Target& target) {
     }
     constexpr mode_t others = S_IRWXO;
     constexpr unsigned from_others_to_group = 3;
-    mode_t rights = target.rights;
+    mode_t rights = target.attributes;
     if (made.st_uid != target.owner) {
         rights &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
     }
     if (made.st_gid != target.group) {
         rights &= ~static_cast<mode_t>(S_ISUID | S_ISGID | S_IRWXG);
-        rights |= (target.rights & others) << from_others_to_group;
+        rights |= (target.attributes & others) << from_others_to_group;
     }
     if (::fchmod(handle, rights) != 0) {
         Fail_With_System_Error(errno);

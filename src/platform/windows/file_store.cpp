@@ -26,25 +26,6 @@ std::string Join_Path(std::string_view folder, std::string_view name) {
     return std::string(folder) + (has_separator ? "" : "\\") + std::string(name);
 }
 
-std::vector<std::string> Names_In_Folder(const std::string& folder) {
-    std::vector<std::string> names;
-    WIN32_FIND_DATAW entry{};
-    std::wstring all = System_Path(folder.empty() ? "." : folder);
-    all += all.ends_with(L'\\') ? L"*" : L"\\*";
-    const HANDLE search = ::FindFirstFileW(all.c_str(), &entry);
-    if (search == INVALID_HANDLE_VALUE) {
-        return names;
-    }
-    do {
-        const std::wstring_view name = entry.cFileName;
-        if (name != L"." && name != L"..") {
-            names.push_back(Narrow_Text(name));
-        }
-    } while (::FindNextFileW(search, &entry) != 0);
-    ::FindClose(search);
-    return names;
-}
-
 std::string Find_Case_Blind(const std::string& path) {
     return path;
 }

@@ -30,7 +30,9 @@ std::string Look_Through_Folder(const std::string& folder,
     WIN32_FIND_DATAW found{};
     const HANDLE search = ::FindFirstFileW(all.c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) {
-        return Words_Of_Failure(::GetLastError());
+        const DWORD why = ::GetLastError();
+        // A whole disk with nothing on it, which has no entry for itself either.
+        return why == ERROR_FILE_NOT_FOUND ? std::string() : Words_Of_Failure(why);
     }
     DWORD failure = ERROR_SUCCESS;
     bool goes_on = true;

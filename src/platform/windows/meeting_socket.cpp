@@ -4,8 +4,8 @@
 #include "platform/file_moves.h"
 #include "platform/file_store.h"
 #include "platform/running_program.h"
-#include "platform/windows/private_folder.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <optional>
@@ -62,6 +62,20 @@ bool Never_Waits(int socket) {
     return ::ioctlsocket(Of_System(socket), static_cast<long>(FIONBIO), &on) == 0;
 }
 
+/// No other user can listen at the same port, and hear tokens.
+bool Is_Alone_At_Port(int socket) {
+    constexpr int on = 1;
+    return ::setsockopt(Of_System(socket), SOL_SOCKET, SO_EXCLUSIVEADDRUSE,
+                        reinterpret_cast<const char*>(&on), sizeof on) == 0;
+}
+
+bool Connects(int socket, unsigned short port, Deadline end) {
+    const sockaddr_in address = Here(port);
+    return ::connect(Of_System(socket), reinterpret_cast<const sockaddr*>(&address),
+                     sizeof address) == 0 ||
+           (::WSAGetLastError() == WSAEWOULDBLOCK && Waits_For(socket, Socket_Way::Write, end));
+}
+
 int Kept_If(bool went_well, int socket) {
     if (went_well) {
         return socket;
@@ -112,16 +126,15 @@ bool Write_Address(const std::string& place, const Address& address) {
 }
 
 /// The token that callers of this program's own place must show.
-std::string& Own_Token() {
-    static std::string token = New_Token();
+const std::string& Own_Token() {
+    static const std::string token = New_Token();
     return token;
 }
 
-bool Shows_Token(int caller) {
-    constexpr std::chrono::milliseconds patience{500};
+bool Shows_Token(int caller, Deadline end) {
     std::string shown;
     std::array<char, token_size> room{};
-    while (shown.size() < token_size && Waits_For(caller, Socket_Way::Read, patience)) {
+    while (shown.size() < token_size && Waits_For(caller, Socket_Way::Read, end)) {
         const int count = Receive_From(caller, std::span(room).first(token_size - shown.size()));
         if (count == 0 || count == no_more) {
             return false;
@@ -144,7 +157,7 @@ int Listen_At(const std::string& place) {
     int size = sizeof address;
     constexpr int callers = 16;
     const bool went_well =
-        listening >= 0 && Never_Waits(listening) &&
+        listening >= 0 && Never_Waits(listening) && Is_Alone_At_Port(listening) &&
         ::bind(Of_System(listening), reinterpret_cast<sockaddr*>(&address), size) == 0 &&
         ::listen(Of_System(listening), callers) == 0 &&
         ::getsockname(Of_System(listening), reinterpret_cast<sockaddr*>(&address), &size) == 0 &&
@@ -156,7 +169,7 @@ void Forget_Place(const std::string& place) {
     Remove_File(place);
 }
 
-int Next_Caller(int listening) {
+int Next_Caller(int listening, Deadline end) {
     const SOCKET accepted = ::accept(Of_System(listening), nullptr, nullptr);
     if (accepted == INVALID_SOCKET) {
         return -1;
@@ -164,25 +177,23 @@ int Next_Caller(int listening) {
     const int caller = static_cast<int>(accepted);
     // It would tell of its events where the listening one does.
     ::WSAEventSelect(accepted, nullptr, 0);
-    return Kept_If(Never_Waits(caller) && Shows_Token(caller), caller);
+    return Kept_If(Never_Waits(caller) && Shows_Token(caller, end), caller);
 }
 
-int Call_Place(const std::string& place) {
+int Call_Place(const std::string& place, Deadline end) {
     const std::optional<Address> known = Address_At(place);
     const int connection = known ? New_Socket() : -1;
     if (connection < 0) {
-        return -1;
+        return nothing_yet;
     }
-    const sockaddr_in address = Here(known->port);
     const bool went_well =
-        ::connect(Of_System(connection), reinterpret_cast<const sockaddr*>(&address),
-                  sizeof address) == 0 &&
-        Send_To(connection, known->token) == static_cast<int>(token_size) &&
-        Never_Waits(connection);
+        Never_Waits(connection) && Connects(connection, known->port, end) &&
+        Send_To(connection, known->token) == static_cast<int>(token_size); // a new one has room
     return Kept_If(went_well, connection);
 }
 
-bool Waits_For(int socket, Socket_Way way, std::chrono::milliseconds most) {
+bool Waits_For(int socket, Socket_Way way, Deadline end) {
+    const auto most = Left_Until(end);
     if (most.count() <= 0) {
         return false;
     }
@@ -192,8 +203,11 @@ bool Waits_For(int socket, Socket_Way way, std::chrono::milliseconds most) {
     constexpr long in_second = 1000;
     timeval limit{.tv_sec = static_cast<long>(most.count()) / in_second,
                   .tv_usec = static_cast<long>(most.count()) % in_second * in_second};
-    const bool reads = way == Socket_Way::Read;
-    return ::select(0, reads ? &wanted : nullptr, reads ? nullptr : &wanted, nullptr, &limit) == 1;
+    if (way == Socket_Way::Read) {
+        return ::select(0, &wanted, nullptr, nullptr, &limit) > 0;
+    }
+    fd_set failed = wanted; // a call that nobody takes can never be written to
+    return ::select(0, nullptr, &wanted, &failed, &limit) > 0;
 }
 
 int Receive_From(int socket, std::span<char> room) {

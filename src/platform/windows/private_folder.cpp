@@ -1,5 +1,4 @@
-#include "platform/windows/private_folder.h"
-
+#include "platform/meeting_socket.h"
 #include "platform/windows/system_path.h"
 
 #include <aclapi.h>

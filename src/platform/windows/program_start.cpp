@@ -36,9 +36,17 @@ void Prepare_Standard_Streams() {
 }
 
 void Borrow_Terminal() {
-    if (::_get_osfhandle(::_fileno(stdout)) < 0 && ::AttachConsole(ATTACH_PARENT_PROCESS) != 0) {
-        static_cast<void>(std::freopen("CONOUT$", "w", stdout));
-        static_cast<void>(std::freopen("CONOUT$", "w", stderr));
+    // One of them may lead to a file or a pipe, and does so still.
+    std::vector<std::FILE*> lost;
+    for (std::FILE* const stream : {stdout, stderr}) {
+        if (::_get_osfhandle(::_fileno(stream)) < 0) {
+            lost.push_back(stream);
+        }
+    }
+    if (!lost.empty() && ::AttachConsole(ATTACH_PARENT_PROCESS) != 0) {
+        for (std::FILE* const stream : lost) {
+            static_cast<void>(std::freopen("CONOUT$", "w", stream));
+        }
         ::SetConsoleOutputCP(CP_UTF8);
     }
 }

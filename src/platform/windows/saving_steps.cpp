@@ -84,7 +84,7 @@ Save_Target Target_Of(const std::string& path) {
     }
     const DWORD kind = ::GetFileAttributesW(System_Path(target.path).c_str());
     target.exists = kind != INVALID_FILE_ATTRIBUTES;
-    target.rights = kind;
+    target.attributes = kind;
     // A link is left only where it leads to nothing.
     if (target.name.empty() ||
         (target.exists && ((kind & FILE_ATTRIBUTE_DIRECTORY) != 0 || Is_Link(kind)))) {
@@ -113,7 +113,7 @@ void Take_Over_Rights(const Open_File& made, const Save_Target& target) {
     constexpr DWORD marks =
         FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
     FILE_BASIC_INFO facts{}; // 0 leaves the times as they are
-    facts.FileAttributes = (target.rights & marks) | FILE_ATTRIBUTE_ARCHIVE;
+    facts.FileAttributes = (target.attributes & marks) | FILE_ATTRIBUTE_ARCHIVE;
     ::SetFileInformationByHandle(Of_System(made), FileBasicInfo, &facts, sizeof facts);
 }
 
