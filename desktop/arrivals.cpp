@@ -1,6 +1,7 @@
 #include "desktop/arrivals.h"
 
 #include "application/opened_files.h"
+#include "core/sheet_opening.h"
 #include "desktop/native_path.h"
 #include "desktop/text_bridge.h"
 #include "platform/file_store.h"
@@ -147,7 +148,7 @@ void Arrivals::Begin_New_Test() {
                             "one that you do not need any more.",
                             Box_Icon::Exclamation);
         } else {
-            session.Show(*sheet);
+            Show_With_Caption(session, *sheet);
         }
     });
     if (sheet != nullptr) {

@@ -119,6 +119,12 @@ Chart_Window::Chart_Window(Session& session, std::vector<Chart_Test> tests)
     view_->setFocus();
 }
 
+Chart_Window::~Chart_Window() {
+    if (isVisible()) {
+        Keep_Place_Of(*this); // the program ends
+    }
+}
+
 void Chart_Window::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     if (!event->spontaneous()) {

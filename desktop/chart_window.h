@@ -20,6 +20,9 @@ namespace kestrum::desktop {
 class Chart_Window : public QWidget {
 public:
     Chart_Window(Session& session, std::vector<Chart_Test> tests);
+    ~Chart_Window() override;
+    Chart_Window(const Chart_Window&) = delete;
+    Chart_Window& operator=(const Chart_Window&) = delete;
 
     [[nodiscard]] Chart_View& View() const { return *view_; }
 

@@ -1,6 +1,7 @@
 #include "desktop/library_opening.h"
 
 #include "base/text.h"
+#include "core/sheet_opening.h"
 #include "exchange/lift_rows.h"
 #include "files/kept_tests.h"
 #include "platform/file_store.h"
@@ -53,7 +54,7 @@ void Load(Session& session, const Library_Test& test, int number) {
     if (Read_Test(session, sheet, test.format, bytes)) {
         sheet.Text39.Set_Text(test.path);
     }
-    session.Show(sheet);
+    Show_With_Caption(session, sheet);
 }
 
 } // namespace

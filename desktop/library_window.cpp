@@ -1,5 +1,6 @@
 #include "desktop/library_window.h"
 
+#include "core/sheet_opening.h"
 #include "desktop/chart_window.h"
 #include "desktop/library_opening.h"
 #include "desktop/text_bridge.h"
@@ -346,7 +347,7 @@ void Library_Window::Open_Current_In(int sheet_number) {
 
 void Library_Window::Open(const Library_Entry& entry, int sheet_number) {
     if (entry.sheet != 0) {
-        gate_.Enter_Command([&] { session_.Show(session_.Sheet(entry.sheet)); });
+        gate_.Enter_Command([&] { Show_With_Caption(session_, session_.Sheet(entry.sheet)); });
         return;
     }
     const int number = sheet_number != 0 ? sheet_number : Next_Free_Sheet(session_);

@@ -48,6 +48,12 @@ QString Path_Of_Manual() {
 
 } // namespace
 
+QString Page_Of_Chapter(const QString& manual, Screen_Kind kind) {
+    const QFileInfo whole(manual);
+    return whole.dir().filePath(whole.completeBaseName() + QLatin1Char('-') + Chapter_Of(kind) +
+                                QLatin1Char('.') + whole.suffix());
+}
+
 QString Open_Manual(Session& session, Screen_Kind kind) {
     const QString path = Path_Of_Manual();
     if (path.isEmpty()) {
@@ -55,9 +61,7 @@ QString Open_Manual(Session& session, Screen_Kind kind) {
     }
     // What opens files mostly leaves the chapter of an address behind; a page of its own leads
     // there.
-    const QString chapter =
-        QString(path).replace(QLatin1String("manual.html"),
-                              QLatin1String("manual-") + Chapter_Of(kind) + QLatin1String(".html"));
+    const QString chapter = Page_Of_Chapter(path, kind);
     const QUrl address = QUrl::fromLocalFile(QFileInfo::exists(chapter) ? chapter : path);
     const bool is_open = session.shell != nullptr &&
                          session.shell->Open(From_Qt(address.toString(QUrl::FullyEncoded)));

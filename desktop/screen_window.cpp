@@ -262,6 +262,7 @@ void Screen_Window::Refresh() {
         Show_Changed(*control);
     }
     Show_Age_Of_Results();
+    Show_Words_Of_Pointed();
     Tell_Pages(changes);
     if (scale_ != screen_->scale && placed_) {
         Take_Stretched_Place();

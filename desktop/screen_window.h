@@ -84,6 +84,7 @@ private:
     void Show_Title();
     void Name_Test(const Control& control);
     void Show_Age_Of_Results();
+    void Show_Words_Of_Pointed();
     void Keep_What_Closes();
     void Make_Content();
     void Keep_View(Control_View& view);
@@ -115,6 +116,7 @@ private:
     Page* front_ = nullptr;
     Cover* cover_ = nullptr;
     Help_Line* help_ = nullptr;
+    const Control* pointed_ = nullptr; // the one that the mouse was over last
     bool tab_order_stale_ = false;
     bool plain_pointer_ = false;
     bool results_are_old_ = false;

@@ -178,15 +178,9 @@ void Screen_Window::Hovered(Control& control) {
     }
     Name_Test(control);
     help_->Forget();
-    const QString age = Words_Of_Age(control);
-    if (screen_->Find("Label7", std::nullopt) == nullptr) {
-        help_->Show_Words(age.isEmpty() ? Lines_To_Qt(control.Entry().tip) : age);
-        return;
-    }
+    pointed_ = &control;
     gate_.Enter([&] { Hover_Over(control); });
-    if (!age.isEmpty()) {
-        help_->Show_Words(age);
-    }
+    Show_Words_Of_Pointed();
 }
 
 void Screen_Window::Hovered_Form() {
@@ -194,11 +188,26 @@ void Screen_Window::Hovered_Form() {
         return;
     }
     help_->Forget();
-    if (screen_->Find("Label7", std::nullopt) == nullptr) {
-        help_->Show_Words(QString());
+    pointed_ = nullptr;
+    gate_.Enter([this] { Hover_Over_Form(*screen_); });
+    Show_Words_Of_Pointed();
+}
+
+/// A result is brought up to date, and an input edited, while the mouse rests on it, too.
+void Screen_Window::Show_Words_Of_Pointed() {
+    if (screen_ == nullptr) {
         return;
     }
-    gate_.Enter([this] { Hover_Over_Form(*screen_); });
+    const QString age = pointed_ == nullptr ? QString() : Words_Of_Age(*pointed_);
+    const Control* const label = screen_->Find("Label7", std::nullopt);
+    Control_View* const words = label == nullptr ? nullptr : View_Of(*label);
+    if (!age.isEmpty()) {
+        help_->Show_Words(age);
+    } else if (words != nullptr) {
+        words->Refresh();
+    } else {
+        help_->Show_Words(pointed_ == nullptr ? QString() : Lines_To_Qt(pointed_->Entry().tip));
+    }
 }
 
 void Screen_Window::Move_Focus(const Control_View& from, Direction direction) {

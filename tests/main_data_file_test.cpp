@@ -114,6 +114,21 @@ TEST(Main_Data_File, The_Path_Is_Known_Though_There_Is_No_Such_File) {
     }
 }
 
+TEST(Main_Data_File,
+     What_The_User_Loads_Tells_Of_Unnamed_Inputs_And_What_The_Start_Reads_Does_Not) {
+    Test_Bench bench;
+    const std::string path = bench.folder.Write("main.dta", "Text104_3 = 4.25\r\n");
+    const auto is_marked = [&] { return bench.At("Main.Text33").Is_Left(); };
+    bench.session.file.path = path;
+    EXPECT_TRUE(Load_Session_File(bench.session));
+    EXPECT_EQ(bench.Get("Main.Text104(3)"), "4.25");
+    EXPECT_EQ(bench.session.file.news, "");
+    EXPECT_FALSE(is_marked());
+    EXPECT_TRUE(Load_Main_File(bench.session, path));
+    EXPECT_NE(bench.session.file.news, "");
+    EXPECT_TRUE(is_marked());
+}
+
 TEST(Main_Data_File, Files_Of_Both_Separators_Serve_In_One_Session) {
     for (const char* const point : {".", ","}) {
         Test_Bench bench({.point = point});

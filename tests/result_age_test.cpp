@@ -105,6 +105,7 @@ TEST(Result_Age, A_Comparison_Grows_Old_When_A_Test_Of_It_Holds_Other_Figures) {
     static_cast<void>(bench.Click("Main.Check2"));
     EXPECT_TRUE(is_old()) << "the sheets are metric, the table is not";
     static_cast<void>(bench.Click("Form50.Command1"));
+    EXPECT_FALSE(table.Results_Are_Old()) << "also before the next look";
     EXPECT_FALSE(is_old());
     static_cast<void>(bench.Close("Form1"));
     EXPECT_TRUE(is_old());

@@ -1,6 +1,7 @@
 #include "application/commands.h"
 #include "application/full_screen.h"
 #include "application/start_up.h"
+#include "core/sheet_opening.h"
 #include "engine/engine_calculation.h"
 #include "engine/mode_switches.h"
 #include "engine/port_calculators.h"
@@ -29,8 +30,7 @@ namespace {
 template <int number>
 void Open_Sheet(Session& session, Control& /*control*/) {
     Flow_Sheet& sheet = session.Sheet(number);
-    sheet.caption = session.title_text + " -- " + Title_Of(sheet.Id());
-    session.Show(sheet);
+    Show_With_Caption(session, sheet);
     session.windows.Focus(sheet.Text108(7));
 }
 

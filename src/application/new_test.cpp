@@ -17,6 +17,7 @@ bool Is_Lift(const Control_Entry& entry) {
 
 std::vector<Control*> Begin_New_Test(Flow_Sheet& sheet, New_Test kind) {
     std::vector<Control*> zeroed;
+    sheet.Text39.Set_Text(""); // the file is the old test's, and a save would propose its name
     for (Control& control : sheet.Controls()) {
         const Control_Entry& entry = control.Entry();
         const bool is_input =

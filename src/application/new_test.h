@@ -12,8 +12,8 @@ enum class New_Test {
     From_This_Head // the head stays, what was measured goes
 };
 
-/// Puts "0" into the number inputs and empties the texts. Gives the cells that hold a zero now,
-/// which their checks would refuse though nobody has typed it.
+/// Puts "0" into the number inputs, empties the texts and forgets the sheet's file. Gives the cells
+/// that hold a zero now, which their checks would refuse though nobody has typed it.
 std::vector<Control*> Begin_New_Test(Flow_Sheet& sheet, New_Test kind);
 
 } // namespace kestrum

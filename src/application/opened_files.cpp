@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "core/null_platform.h"
+#include "core/sheet_opening.h"
 #include "exchange/test_formats.h"
 #include "files/flow_data_file.h"
 #include "files/main_data_file.h"
@@ -78,7 +79,7 @@ void Open_Test(Session& session, Flow_Sheet& sheet, const std::string& path) {
         }
         // Also when the reading has stopped: what was read by then stands in the sheet.
         sheet.Text39.Set_Text(path);
-        session.Show(sheet);
+        Show_With_Caption(session, sheet);
     }
 }
 

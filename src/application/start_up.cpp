@@ -73,7 +73,7 @@ void Keep_Bad_File(const std::string& path, const std::string& folder) {
 void Restore_Last_Session(Session& session) {
     session.file.path = Session_File(session);
     const std::string path = session.file.path;
-    if (Can_Be_Read(path) && !Load_Main_File(session, path)) {
+    if (Can_Be_Read(path) && !Load_Session_File(session)) {
         Keep_Bad_File(path, session.surroundings.folder);
     }
 }

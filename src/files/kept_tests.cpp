@@ -1,5 +1,6 @@
 #include "files/kept_tests.h"
 
+#include "core/sheet_opening.h"
 #include "files/flow_data_file.h"
 #include "platform/file_moves.h"
 #include "platform/file_store.h"
@@ -99,7 +100,7 @@ void Bring_Back_Last_Session(Session& session) {
         const std::string name = Name_In_Last_Session(number);
         if (Has_Kept_Test(session, name)) {
             Bring_Back_Test(session, session.Sheet(number), name);
-            session.Show(session.Sheet(number));
+            Show_With_Caption(session, session.Sheet(number));
         }
     }
 }

@@ -9,6 +9,8 @@
 #include "records/record_reading.h"
 #include "records/unnamed_inputs.h"
 
+#include <optional>
+
 namespace kestrum {
 
 namespace {
@@ -49,6 +51,50 @@ std::string Proposal_For(const Session& session) {
     return path.empty() ? "main" + std::string(main_data_ending) : path;
 }
 
+/// Whether the user hears of inputs that the file does not name.
+enum class Unnamed { Are_Told, Are_Passed_Over };
+
+bool Read_Main(Session& session, std::string_view bytes, Unnamed those) {
+    const std::string content = Decoded(bytes);
+    Line_Reader lines(content);
+    Engine_Screen& main = session.Main();
+    Unnamed_Inputs unnamed(main);
+    const auto put = [&](const Record& record) {
+        return unnamed.Saw(Put_Main_Record(session, record));
+    };
+    const auto tell = [&] {
+        if (those == Unnamed::Are_Told) {
+            unnamed.Tell(session);
+        }
+    };
+    try {
+        const bool is_whole = Read_Records(session, lines, main.Text38, main_data_reading, put);
+        unnamed.Note(is_whole);
+        if (!is_whole) {
+            tell();
+            return false;
+        }
+        Apply_Decimal_Mode(session.numbers, main);
+        Calc_Engine(session);
+        tell();
+    } catch (const Run_Time_Error& failure) {
+        unnamed.Note(false);
+        Report_Bad_Record(session, failure, lines.Line());
+        return false;
+    }
+    return true;
+}
+
+/// Nothing when the file cannot be read, which is told.
+std::optional<std::string> Bytes_Of_Main_File(Session& session, std::string_view name) {
+    try {
+        return Bytes_Of_File(session, name, main_data_filter);
+    } catch (const Run_Time_Error&) {
+        session.Message("MAIN Data File has Not been Loaded");
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 std::string Main_File_Text(Session& session) {
@@ -79,44 +125,22 @@ bool Save_Main_File(Session& session) {
 }
 
 bool Load_Main_File(Session& session, std::string_view name) {
-    std::string bytes;
-    try {
-        bytes = Bytes_Of_File(session, name, main_data_filter);
-    } catch (const Run_Time_Error&) {
-        session.Message("MAIN Data File has Not been Loaded");
-        return false;
-    }
-    const bool is_read = Read_Main_Records(session, bytes);
+    const std::optional<std::string> bytes = Bytes_Of_Main_File(session, name);
+    const bool is_read = bytes && Read_Main_Records(session, *bytes);
     if (is_read && name.empty()) {
         Take_As_Used(session);
     }
     return is_read;
 }
 
+bool Load_Session_File(Session& session) {
+    const std::string path = session.file.path;
+    const std::optional<std::string> bytes = Bytes_Of_Main_File(session, path);
+    return bytes && Read_Main(session, *bytes, Unnamed::Are_Passed_Over);
+}
+
 bool Read_Main_Records(Session& session, std::string_view bytes) {
-    const std::string content = Decoded(bytes);
-    Line_Reader lines(content);
-    Engine_Screen& main = session.Main();
-    Unnamed_Inputs unnamed(main);
-    const auto put = [&](const Record& record) {
-        return unnamed.Saw(Put_Main_Record(session, record));
-    };
-    try {
-        const bool is_whole = Read_Records(session, lines, main.Text38, main_data_reading, put);
-        unnamed.Note(is_whole);
-        if (!is_whole) {
-            unnamed.Tell(session);
-            return false;
-        }
-        Apply_Decimal_Mode(session.numbers, main);
-        Calc_Engine(session);
-        unnamed.Tell(session);
-    } catch (const Run_Time_Error& failure) {
-        unnamed.Note(false);
-        Report_Bad_Record(session, failure, lines.Line());
-        return false;
-    }
-    return true;
+    return Read_Main(session, bytes, Unnamed::Are_Told);
 }
 
 void Restore_Main_Inputs(Session& session, std::string_view bytes, bool same_separator) {

@@ -18,6 +18,10 @@ bool Save_Main_File(Session& session);
 /// the file was read to its end and the engine calculated.
 bool Load_Main_File(Session& session, std::string_view name);
 
+/// Brings back what the last exit wrote to the session's `file_path`. Nobody has loaded anything:
+/// what the file does not name is neither told nor marked.
+bool Load_Session_File(Session& session);
+
 /// The same from a file's bytes.
 bool Read_Main_Records(Session& session, std::string_view bytes);
 

@@ -114,6 +114,7 @@ void Screen::Note_Calculation() {
         control->Set_Left(false);
     }
     calculated_from_ = Present_Digests().figures;
+    sources_changed_ = false;
 }
 
 bool Screen::Results_Are_Old() {

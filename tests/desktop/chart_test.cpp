@@ -158,8 +158,16 @@ TEST_F(Chart_On_Screen, Opens_The_Next_Time_As_The_User_Has_Left_It) {
     EXPECT_FALSE(next(false).cam_lift) << "it is that of a head";
     EXPECT_EQ(next(true).flow_unit, Flow_Unit::Cubic_Metres);
     EXPECT_EQ(next(true).lift_unit, Lift_Unit::Millimetre);
-    const Chart_Window again(bench.program.Its_Session(), {Head_Named("stock", 100)});
-    EXPECT_EQ(again.size(), window.size());
+    const auto head = [&] { return std::vector{Head_Named("stock", 100)}; };
+    QSize left;
+    {
+        Chart_Window again(bench.program.Its_Session(), head());
+        EXPECT_EQ(again.size(), window.size());
+        again.show();
+        again.resize(again.width(), 555);
+        left = again.size();
+    } // as at the program's end
+    EXPECT_EQ(Chart_Window(bench.program.Its_Session(), head()).size(), left);
 }
 
 /// The page goes to the preview with the shop's name; a drawing of paper is white.

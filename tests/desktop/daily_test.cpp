@@ -2,6 +2,7 @@
 #include "desktop/text_bridge.h"
 #include "desktop/user_settings.h"
 #include "platform/file_store.h"
+#include "records/named_files.h"
 #include "tests/desktop/desktop_bench.h"
 
 #include <QAction>
@@ -41,6 +42,7 @@ TEST(Daily, An_Edit_Greys_The_Results_And_Marks_The_Title_Until_They_Are_Done) {
     EXPECT_EQ(bench.Help("Form1"),
               "This result is from before the last change. Calculate brings it up to date.");
     bench.Press(Qt::Key_F9);
+    EXPECT_EQ(bench.Help("Form1"), "") << "the mouse still rests on the result";
     EXPECT_EQ(bench.Widget("Form1.Text102(25)").grab().toImage(), fresh);
     bench.dialogs.Choose(bench.folder.File("run.dat"));
     bench.Press(Qt::Key_S, Qt::ControlModifier);
@@ -138,6 +140,28 @@ TEST(Daily, The_Last_Files_Come_Back_From_Their_Menu) {
     EXPECT_EQ(bench.Take_Events(), Events{});
 }
 
+TEST(Daily, A_New_Test_Leaves_The_File_Of_The_Old_One_Alone) {
+    for (const char* const entry : {"NewFromThisHead", "NewTest"}) {
+        Desktop_Bench bench;
+        bench.Open_Sheet();
+        const std::string old = bench.folder.File("stock.dat");
+        bench.dialogs.Choose(old);
+        bench.Press(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(bench.Text("Form1.Text39"), old);
+        Window_Of(bench, "Form1.Text39")
+            .findChild<QAction*>(QStringLiteral("Form1.File.") + QLatin1String(entry))
+            ->trigger();
+        EXPECT_EQ(bench.Text("Form1.Text39"), "");
+        bench.At("Form1.Text102(0)").Set_Text("Ported");
+        EXPECT_EQ(
+            Proposal_For(bench.program.Its_Session(), bench.program.Its_Session().Sheet(1), ".dat"),
+            "Ported.dat");
+        bench.Press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(bench.Text("Form1.Text39"), old);
+        bench.Take_Events();
+    }
+}
+
 TEST(Daily, A_Window_Opens_Where_It_Was_And_Never_Off_The_Displays) {
     QSize size;
     QPoint place;
@@ -182,6 +206,12 @@ TEST(Daily, The_Manual_Has_A_Chapter_For_Each_Screen) {
                                    Screen_Kind::Graph, Screen_Kind::Report}) {
         EXPECT_TRUE(anchors.contains(Chapter_Of(kind))) << From_Qt(Chapter_Of(kind));
     }
+}
+
+TEST(Daily, The_Page_Of_A_Chapter_Lies_Beside_The_Manual) {
+    EXPECT_EQ(
+        Page_Of_Chapter(QStringLiteral("/of manual.html/doc/manual.html"), Screen_Kind::Graph),
+        QStringLiteral("/of manual.html/doc/manual-the-graph.html"));
 }
 
 } // namespace

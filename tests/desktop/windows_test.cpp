@@ -1,4 +1,5 @@
 #include "desktop/text_bridge.h"
+#include "files/kept_tests.h"
 #include "tests/desktop/desktop_bench.h"
 
 #include <QAccessible>
@@ -159,6 +160,21 @@ TEST(Windows, The_Frame_Of_Main_Ends_The_Session) {
     EXPECT_NE(bench.folder.Read("kept-tests/last-1.dat").find("mine"), std::string::npos)
         << "the sheet that was worked on can be brought back";
     EXPECT_EQ(bench.program.Exit_Status(), 0);
+}
+
+TEST(Windows, What_Comes_Back_Has_The_Title_That_It_Was_Opened_With) {
+    Desktop_Bench bench;
+    Session& session = bench.program.Its_Session();
+    bench.Open_Sheet();
+    bench.Enter("Form1.Text102(0)", "mine");
+    const QString title = bench.Widget("Form1.Text102(0)").window()->windowTitle();
+    Keep_Last_Session(session);
+    session.Unload(session.Sheet(1));
+    bench.Widget("Main.Command51")
+        .window()
+        ->findChild<QAction*>(QStringLiteral("Main.File.BringBackLastSession'sTests"))
+        ->trigger();
+    EXPECT_EQ(bench.Widget("Form1.Text102(0)").window()->windowTitle(), title);
 }
 
 TEST(Windows, Rescue_Copies_Show_The_State_Before_A_Command_That_Failed) {
