@@ -93,6 +93,7 @@ void Library_Table::Set_Column_Order(const std::vector<std::string>& names) {
 
 std::vector<std::string> Library_Table::Column_Order() const {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(horizontalHeader()->count()));
     for (int place = 0; place < horizontalHeader()->count(); ++place) {
         names.emplace_back(Name_At(horizontalHeader()->logicalIndex(place)));
     }
