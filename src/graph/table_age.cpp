@@ -1,10 +1,9 @@
 #include "graph/table_age.h"
 
+#include "base/byte_digest.h"
+
 #include <algorithm>
-#include <cstddef>
 #include <deque>
-#include <functional>
-#include <string>
 #include <utility>
 
 namespace kestrum {
@@ -15,8 +14,8 @@ namespace {
 /// Undo brings an earlier table back, and then its own tests count.
 struct Filled_Tables {
     struct Filled {
-        std::size_t table = 0;
-        std::size_t tests = 0;
+        std::uint64_t table = 0;
+        std::uint64_t tests = 0;
 
         bool operator==(const Filled&) const = default;
     };
@@ -34,36 +33,38 @@ bool Is_Compared(const Control& control) {
     return control.Entry().use == Cell_Use::Result || array == "Text101" || array == "Text207";
 }
 
-void Add_Compared(std::string& texts, const Flow_Sheet& sheet) {
-    for (const Control& control : sheet.Controls()) {
-        if (control.Is_Text_Box() && Is_Compared(control)) {
-            texts += control.Text() + '\0';
-        }
-    }
+void Add_Text(Byte_Digest& digest, const Control& control) {
+    digest.Add(control.Text());
+    digest.Add('\0');
 }
 
-std::size_t Digest_Of_Tests(Session& session) {
-    std::string texts;
+std::uint64_t Digest_Of_Tests(Session& session) {
+    Byte_Digest digest;
     for (const Control_Array* const chosen :
          {&session.Form50().Option1, &session.Form50().Option2}) {
         const int number = Compare_Screen::Chosen(*chosen) + 1;
+        digest.Add(static_cast<char>(number));
         // A sheet that was closed holds the sample when it comes back, and is not made for this.
-        texts += static_cast<char>('0' + number);
-        if (session.Is_Loaded({Screen_Kind::Sheet, number})) {
-            Add_Compared(texts, session.Sheet(number));
+        if (!session.Is_Loaded({Screen_Kind::Sheet, number})) {
+            continue;
+        }
+        for (const Control& control : session.Sheet(number).Controls()) {
+            if (control.Is_Text_Box() && Is_Compared(control)) {
+                Add_Text(digest, control);
+            }
         }
     }
-    return std::hash<std::string>{}(texts);
+    return digest.Value();
 }
 
-std::size_t Digest_Of_Table(const Compare_Screen& table) {
-    std::string texts;
+std::uint64_t Digest_Of_Table(const Compare_Screen& table) {
+    Byte_Digest digest;
     for (const Control& control : table.Controls()) {
         if (control.Entry().use == Cell_Use::Result) {
-            texts += control.Text() + '\0';
+            Add_Text(digest, control);
         }
     }
-    return std::hash<std::string>{}(texts);
+    return digest.Value();
 }
 
 } // namespace
